@@ -1,0 +1,19 @@
+# Headers under include/lmrtext, the two libraries, the program, the CMake package and pkg-config.
+include(CMakePackageConfigHelpers)
+
+set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/lmrtext)
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/lmrtext)
+
+install(TARGETS lmrtext kovrhost lmrtext_host_interface EXPORT lmrtextTargets
+        FILE_SET HEADERS DESTINATION ${header_folder})
+install(EXPORT lmrtextTargets NAMESPACE lmrtext:: DESTINATION ${package_folder})
+
+configure_package_config_file(cmake/lmrtextConfig.cmake.in lmrtextConfig.cmake
+                              INSTALL_DESTINATION ${package_folder})
+write_basic_package_version_file(lmrtextConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/lmrtextConfig.cmake
+              ${PROJECT_BINARY_DIR}/lmrtextConfigVersion.cmake
+        DESTINATION ${package_folder})
+
+configure_file(cmake/lmrtext.pc.in lmrtext.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/lmrtext.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,6 @@
+# Builds for 32-bit x86 Linux with the compiler of a 64-bit one.
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR i686)
+set(CMAKE_C_FLAGS_INIT -m32)
+set(CMAKE_CXX_FLAGS_INIT -m32)
+set(CMAKE_CROSSCOMPILING_EMULATOR "")

@@ -1,0 +1,62 @@
+#include "host/Regex.h"
+
+#include <cstdint>
+#include <stdexcept>
+
+#include "default_host/RegexMatch.h"
+
+namespace {
+
+std::string message(int error) {
+    PCRE2_UCHAR text[256];
+    pcre2_get_error_message(error, text, sizeof text);
+    return reinterpret_cast<const char*>(text);
+}
+
+}  // namespace
+
+struct Regex::Program {
+    struct Free {
+        void operator()(pcre2_code* code) const { pcre2_code_free(code); }
+    };
+    std::unique_ptr<pcre2_code, Free> code;
+    std::uint32_t numbers = 0;  // of the parenthesised groups and the whole match
+};
+
+Regex::Regex(const std::string& pattern, unsigned int options)
+    : program_(std::make_unique<Program>()) {
+    if ((options & ~free_spacing) != 0) {
+        throw std::invalid_argument("Regex: unknown option in " + std::to_string(options));
+    }
+    int error = 0;
+    PCRE2_SIZE offset = 0;
+    program_->code.reset(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.data()), pattern.size(),
+                                       (options & free_spacing) != 0 ? PCRE2_EXTENDED : 0, &error,
+                                       &offset, nullptr));
+    if (!program_->code) {
+        throw std::invalid_argument("Regex: " + message(error) + " at position " +
+                                    std::to_string(offset) + " of '" + pattern + "'");
+    }
+    pcre2_pattern_info(program_->code.get(), PCRE2_INFO_CAPTURECOUNT, &program_->numbers);
+    ++program_->numbers;
+    // Where the machine has no just-in-time compiler the interpreter gives the same matches.
+    pcre2_jit_compile(program_->code.get(), PCRE2_JIT_COMPLETE);
+}
+
+Regex::~Regex() = default;
+
+bool Regex::search_from_position(const std::string& text, unsigned int position,
+                                 RegexResults& results, unsigned int /*flags*/) const {
+    const pcre2_code* code = program_->code.get();
+    if (!results.match_) results.match_ = std::make_unique<RegexResults::Match>();
+    RegexResults::Match& match = *results.match_;
+    match.prepare(program_->numbers);
+    if (position > text.size()) return false;
+    const int found = pcre2_match(code, reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(),
+                                  position, 0, match.data.get(), nullptr);
+    if (found == PCRE2_ERROR_NOMATCH) return false;
+    if (found < 0) throw std::runtime_error("Regex: " + message(found));
+    match.text = &text;
+    match.size = program_->numbers;
+    return true;
+}

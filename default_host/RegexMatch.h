@@ -1,0 +1,23 @@
+#pragma once
+
+#define PCRE2_CODE_UNIT_WIDTH 8
+#include <pcre2.h>
+
+#include <memory>
+#include <string>
+
+#include "host/RegexResults.h"
+
+/// The match data of the searches that fill one RegexResults in turn.
+struct RegexResults::Match {
+    struct Free {
+        void operator()(pcre2_match_data* data) const { pcre2_match_data_free(data); }
+    };
+
+    std::unique_ptr<pcre2_match_data, Free> data;
+    const std::string* text = nullptr;
+    unsigned int size = 0;
+
+    /// Empties the match and sees to it that it has room for `numbers` numbers.
+    void prepare(unsigned int numbers);
+};

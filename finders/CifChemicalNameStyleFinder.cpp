@@ -1,0 +1,111 @@
+#include "finders/CifChemicalNameStyleFinder.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "host/Regex.h"
+#include "host/RegexResults.h"
+
+namespace {
+
+const Regex subscript_regex("~[^~]*~");
+const Regex superscript_regex("\\^[^\\^]*\\^");
+const Regex greek_regex("\\\\[[:alpha:]]");
+
+struct GreekLookupEntry {
+    char letter;
+    TextItem::GreekSymbol symbol;
+};
+
+// Searched from the front, so that "f" is delta; phi cannot be reached, and d, j and v stand for
+// nothing. Entries were written with these codes and must read back as they always did.
+constexpr GreekLookupEntry greek_lookup[] = {
+    {'a', TextItem::alpha},  {'b', TextItem::beta},    {'c', TextItem::chi},
+    {'f', TextItem::delta},  {'e', TextItem::epsilon}, {'f', TextItem::phi},
+    {'g', TextItem::gamma},  {'h', TextItem::eta},     {'i', TextItem::iota},
+    {'k', TextItem::kappa},  {'l', TextItem::lambda},  {'m', TextItem::mu},
+    {'n', TextItem::nu},     {'o', TextItem::omicron}, {'p', TextItem::pi},
+    {'q', TextItem::theta},  {'r', TextItem::rho},     {'s', TextItem::sigma},
+    {'t', TextItem::tau},    {'u', TextItem::upsilon}, {'w', TextItem::omega},
+    {'x', TextItem::xi},     {'y', TextItem::psi},     {'z', TextItem::zeta},
+    {'D', TextItem::cdelta}, {'L', TextItem::clambda},
+};
+static_assert(std::size(greek_lookup) == TextItem::clambda, "every letter has one row");
+
+struct MatchesLetter {
+    char letter;
+    bool operator()(const GreekLookupEntry& entry) const { return entry.letter == letter; }
+};
+
+/// The lower-case form in the "C" locale.
+char to_lower(char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+TextItem::GreekSymbol to_greek(char letter) {
+    const auto* const end = std::end(greek_lookup);
+    const auto* row = std::find_if(std::begin(greek_lookup), end, MatchesLetter{letter});
+    if (row == end)
+        row = std::find_if(std::begin(greek_lookup), end, MatchesLetter{to_lower(letter)});
+    return row == end ? TextItem::no_symbol : row->symbol;
+}
+
+struct ProcessSubSuperscript {
+    std::vector<StringSlice>& enclosed;
+    std::vector<StringSlice>& invisible;
+
+    void operator()(const std::string& /*text*/, const RegexResults& match) const {
+        const unsigned int start = match.start();
+        const unsigned int end = match.end();
+        enclosed.emplace_back(start + 1, end - 1);
+        invisible.emplace_back(start, start + 1);
+        invisible.emplace_back(end - 1, end);
+    }
+};
+
+struct ProcessGreek {
+    std::vector<GreekSlice>& greek;
+
+    void operator()(const std::string& text, const RegexResults& match) const {
+        greek.emplace_back(match.start(), match.end(), to_greek(text[match.start() + 1]));
+    }
+};
+
+/// Calls process(text, match) for every match in `text`, in order.
+template <class Process>
+void regex_grep(const Regex& regex, const std::string& text, Process process) {
+    RegexResults match;
+    unsigned int position = 0;
+    while (position < text.size() && regex.search_from_position(text, position, match)) {
+        process(text, match);
+        position = match.end() > match.start() ? match.end() : position + 1;
+    }
+}
+
+}  // namespace
+
+CifChemicalNameStyleFinder::~CifChemicalNameStyleFinder() = default;
+
+void CifChemicalNameStyleFinder::subscripts(std::vector<StringSlice>& out) const {
+    out.insert(out.end(), subscripts_.begin(), subscripts_.end());
+}
+
+void CifChemicalNameStyleFinder::superscripts(std::vector<StringSlice>& out) const {
+    out.insert(out.end(), superscripts_.begin(), superscripts_.end());
+}
+
+void CifChemicalNameStyleFinder::invisible(std::vector<StringSlice>& out) const {
+    out.insert(out.end(), invisible_.begin(), invisible_.end());
+}
+
+void CifChemicalNameStyleFinder::greek(std::vector<GreekSlice>& out) const {
+    out.insert(out.end(), greek_.begin(), greek_.end());
+}
+
+void CifChemicalNameStyleFinder::calc_tag_positions() {
+    greek_.clear();
+    subscripts_.clear();
+    superscripts_.clear();
+    invisible_.clear();
+    regex_grep(subscript_regex, text(), ProcessSubSuperscript{subscripts_, invisible_});
+    regex_grep(superscript_regex, text(), ProcessSubSuperscript{superscripts_, invisible_});
+    regex_grep(greek_regex, text(), ProcessGreek{greek_});
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "finders/InputTextStyleFinder.h"
+
+/// Finds the styles of a chemical name in the text conventions of CIF files: subscripts between
+/// "~", superscripts between "^", both markers invisible, and Greek letters as a backslash and a
+/// letter.
+class CifChemicalNameStyleFinder : public InputTextStyleFinder {
+public:
+    ~CifChemicalNameStyleFinder() override;
+
+    void subscripts(std::vector<StringSlice>& out) const override;
+    void superscripts(std::vector<StringSlice>& out) const override;
+    /// The two markers of each subscript, then of each superscript.
+    void invisible(std::vector<StringSlice>& out) const override;
+    /// Each covers a backslash and its letter. "\f" is delta; a letter that stands for nothing,
+    /// such as that of "\d", gives a slice with no_symbol.
+    void greek(std::vector<GreekSlice>& out) const override;
+    /// Finds everything once, for the queries to copy; throws what Regex throws.
+    void calc_tag_positions() override;
+
+private:
+    std::vector<GreekSlice> greek_;
+    std::vector<StringSlice> subscripts_;
+    std::vector<StringSlice> superscripts_;
+    std::vector<StringSlice> invisible_;
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "text/ColorSlice.h"
+#include "text/GreekSlice.h"
+#include "text/ReplacementTextSlice.h"
+#include "text/StringSlice.h"
+
+/// Reads a plain text and reports which styles lie on which runs of it. This base reports none; a
+/// subclass overrides the queries that its input mark-up can answer.
+///
+/// All positions count characters (bytes) of text(). The queries append to `out`, never clear it,
+/// and give the same answer until the next set_text(). What a finder reports must obey the rules of
+/// TextItem, which asks for replacement texts and colours last. A finder serves one text at a time
+/// and one thread at a time.
+class InputTextStyleFinder {
+public:
+    InputTextStyleFinder() = default;
+    InputTextStyleFinder(const InputTextStyleFinder&) = delete;
+    InputTextStyleFinder& operator=(const InputTextStyleFinder&) = delete;
+    virtual ~InputTextStyleFinder();
+
+    virtual void bold(std::vector<StringSlice>& out) const;
+    virtual void italic(std::vector<StringSlice>& out) const;
+    virtual void subscripts(std::vector<StringSlice>& out) const;
+    virtual void superscripts(std::vector<StringSlice>& out) const;
+    virtual void overstrike(std::vector<StringSlice>& out) const;
+    virtual void invisible(std::vector<StringSlice>& out) const;
+    virtual void replacement_text(std::vector<ReplacementTextSlice>& out) const;
+    virtual void greek(std::vector<GreekSlice>& out) const;
+    virtual void color(std::vector<ColorSlice>& out) const;
+    /// Called once for each new text: the place to parse it.
+    virtual void calc_tag_positions();
+
+    /// Stores a copy of `text` and calls calc_tag_positions(); throws what that throws.
+    void set_text(const std::string& text);
+    const std::string& text() const { return text_; }
+
+private:
+    std::string text_;
+};

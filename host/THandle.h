@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <ostream>
+#include <type_traits>
+#include <utility>
+
+#include "host/THandleCommon.h"
+
+/// A reference-counted handle: the object dies with its last handle.
+///
+/// Handles to one object may be copied and destroyed in several threads at once; a single handle,
+/// like any value, belongs to one thread at a time. T may be incomplete where a handle is only
+/// held.
+template <class T>
+class THandle {
+public:
+    THandle() = default;
+    /// Takes ownership of `object`, which may be null.
+    template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
+    explicit THandle(U* object) : object_(object) {}
+    template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
+    THandle(const THandle<U>& other) : object_(other.object_) {}
+    template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
+    THandle(THandle<U>&& other) noexcept : object_(std::move(other.object_)) {}
+
+    /// Both raise THandleCommon::null_handle_error() when the handle is null.
+    T* operator->() const { return checked(); }
+    T& operator*() const { return *checked(); }
+
+    bool is_null() const { return !object_; }
+    explicit operator bool() const { return !is_null(); }
+    /// The object or nullptr; the handle keeps the ownership.
+    T* get() const { return object_.get(); }
+
+    template <class U>
+    friend bool operator==(const THandle& a, const THandle<U>& b) {
+        return a.get() == b.get();
+    }
+
+    template <class U, class... Arguments>
+    friend THandle<U> make_handle(Arguments&&... arguments);
+
+private:
+    template <class U>
+    friend class THandle;
+
+    explicit THandle(std::shared_ptr<T> object) : object_(std::move(object)) {}
+
+    T* checked() const {
+        if (!object_) THandleCommon::null_handle_error();
+        return object_.get();
+    }
+
+    std::shared_ptr<T> object_;
+};
+
+/// A handle to a new T made from the arguments, with one allocation for object and count.
+template <class T, class... Arguments>
+THandle<T> make_handle(Arguments&&... arguments) {
+    return THandle<T>(std::make_shared<T>(std::forward<Arguments>(arguments)...));
+}
+
+/// Prints the object; raises the null-handle error when there is none.
+template <class T>
+requires requires(std::ostream& os, const T& object) { os << object; }
+std::ostream& operator<<(std::ostream& os, const THandle<T>& handle) { return os << *handle; }

@@ -1,0 +1,3 @@
+#include "markup/CifTagFactory.h"
+
+CifTagFactory::~CifTagFactory() = default;

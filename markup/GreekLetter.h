@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "text/TextItem.h"
+
+/// The spellings of one Greek letter; nullptr where a spelling has none.
+struct GreekLetter {
+    const char* tevo;         // the letter's name
+    const char* cif;          // backslash and a letter
+    const char* symbol_font;  // the Latin letter that the Symbol font shows as the Greek one
+    const char* unicode;      // UTF-8
+};
+
+/// The text of `symbol` in one of the spellings; throws std::range_error "Unknown sym. " and the
+/// converter's name where there is none, as for a value outside the enumeration.
+std::string greek_text(TextItem::GreekSymbol symbol, const char* GreekLetter::*spelling,
+                       const char* converter);

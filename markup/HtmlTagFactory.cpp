@@ -1,0 +1,3 @@
+#include "markup/HtmlTagFactory.h"
+
+HtmlTagFactory::~HtmlTagFactory() = default;

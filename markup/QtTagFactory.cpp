@@ -1,0 +1,3 @@
+#include "markup/QtTagFactory.h"
+
+QtTagFactory::~QtTagFactory() = default;

@@ -1,0 +1,184 @@
+#include "markup/RichTextGenerator.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/KOVRLog.h"
+#include "host/VectorOutput.h"
+#include "markup/RichTextTagFactory.h"
+#include "markup/TextItemToOtherGreek.h"
+#include "text/GreekStyle.h"
+#include "text/Position.h"
+#include "text/ReplacementTextStyle.h"
+
+namespace {
+
+constexpr int debug_level = 3;
+
+/// The styles of a list in groups that begin at one position, to be asked for in ascending order.
+template <class Style>
+class StylesByStart {
+public:
+    explicit StylesByStart(const std::vector<THandle<Style>>& styles) : sorted_(styles) {
+        for (const auto& style : sorted_)
+            static_cast<void>(*style);  // a null handle raises its error here
+        if (!std::is_sorted(sorted_.begin(), sorted_.end(), begins_before)) {
+            std::stable_sort(sorted_.begin(), sorted_.end(), begins_before);
+        }
+    }
+
+    /// Where the next group after those taken begins.
+    unsigned int next_start() const {
+        return taken_ < sorted_.size() ? sorted_[taken_]->from() : no_position;
+    }
+
+    /// The styles that begin at `position`, in list order; valid until the next call.
+    const std::vector<THandle<Style>>& take(unsigned int position) {
+        group_.clear();
+        for (; next_start() == position; ++taken_) group_.push_back(sorted_[taken_]);
+        return group_;
+    }
+
+private:
+    static bool begins_before(const THandle<Style>& a, const THandle<Style>& b) {
+        return a->from() < b->from();
+    }
+
+    std::vector<THandle<Style>> sorted_;
+    std::vector<THandle<Style>> group_;
+    std::size_t taken_ = 0;
+};
+
+template <class Style>
+bool find_start(unsigned int position, const std::vector<THandle<Style>>& styles,
+                THandle<Style>& found) {
+    for (const auto& style : styles) {
+        if (style->from() != position) continue;
+        found = style;
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+RichTextGenerator::RichTextGenerator(THandle<RichTextTagFactory> tag_factory,
+                                     THandle<TextItemToOtherGreek> greek_converter)
+    : tag_factory_(std::move(tag_factory)), greek_converter_(std::move(greek_converter)) {}
+
+RichTextGenerator::~RichTextGenerator() = default;
+
+std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
+    if (KOVRLog::is_open(debug_level)) {
+        KOVRLog::start_debug_line(debug_level)
+            << "RichTextGenerator::mark_up_text all styles" << data.styles();
+        KOVRLog::end_debug_line();
+    }
+    pending_.clear();
+    current_invisible_ = {};
+    current_greek_ = {};
+    current_replacement_text_ = {};
+
+    const std::string text = data.text();
+    const unsigned int n = length_of(text);
+    StylesByStart styles(data.styles());
+    StylesByStart invisible(data.invisible());
+    StylesByStart replacement_text(data.replacement_text());
+    StylesByStart greek(data.greek());
+
+    std::string result;
+    unsigned int column = 0;
+    unsigned int covered_until = 0;
+    // Each turn stands where something begins or ends and goes on to the next such position.
+    for (unsigned int i = 0; i < n;) {
+        result += get_slice_tags(i, styles.take(i));
+        const Styles& invisible_here = invisible.take(i);
+        const ReplacementTextStyles& replacement_here = replacement_text.take(i);
+        const GreekStyles& greek_here = greek.take(i);
+        unsigned int plain_from = i + 1;  // a covering style swallows at least one character
+        if (has_invisible_style(i, invisible_here)) {
+            covered_until = current_invisible_->to();
+        } else if (has_replacement_text_style(i, replacement_here)) {
+            covered_until = current_replacement_text_->to();
+            add_text_block(result, current_replacement_text_->replacement_text(), column,
+                           data.line_length());
+        } else if (has_greek_style(i, greek_here)) {
+            covered_until = current_greek_->to();
+            add_text_block(result, greek_converter_->convert(current_greek_->symbol()), column,
+                           data.line_length());
+        } else {
+            plain_from = i;
+        }
+        const unsigned int next_end = pending_.empty() ? n : pending_.begin()->first;
+        i = std::min({n, next_end, styles.next_start(), invisible.next_start(),
+                      replacement_text.next_start(), greek.next_start()});
+        plain_from = std::max(plain_from, covered_until);
+        if (plain_from < i) {
+            add_text_block(result, std::string_view(text).substr(plain_from, i - plain_from),
+                           column, data.line_length());
+        }
+    }
+    result += get_slice_tags(n, styles.take(n));
+    return result;
+}
+
+unsigned int RichTextGenerator::write_characters(std::string& result, std::string_view& text,
+                                                 unsigned int limit) const {
+    const std::string_view written = text.substr(0, limit);
+    result += written;
+    text.remove_prefix(written.size());
+    return length_of(written);
+}
+
+std::string RichTextGenerator::get_slice_tags(unsigned int position, const Styles& styles) const {
+    return closing_tags(position) + opening_tags(position, styles);
+}
+
+std::string RichTextGenerator::closing_tags(unsigned int position) const {
+    std::string tags;
+    const auto due = pending_.find(position);
+    if (due == pending_.end()) return tags;
+    for (auto& stack = due->second; !stack.empty(); stack.pop()) tags += stack.top();
+    pending_.erase(due);
+    return tags;
+}
+
+std::string RichTextGenerator::opening_tags(unsigned int position, const Styles& styles) const {
+    std::vector<const TextItemStyle*> beginning;
+    for (const auto& style : styles) {
+        if (style->from() == position && !style->slice().empty()) beginning.push_back(style.get());
+    }
+    std::stable_sort(
+        beginning.begin(), beginning.end(),
+        [](const TextItemStyle* a, const TextItemStyle* b) { return a->to() > b->to(); });
+    std::string tags;
+    for (const TextItemStyle* style : beginning) {
+        tags += style->start_tag(*tag_factory_);
+        std::string end_tag = style->end_tag(*tag_factory_);
+        if (!end_tag.empty()) pending_[style->to()].push(std::move(end_tag));
+    }
+    return tags;
+}
+
+bool RichTextGenerator::has_invisible_style(unsigned int position, const Styles& styles) const {
+    return find_start(position, styles, current_invisible_);
+}
+
+bool RichTextGenerator::has_greek_style(unsigned int position, const GreekStyles& styles) const {
+    return find_start(position, styles, current_greek_);
+}
+
+bool RichTextGenerator::has_replacement_text_style(unsigned int position,
+                                                   const ReplacementTextStyles& styles) const {
+    return find_start(position, styles, current_replacement_text_);
+}
+
+void RichTextGenerator::add_text_block(std::string& result, std::string_view block,
+                                       unsigned int& column, unsigned int line_length) const {
+    while (!block.empty()) {
+        const unsigned int room =
+            line_length == 0 ? no_position : line_length - column % line_length;
+        column += write_characters(result, block, room);
+        if (line_length != 0 && column % line_length == 0) result += tag_factory_->line_break();
+    }
+}

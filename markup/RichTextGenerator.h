@@ -1,0 +1,75 @@
+#pragma once
+
+#include <map>
+#include <stack>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/THandle.h"
+#include "markup/RichTextData.h"
+
+class RichTextTagFactory;
+class TextItemToOtherGreek;
+
+/// Writes a rich text as the mark-up of one target. The tags are a factory's, the Greek letters a
+/// converter's; a subclass pairs the two.
+///
+/// A generator may be used for any number of texts in turn, but keeps scratch state during a call:
+/// one generator belongs to one thread at a time.
+class RichTextGenerator {
+public:
+    RichTextGenerator(THandle<RichTextTagFactory> tag_factory,
+                      THandle<TextItemToOtherGreek> greek_converter);
+    RichTextGenerator(const RichTextGenerator&) = delete;
+    RichTextGenerator& operator=(const RichTextGenerator&) = delete;
+    virtual ~RichTextGenerator();
+
+    /// Writes every character, or what its style shows in its place, between the tags of the
+    /// styles. Where a style that covers characters begins inside another such range, the covering
+    /// ends with the inner one. A style that ends beyond the text is not closed, and styles that
+    /// cross give tags that cross. Throws what the converters throw, and the null-handle error for
+    /// a null handle in a list. O(n + m log m) for n characters, written ones included, and m
+    /// styles.
+    virtual std::string mark_up_text(const RichTextData& data) const;
+
+protected:
+    using Styles = RichTextData::Styles;
+    using GreekStyles = RichTextData::GreekStyles;
+    using ReplacementTextStyles = RichTextData::ReplacementTextStyles;
+
+    /// Writes at most `limit` characters (at least 1) from the front of `text` to `result` in the
+    /// target's form, takes them off `text`, and returns their number. The base writes bytes as
+    /// they are; a target that escapes, or whose characters are longer, overrides this.
+    virtual unsigned int write_characters(std::string& result, std::string_view& text,
+                                          unsigned int limit) const;
+
+    /// closing_tags() and then opening_tags().
+    std::string get_slice_tags(unsigned int position, const Styles& styles) const;
+    /// The tags due at `position`, the one opened last first; forgets them.
+    std::string closing_tags(unsigned int position) const;
+    /// The opening tags of the styles that begin at `position` and are not empty, the one that ends
+    /// last first and equal ones in list order; remembers their closing tags.
+    std::string opening_tags(unsigned int position, const Styles& styles) const;
+
+    /// Whether a style of the list begins at `position`; the first one becomes the current style.
+    bool has_invisible_style(unsigned int position, const Styles& styles) const;
+    bool has_greek_style(unsigned int position, const GreekStyles& styles) const;
+    bool has_replacement_text_style(unsigned int position,
+                                    const ReplacementTextStyles& styles) const;
+
+    /// Appends `block` to `result`, with a line break wherever `column`, the number of characters
+    /// written so far, becomes a multiple of `line_length`; 0 breaks no lines.
+    void add_text_block(std::string& result, std::string_view block, unsigned int& column,
+                        unsigned int line_length) const;
+
+private:
+    THandle<RichTextTagFactory> tag_factory_;
+    THandle<TextItemToOtherGreek> greek_converter_;
+
+    // By the position where they are due; the last pushed is written first.
+    mutable std::map<unsigned int, std::stack<std::string, std::vector<std::string>>> pending_;
+    mutable THandle<TextItemStyle> current_invisible_;
+    mutable THandle<GreekStyle> current_greek_;
+    mutable THandle<ReplacementTextStyle> current_replacement_text_;
+};

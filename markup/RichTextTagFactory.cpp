@@ -1,0 +1,3 @@
+#include "markup/RichTextTagFactory.h"
+
+RichTextTagFactory::~RichTextTagFactory() = default;

@@ -1,0 +1,3 @@
+#include "markup/TevoTagFactory.h"
+
+TevoTagFactory::~TevoTagFactory() = default;

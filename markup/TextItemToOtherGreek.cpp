@@ -1,0 +1,3 @@
+#include "markup/TextItemToOtherGreek.h"
+
+TextItemToOtherGreek::~TextItemToOtherGreek() = default;

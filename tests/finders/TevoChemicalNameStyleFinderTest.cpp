@@ -1,0 +1,158 @@
+#include "finders/TevoChemicalNameStyleFinder.h"
+
+#include <gmock/gmock.h>
+
+#include <stdexcept>
+
+#include "tests/Random.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StrEq;
+using testing::ThrowsMessage;
+
+namespace {
+
+using Finder = TevoChemicalNameStyleFinder;
+template <class Slice>
+using Query = void (Finder::*)(std::vector<Slice>&) const;
+
+template <class Slice>
+std::vector<Slice> found(const std::string& text, Query<Slice> query) {
+    Finder finder;
+    finder.set_text(text);
+    std::vector<Slice> slices;
+    (finder.*query)(slices);
+    return slices;
+}
+
+std::vector<GreekSlice> greek(const std::string& text) { return found(text, &Finder::greek); }
+std::vector<StringSlice> subscripts(const std::string& text) {
+    return found(text, &Finder::subscripts);
+}
+std::vector<StringSlice> superscripts(const std::string& text) {
+    return found(text, &Finder::superscripts);
+}
+
+/// The scan as it reads: one search for each name, from the end of its last occurrence.
+std::vector<GreekSlice> greek_name_by_name(const std::string& text) {
+    const Finder finder;
+    const TevoChemicalNameToTextItemGreek names;
+    std::vector<GreekSlice> slices;
+    for (const std::string& name : names.tevo_chemical_name_greek()) {
+        std::string prior;
+        std::size_t end = 0;
+        for (std::size_t pos = text.find(name); pos != std::string::npos;
+             pos = text.find(name, end)) {
+            end = pos + name.size();
+            if (pos > 0) prior = text.substr(pos - 1, 1);
+            const std::string next = end < text.size() ? text.substr(end, 1) : "";
+            if (finder.greek_fragment(name, prior) || finder.word_fragment(name, prior, next))
+                continue;
+            slices.emplace_back(static_cast<unsigned int>(pos), static_cast<unsigned int>(end),
+                                names.greek_symbol(name));
+        }
+    }
+    return slices;
+}
+
+}  // namespace
+
+TEST(TevoChemicalNameStyleFinder, ANameIsALetterWhereItStandsAlone) {
+    const struct {
+        const char* text;
+        std::vector<GreekSlice> letters;
+    } cases[] = {
+        {"", {}},
+        {"alpha", {{0, 5, TextItem::alpha}}},
+        {"alpha-D-glucose", {{0, 5, TextItem::alpha}}},
+        {"(beta)", {{1, 5, TextItem::beta}}},
+        {"alpha'", {{0, 5, TextItem::alpha}}},
+        {"5alphaH", {{1, 6, TextItem::alpha}}},
+        {"alpha D", {}},
+        {"alphabet", {}},
+        {"Alpha", {}},
+        {"cdelta", {{0, 6, TextItem::cdelta}}},
+        {"clambda-", {{0, 7, TextItem::clambda}}},
+        {"theta zeta", {{6, 10, TextItem::zeta}}},
+        {"meta", {}},
+        {"peta", {{1, 4, TextItem::eta}}},
+        {"epsilon", {{0, 7, TextItem::epsilon}}},
+        {"oxide", {}},
+        {"epi-", {}},
+        {"ypi-", {{1, 3, TextItem::pi}}},
+        {"spi", {{1, 3, TextItem::pi}}},
+        {"kappaN", {{0, 5, TextItem::kappa}}},
+        {"kappaH", {{0, 5, TextItem::kappa}}},
+        {"alphaN", {}},
+        {"beta-alpha", {{5, 10, TextItem::alpha}, {0, 4, TextItem::beta}}},
+        {"alphalpha", {}},  // the second begins inside the first
+    };
+    for (const auto& c : cases) EXPECT_EQ(greek(c.text), c.letters) << c.text;
+}
+
+TEST(TevoChemicalNameStyleFinder, OnePassFindsWhatOneSearchForEachNameFinds) {
+    const TevoChemicalNameToTextItemGreek names;
+    const std::string between[] = {"", "-", "c", "b", "z", "e", "H", "N", "alph", "p", "!"};
+    Random random(5);
+    for (int round = 0; round < 5000; ++round) {
+        std::string text;
+        for (unsigned int i = random() % 8; i > 0; --i) {
+            text += names.tevo_chemical_name_greek()[random() % 26];
+            text += between[random() % std::size(between)];
+        }
+        ASSERT_EQ(greek(text), greek_name_by_name(text)) << text;
+    }
+}
+
+TEST(TevoChemicalNameStyleFinder, FragmentTestsRefuseMoreThanOneCharacter) {
+    const Finder finder;
+    EXPECT_THAT([&] { finder.greek_fragment("pi", "ab"); },
+                ThrowsMessage<std::runtime_error>(StrEq("illegal 'prior_char' length")));
+    EXPECT_THAT([&] { finder.word_fragment("pi", "", "ab"); },
+                ThrowsMessage<std::runtime_error>(StrEq("illegal 'next_char' length")));
+    EXPECT_EQ(TevoChemicalNameToTextItemGreek().greek_symbol("Pi"), TextItem::no_symbol);
+}
+
+TEST(TevoChemicalNameStyleFinder, MarkersShiftDownAndUp) {
+    using Slices = std::vector<StringSlice>;
+    const struct {
+        const char* text;
+        Slices subscripts, superscripts;
+    } cases[] = {
+        {"", {}, {}},
+        {"x", {}, {}},
+        {"a!2$b$3!c", {{2, 3}}, {{6, 7}}},
+        {"$2!", {}, {{1, 2}}},
+        {"!2$", {{1, 2}}, {}},
+        {"!2$$3!", {{1, 2}}, {{4, 5}}},
+        {"!$", {{1, 1}}, {}},
+        {"x!", {}, {}},
+        {"!a!b$", {{1, 4}}, {}},
+        // A marker without its partner ends the scan for each script at that marker.
+        {"!2$ !3", {{1, 2}}, {}},
+        {"!2$ $3", {{1, 2}}, {}},
+        {"$2! $3! !4", {}, {{1, 2}, {5, 6}}},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(subscripts(c.text), c.subscripts) << c.text;
+        EXPECT_EQ(superscripts(c.text), c.superscripts) << c.text;
+    }
+    EXPECT_THAT(
+        found("$3!a!2$", &Finder::invisible),
+        ElementsAre(StringSlice(4, 5), StringSlice(6, 7), StringSlice(0, 1), StringSlice(2, 3)));
+}
+
+TEST(TevoChemicalNameStyleFinder, QueriesAppendAndReportNothingElse) {
+    Finder finder;
+    finder.set_text("alpha!2$");
+    std::vector<StringSlice> slices{StringSlice(7, 9)};
+    finder.subscripts(slices);
+    finder.bold(slices);
+    finder.italic(slices);
+    finder.overstrike(slices);
+    EXPECT_THAT(slices, ElementsAre(StringSlice(7, 9), StringSlice(6, 7)));
+    std::vector<ColorSlice> colors;
+    finder.color(colors);
+    EXPECT_THAT(colors, IsEmpty());
+}

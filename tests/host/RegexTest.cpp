@@ -1,0 +1,66 @@
+#include "host/Regex.h"
+
+#include <gmock/gmock.h>
+
+#include <stdexcept>
+
+#include "host/RegexResults.h"
+
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+
+TEST(Regex, SearchesFromAPositionAndTellsTheGroups) {
+    const Regex regex("(a+)|(b)");
+    const std::string text = "xaay b";
+    RegexResults results;
+    ASSERT_TRUE(regex.search_from_position(text, 0, results));
+    EXPECT_EQ(results.size(), 3U);
+    EXPECT_EQ(results.start(), 1U);
+    EXPECT_EQ(results.end(), 3U);
+    EXPECT_EQ(results.text(1), "aa");
+    EXPECT_FALSE(results.matched(2));
+    EXPECT_THROW(results.text(2), std::out_of_range);
+
+    ASSERT_TRUE(regex.search_from_position(text, results.end(), results, 0x1000));
+    EXPECT_EQ(results.text(), "b");
+    EXPECT_FALSE(regex.search_from_position(text, 6, results));
+    EXPECT_FALSE(regex.search_from_position(text, 7, results));
+    EXPECT_EQ(results.size(), 0U);
+}
+
+TEST(Regex, OneResultsObjectServesExpressionsOfAnySize) {
+    RegexResults results;
+    const std::string text = "ab";
+    ASSERT_TRUE(Regex("a").search_from_position(text, 0, results));
+    ASSERT_TRUE(Regex("(a)(b)").search_from_position(text, 0, results));
+    EXPECT_EQ(results.text(2), "b");
+    ASSERT_TRUE(Regex("b").search_from_position(text, 0, results));
+    EXPECT_EQ(results.size(), 1U);
+}
+
+TEST(Regex, FreeSpacingIgnoresWhiteSpaceAndComments) {
+    RegexResults results;
+    EXPECT_TRUE(
+        Regex("a b  # not c\n d", Regex::free_spacing).search_from_position("abd", 0, results));
+    EXPECT_FALSE(Regex("a b").search_from_position("ab", 0, results));
+}
+
+TEST(Regex, ClassesAreThoseOfTheCLocale) {
+    RegexResults results;
+    EXPECT_FALSE(Regex("[[:alpha:]]").search_from_position("\xE4\xC3\xA4", 0, results));
+}
+
+TEST(Regex, NamesWhatIsWrongWithAPattern) {
+    EXPECT_THAT([] { Regex("a(b"); },
+                ThrowsMessage<std::invalid_argument>(HasSubstr("at position 3 of 'a(b'")));
+    EXPECT_THROW(Regex("a", 16), std::invalid_argument);
+}
+
+TEST(Regex, MatchesLongRunsAndThrowsAtALimit) {
+    RegexResults results;
+    const std::string enclosed = "~" + std::string(1000000, 'x') + "~";
+    ASSERT_TRUE(Regex("~[^~]*~").search_from_position(enclosed, 0, results));
+    EXPECT_EQ(results.end(), enclosed.size());
+    const std::string hopeless = std::string(40, 'a') + "!";
+    EXPECT_THROW(Regex("(a|aa)+$").search_from_position(hopeless, 0, results), std::runtime_error);
+}

@@ -1,0 +1,81 @@
+#include "markup/Html5RichTextGenerator.h"
+
+#include <gmock/gmock.h>
+
+#include <regex>
+
+#include "tests/Random.h"
+#include "tests/markup/StyleLists.h"
+
+namespace {
+
+const std::string green = "<span style=\"color:#008b00\">";
+
+/// The text without its tags, or a complaint where they do not nest.
+std::string text_between_tags(const std::string& html) {
+    std::vector<std::string> open;
+    std::string text;
+    static const std::regex token("<(/?)([a-z]+)[^>]*>|[^<]+");
+    for (std::sregex_iterator it(html.begin(), html.end(), token), end; it != end; ++it) {
+        const std::string name = (*it)[2];
+        if (name.empty()) {
+            text += it->str();
+        } else if ((*it)[1].length() == 0) {
+            open.push_back(name);
+        } else if (open.empty() || open.back() != name) {
+            return "tags do not nest";
+        } else {
+            open.pop_back();
+        }
+    }
+    return open.empty() ? text : "tags left open";
+}
+
+}  // namespace
+
+TEST(Html5RichTextGenerator, WritesWhatABrowserShows) {
+    using S = StyleLists;
+    StyleLists unknown_letter;
+    unknown_letter.greek_styles.push_back(make_handle<GreekStyle>(TextItem::no_symbol));
+    unknown_letter.greek_styles.back()->activate(0, 2);
+    const struct {
+        const char* name;
+        const char* text;
+        StyleLists styles;
+        std::string html;
+    } cases[] = {
+        {"escaped", "a<b>&\"'", S(), "a&lt;b&gt;&amp;&quot;'"},
+        {"escaped replacement", "ab", S().replacement(0, 1), "R&amp;Sb"},
+        {"letter", "mu!", S().greek(0, 2), "μ!"},
+        {"unknown letter", "\\d-x", unknown_letter, "\\d-x"},
+        {"UTF-8", "é€", S().bold(0, 2), "<b>é</b>€"},
+        {"colour", "ab", S().color(0, 1), green + "a</span>b"},
+        {"crossing", "abc", S().bold(0, 2).color(1, 3),
+         "<b>a" + green + "b</span></b>" + green + "c</span>"},
+        {"beyond the end", "ab", S().bold(1, 9).italic(2, 4), "a<b>b</b>"},
+    };
+    Html5RichTextGenerator generator;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_EQ(generator.mark_up_text(c.styles.data(c.text)), c.html);
+    }
+}
+
+TEST(Html5RichTextGenerator, BreaksLinesBetweenCharactersOnly) {
+    const Html5RichTextGenerator generator;
+    EXPECT_EQ(generator.mark_up_text(StyleLists().data("é<€é", 2)), "é&lt;<br>€é<br>");
+    EXPECT_EQ(generator.mark_up_text(StyleLists().greek(0, 2).data("mu\xFF\x80", 1)),
+              "μ<br>\xFF\x80<br>");
+}
+
+// Whatever the styles do, a browser must see the characters that are shown, in balanced tags.
+TEST(Html5RichTextGenerator, TagsNestForAnyLists) {
+    Random random(4);
+    const Html5RichTextGenerator generator;
+    for (int round = 0; round < 5000; ++round) {
+        StyleLists styles = StyleLists::random(random, 10);
+        const std::string html = generator.mark_up_text(styles.data("abcdefgh"));
+        styles.styles.clear();
+        ASSERT_EQ(text_between_tags(html), generator.mark_up_text(styles.data("abcdefgh"))) << html;
+    }
+}

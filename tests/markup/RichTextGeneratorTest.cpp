@@ -1,0 +1,168 @@
+#include "markup/RichTextGenerator.h"
+
+#include <gmock/gmock.h>
+
+#include <iostream>
+#include <sstream>
+#include <stdexcept>
+
+#include "host/KOVRLog.h"
+#include "markup/CifRichTextGenerator.h"
+#include "markup/HtmlRichTextGenerator.h"
+#include "markup/HtmlTagFactory.h"
+#include "markup/QtRichTextGenerator.h"
+#include "markup/TevoRichTextGenerator.h"
+#include "markup/TextItemToTevoGreek.h"
+#include "tests/Random.h"
+#include "tests/markup/StyleLists.h"
+#include "text/Position.h"
+
+using testing::HasSubstr;
+using testing::StrEq;
+using testing::ThrowsMessage;
+
+namespace {
+
+/// The rules as they read: asks every style at every position.
+class LiteralGenerator : public RichTextGenerator {
+public:
+    LiteralGenerator()
+        : RichTextGenerator(make_handle<HtmlTagFactory>(), make_handle<TextItemToTevoGreek>()) {}
+
+    std::string mark_up_text(const RichTextData& data) const override {
+        const std::string text = data.text();
+        std::string result;
+        unsigned int column = 0;
+        unsigned int covered_until = 0;
+        for (unsigned int p = 0; p < text.size(); ++p) closing_tags(p);
+        const auto end_of = [](const auto& list, unsigned int p) {
+            for (const auto& style : list) {
+                if (style->from() == p) return style->to();
+            }
+            return no_position;
+        };
+        for (unsigned int i = 0; i < text.size(); ++i) {
+            result += get_slice_tags(i, data.styles());
+            std::string block;
+            if (has_invisible_style(i, data.invisible())) {
+                covered_until = end_of(data.invisible(), i);
+            } else if (has_replacement_text_style(i, data.replacement_text())) {
+                covered_until = end_of(data.replacement_text(), i);
+                block = "R&S";
+            } else if (has_greek_style(i, data.greek())) {
+                covered_until = end_of(data.greek(), i);
+                block = "mu";
+            } else if (covered_until <= i) {
+                block = text[i];
+            }
+            for (const char c : block) {
+                result += c;
+                if (data.line_length() != 0 && ++column % data.line_length() == 0) result += "<br>";
+            }
+        }
+        return result + get_slice_tags(length_of(text), data.styles());
+    }
+};
+
+/// The same target as the literal generator, by the road that is taken in earnest.
+class FastGenerator : public RichTextGenerator {
+public:
+    FastGenerator()
+        : RichTextGenerator(make_handle<HtmlTagFactory>(), make_handle<TextItemToTevoGreek>()) {}
+};
+
+}  // namespace
+
+TEST(RichTextGenerator, WritesTagsWhereStylesBeginAndEnd) {
+    using S = StyleLists;
+    const struct {
+        const char* name;
+        const char* text;
+        StyleLists styles;
+        const char* html;
+    } cases[] = {
+        {"nothing", "", S(), "<p>"},
+        {"no styles", "a<b", S(), "a<b<p>"},
+        {"inside", "abc", S().bold(0, 3).italic(1, 2), "<b>a<i>b</i>c</b><p>"},
+        {"longer opens first", "abc", S().bold(0, 2).italic(0, 3), "<i><b>ab</b>c</i><p>"},
+        {"equal ranges", "ab", S().bold(0, 1).italic(0, 1).subscript(0, 1),
+         "<b><i><sub>a</sub></i></b>b<p>"},
+        {"closes before it opens", "ab", S().bold(1, 2).italic(0, 1), "<i>a</i><b>b</b><p>"},
+        {"empty style", "ab", S().bold(1, 1), "ab<p>"},
+        {"crossing tags cross", "abc", S().bold(0, 2).italic(1, 3), "<b>a<i>b</b>c</i><p>"},
+        {"closed at the end", "ab", S().bold(1, 2), "a<b>b</b><p>"},
+        {"never closed", "ab", S().bold(1, 3), "a<b>b<p>"},
+        {"opened at the end", "ab", S().bold(2, 3), "ab<b><p>"},
+        {"hidden", "abcd", S().invisible(1, 3), "ad<p>"},
+        {"replaced", "abcd", S().replacement(1, 3), "aR&Sd<p>"},
+        {"Greek", "abcd", S().greek(1, 3), "a<font face=symbol>m</font>d<p>"},
+        {"tags in a hidden range", "abcd", S().invisible(0, 3).bold(1, 2), "<b></b>d<p>"},
+        {"empty covering swallows", "abcd", S().invisible(1, 1), "acd<p>"},
+        {"inner covering ends outer", "abcde", S().invisible(0, 5).invisible(1, 2), "cde<p>"},
+        {"hidden before replaced", "ab", S().replacement(0, 1).invisible(0, 1), "b<p>"},
+    };
+    HtmlRichTextGenerator generator;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_EQ(generator.mark_up_text(c.styles.data(c.text)), c.html);
+    }
+}
+
+TEST(RichTextGenerator, EqualsTheLiteralRulesForAnyLists) {
+    Random random(3);
+    const LiteralGenerator literal;
+    const FastGenerator fast;
+    for (int round = 0; round < 20000; ++round) {
+        const std::string text = std::string("abcdefghijkl").substr(0, random() % 13);
+        const StyleLists styles = StyleLists::random(random, 14);
+        const RichTextData data = styles.data(text, random() % 4);
+        // Tags that the last text left open must not leak into the next.
+        ASSERT_EQ(fast.mark_up_text(data), LiteralGenerator().mark_up_text(data)) << text << "\n"
+                                                                                  << styles;
+    }
+    EXPECT_EQ(literal.mark_up_text(StyleLists().data("x")), "x");
+}
+
+TEST(RichTextGenerator, BreaksLinesByTheCharactersWritten) {
+    const CifRichTextGenerator cif;
+    EXPECT_EQ(cif.mark_up_text(StyleLists().data("abcd", 2)), "ab\ncd\n");
+    EXPECT_EQ(cif.mark_up_text(StyleLists().superscript(1, 4).data("abcd", 4)), "a^bcd\n^");
+    EXPECT_EQ(cif.mark_up_text(StyleLists().greek(0, 2).replacement(2, 3).data("abcd", 3)),
+              "\\mR\n&Sd\n");
+}
+
+TEST(RichTextGenerator, TheFourTargetsDifferAsTabled) {
+    const StyleLists styles = StyleLists().subscript(0, 1).superscript(1, 2).greek(2, 3).bold(3, 4);
+    const RichTextData data = styles.data("abcd");
+    EXPECT_EQ(TevoRichTextGenerator().mark_up_text(data), "!a$$b!mud");
+    EXPECT_EQ(CifRichTextGenerator().mark_up_text(data), "~a~^b^\\md");
+    const std::string qt = "<sub>a</sub><sup>b</sup><font face=symbol>m</font><b>d</b>";
+    EXPECT_EQ(QtRichTextGenerator().mark_up_text(data), qt);
+    EXPECT_EQ(HtmlRichTextGenerator().mark_up_text(data), qt + "<p>");
+}
+
+TEST(RichTextGenerator, FailsAsHandlesAndConvertersFail) {
+    const HtmlRichTextGenerator html;
+    StyleLists with_null;
+    with_null.styles.emplace_back();
+    EXPECT_THAT([&] { html.mark_up_text(with_null.data("a")); },
+                ThrowsMessage<std::runtime_error>(StrEq("null handle error")));
+    StyleLists unknown;
+    unknown.greek_styles.push_back(make_handle<GreekStyle>(TextItem::no_symbol));
+    EXPECT_THAT([&] { html.mark_up_text(unknown.data("a")); },
+                ThrowsMessage<std::range_error>(StrEq("Unknown sym. TextItemToHtmlGreek")));
+    EXPECT_EQ(html.mark_up_text(StyleLists().bold(0, 1).data("a")), "<b>a</b><p>");
+}
+
+TEST(RichTextGenerator, WritesADebugLineAtLevelThree) {
+    std::ostringstream log;
+    std::streambuf* const before = std::clog.rdbuf(log.rdbuf());
+    TevoRichTextGenerator().mark_up_text(StyleLists().bold(0, 1).data("a"));
+    EXPECT_EQ(log.str(), "");
+    KOVRLog::level_ = 3;
+    TevoRichTextGenerator().mark_up_text(StyleLists().bold(0, 1).data("a"));
+    KOVRLog::level_ = 0;
+    std::clog.rdbuf(before);
+    EXPECT_THAT(log.str(),
+                HasSubstr("RichTextGenerator::mark_up_text all styles[BoldStyle: From 0 To 1"));
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "text/TextItem.h"
+#include "text/TextItemStyle.h"
+
+/// Text in a colour.
+class ColorStyle : public TextItemStyle {
+public:
+    explicit ColorStyle(TextItem::ColorName color) : color_(color) {}
+    ~ColorStyle() override;
+
+    std::string start_tag(const RichTextTagFactory& factory) const override;
+    std::string end_tag(const RichTextTagFactory& factory) const override;
+    void text_atom_begin(TextAtomPropertyBuilder& builder) const override;
+    void text_atom_end(TextAtomPropertyBuilder& builder) const override;
+    void print(std::ostream& os) const override;
+
+private:
+    TextItem::ColorName color_;
+};

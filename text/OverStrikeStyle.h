@@ -1,0 +1,15 @@
+#pragma once
+
+#include "text/TextItemStyle.h"
+
+/// Text with a bar over it.
+class OverStrikeStyle : public TextItemStyle {
+public:
+    ~OverStrikeStyle() override;
+
+    std::string start_tag(const RichTextTagFactory& factory) const override;
+    std::string end_tag(const RichTextTagFactory& factory) const override;
+    void text_atom_begin(TextAtomPropertyBuilder& builder) const override;
+    void text_atom_end(TextAtomPropertyBuilder& builder) const override;
+    void print(std::ostream& os) const override;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstddef>
+#include <limits>
+#include <string_view>
+
+/// No character position: the largest unsigned 32-bit value, whatever std::string::npos is.
+inline constexpr unsigned int no_position = std::numeric_limits<unsigned int>::max();
+
+/// A position or length of a string as the kernel holds it; std::string::npos becomes no_position.
+constexpr unsigned int to_position(std::size_t position) {
+    return position == std::string_view::npos ? no_position : static_cast<unsigned int>(position);
+}
+
+/// The length of `text` in characters.
+constexpr unsigned int length_of(std::string_view text) { return to_position(text.size()); }

@@ -1,0 +1,3 @@
+#include "text/ReplacementTextSlice.h"
+
+ReplacementTextSlice::~ReplacementTextSlice() = default;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <iosfwd>
+
+/// A half-open range [from, to) of character positions of one string. An empty slice (from equal
+/// to to) is legal, but neither overlaps nor contains anything and is contained in nothing.
+class StringSlice {
+public:
+    /// Throws std::range_error: "length of StringSlice error" when to < from, else "position of
+    /// StringSlice error" when either is 4294967295, the value for no position.
+    StringSlice(unsigned int from, unsigned int to);
+
+    unsigned int from() const { return from_; }
+    /// One past the last position.
+    unsigned int to() const { return to_; }
+    bool empty() const { return from_ == to_; }
+    unsigned int length() const { return to_ - from_; }
+
+    /// Whether every position of `other` is one of this slice; false when either is empty.
+    bool has_subset(const StringSlice& other) const;
+    /// has_subset() without equality.
+    bool has_proper_subset(const StringSlice& other) const;
+    bool contains(unsigned int pos) const { return from_ <= pos && pos < to_; }
+    /// Whether the two share a position; slices that only touch do not.
+    bool overlaps(const StringSlice& other) const;
+    /// Whether one of the two has the other as its subset.
+    bool are_subsets(const StringSlice& other) const;
+    /// Whether the two cross: they overlap, and each holds a position that the other lacks.
+    bool partial_intersection(const StringSlice& other) const;
+
+    /// The smallest slice over both, with the gap between them; an empty one adds nothing.
+    StringSlice combine(const StringSlice& other) const;
+
+    friend bool operator==(const StringSlice&, const StringSlice&) = default;
+
+private:
+    unsigned int from_;
+    unsigned int to_;
+};
+
+/// Writes from, a blank and to: "3 7".
+std::ostream& operator<<(std::ostream& os, const StringSlice& slice);

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <vector>
+
+#include "text/StringSlice.h"
+
+/// The nodes of a text's styles: the positions at which a style that is not empty begins or ends.
+///
+/// A slice [f, t) crosses some style exactly when the hull of all styles that have a node between f
+/// and t reaches beyond f or t. The nodes stand in blocks of neighbouring positions under a binary
+/// tree of hulls, so that adding and asking are O(log n) for n positions, and a text as short as
+/// one block costs one plain list.
+class StyleNodes {
+public:
+    /// For styles within [0, text_length).
+    explicit StyleNodes(unsigned int text_length) : text_length_(text_length) {}
+
+    /// Whether some style has a node between the ends of `slice`, the ends themselves left out.
+    bool any_inside(const StringSlice& slice) const { return !hull_inside(slice).empty(); }
+    /// Whether `slice` and some style have a partial intersection.
+    bool crosses(const StringSlice& slice) const;
+
+    /// Adds the nodes of one style; leaves everything as it was when memory runs out.
+    void add(const StringSlice& style);
+
+private:
+    struct Node {
+        unsigned int position;
+        StringSlice hull;  // of all styles that begin or end here
+    };
+    using Block = std::vector<Node>;  // one node a position, in no order
+
+    StringSlice hull_inside(const StringSlice& slice) const;
+    StringSlice hull_of_blocks(unsigned int first, unsigned int last) const;
+    void make_room(unsigned int position);
+    void include(unsigned int position, const StringSlice& style);
+
+    unsigned int text_length_;
+    std::vector<Block> blocks_;             // none until the first style comes
+    std::vector<StringSlice> block_hulls_;  // of block b at blocks + b, of nodes 2i and 2i + 1 at i
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+#include "text/StringSlice.h"
+
+class RichTextTagFactory;
+class TextAtomPropertyBuilder;
+
+/// One typographic property laid on one slice of a text item. A style is activated once, on its
+/// slice, and only read from then on.
+class TextItemStyle {
+public:
+    TextItemStyle() : slice_(0, 0) {}
+    TextItemStyle(const TextItemStyle&) = delete;
+    TextItemStyle& operator=(const TextItemStyle&) = delete;
+    virtual ~TextItemStyle();
+
+    /// The factory's text that opens, and that closes, this style.
+    virtual std::string start_tag(const RichTextTagFactory& factory) const = 0;
+    virtual std::string end_tag(const RichTextTagFactory& factory) const = 0;
+    /// Switches the style's property on, and off, in the builder.
+    virtual void text_atom_begin(TextAtomPropertyBuilder& builder) const = 0;
+    virtual void text_atom_end(TextAtomPropertyBuilder& builder) const = 0;
+    /// Writes one line: the style's label and the slice, as in "BoldStyle: From 2 To 5".
+    /// The base body writes the slice and ends the line.
+    virtual void print(std::ostream& os) const = 0;
+
+    /// Lays the style on [from, to); throws what StringSlice(from, to) throws.
+    void activate(unsigned int from, unsigned int to) { slice_ = StringSlice(from, to); }
+
+    /// [0, 0) until the style is activated.
+    const StringSlice& slice() const { return slice_; }
+    unsigned int from() const { return slice_.from(); }
+    unsigned int to() const { return slice_.to(); }
+
+private:
+    StringSlice slice_;
+};
+
+/// Calls print().
+std::ostream& operator<<(std::ostream& os, const TextItemStyle& style);
