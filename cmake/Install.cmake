@@ -7,6 +7,9 @@ set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/lmrtext)
 install(TARGETS lmrtext kovrhost lmrtext_host_interface EXPORT lmrtextTargets
         FILE_SET HEADERS DESTINATION ${header_folder})
 install(EXPORT lmrtextTargets NAMESPACE lmrtext:: DESTINATION ${package_folder})
+if(LMRTEXT_BUILD_PROGRAM)
+    install(TARGETS lmrtext_program)
+endif()
 
 configure_package_config_file(cmake/lmrtextConfig.cmake.in lmrtextConfig.cmake
                               INSTALL_DESTINATION ${package_folder})

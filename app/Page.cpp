@@ -1,0 +1,51 @@
+#include "app/Page.h"
+
+#include "markup/Html5RichTextGenerator.h"
+
+namespace {
+
+std::string escaped(const std::string& text) {
+    std::string result;
+    Html5RichTextGenerator::escape(result, text);
+    return result;
+}
+
+}  // namespace
+
+std::string page_head(const std::string& title) {
+    return "<!DOCTYPE html>\n"
+           "<html lang=\"en\">\n"
+           "<head>\n"
+           "<meta charset=\"utf-8\">\n"
+           "<meta name=\"viewport\" content=\"width=device-width\">\n"
+           "<title>" +
+           escaped(title) +
+           "</title>\n"
+           "<style>\n"
+           "body { font: 16px/1.5 sans-serif; max-width: 60em; margin: 2em auto; padding: 0 1em; "
+           "}\n"
+           "section { border-top: 1px solid #ccc; }\n"
+           "h2 { font-size: 1em; margin: 0.5em 0; }\n"
+           "h2 small { color: #666; font-weight: normal; }\n"
+           "dt { color: #666; float: left; width: 9em; }\n"
+           "dd { margin: 0 0 0.3em 9em; overflow-wrap: anywhere; }\n"
+           "sub, sup { line-height: 0; }\n"
+           "</style>\n"
+           "</head>\n"
+           "<body>\n"
+           "<h1>" +
+           escaped(title) + "</h1>\n";
+}
+
+std::string page_section_head(const std::string& title, const std::string& source) {
+    return "<section>\n<h2>" + escaped(title) + " <small>" + escaped(source) +
+           "</small></h2>\n<dl>\n";
+}
+
+std::string page_row(const std::string& label, const std::string& mark_up) {
+    return "<dt>" + escaped(label) + "</dt>\n<dd>" + mark_up + "</dd>\n";
+}
+
+std::string page_section_foot() { return "</dl>\n</section>\n"; }
+
+std::string page_foot() { return "</body>\n</html>\n"; }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <span>
+
+#include "host/THandle.h"
+#include "markup/RichTextGenerator.h"
+
+/// One kind of mark-up that the program writes.
+struct Target {
+    const char* name;
+    const char* help;
+    THandle<RichTextGenerator> (*make_generator)();
+};
+
+std::span<const Target> targets();
