@@ -1,6 +1,7 @@
 #include "finders/TevoChemicalNameStyleFinder.h"
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <string_view>
 
@@ -10,23 +11,23 @@ namespace {
 
 constexpr char down = '!';
 constexpr char up = '$';
-constexpr char markers[] = {down, up, '\0'};
 
 using Names = TevoChemicalNameToTextItemGreek;
 
-/// Appends the texts between `opener` and `closer`. The spans between `closer` and `opener` belong
-/// to the other script and are passed over whole.
+/// Appends the texts between `opener` and `closer`. Of the next two markers of different kinds the
+/// first opens a span and the other closes it; where that span belongs to the other script, it is
+/// passed over whole.
 void find_shifts(std::string_view text, char opener, char closer, std::vector<StringSlice>& out) {
-    const std::size_t first_opener = text.find(opener);
-    if (first_opener == std::string_view::npos) return;
-    if (text.find(closer, first_opener + 1) == std::string_view::npos) return;
-    std::size_t begin = text.find_first_of(markers);
-    while (begin != std::string_view::npos) {
-        const bool own = text[begin] == opener;
-        const std::size_t end = text.find(own ? closer : opener, begin + 1);
-        if (end == std::string_view::npos) return;
-        if (own) out.emplace_back(to_position(begin + 1), to_position(end));
-        begin = text.find_first_of(markers, end + 1);
+    std::size_t pos = 0;
+    while (true) {
+        const std::size_t opener_at = text.find(opener, pos);
+        if (opener_at == std::string_view::npos) return;
+        const std::size_t closer_at = text.find(closer, pos);
+        if (closer_at == std::string_view::npos) return;
+        if (opener_at < closer_at) {
+            out.emplace_back(to_position(opener_at + 1), to_position(closer_at));
+        }
+        pos = std::max(opener_at, closer_at) + 1;
     }
 }
 
@@ -60,24 +61,24 @@ void TevoChemicalNameStyleFinder::greek(std::vector<GreekSlice>& out) const {
     struct Hit {
         unsigned int name, from, to;
     };
-    const std::string& name_text = text();
+    const std::string_view name_text = text();
+    const unsigned int n = length_of(name_text);
     const std::vector<std::string>& names = names_.tevo_chemical_name_greek();
     std::vector<Hit> hits;
     // A name is not looked for inside its own last occurrence, whether that was a letter or not.
-    std::vector<unsigned int> next_allowed(names.size(), 0);
-    const auto character_at = [&](unsigned int pos) {
-        return pos < name_text.size() ? std::string(1, name_text[pos]) : std::string();
-    };
-    for (unsigned int pos = 0; pos < name_text.size(); ++pos) {
+    std::array<unsigned int, TextItem::clambda> next_allowed{};
+    for (unsigned int pos = 0; pos + 1 < n; ++pos) {
         const auto [first, last] = names_.names_beginning_with(name_text[pos]);
         for (unsigned int i = first; i < last; ++i) {
             const std::string& name = names[i];
-            if (pos < next_allowed[i] || name_text.compare(pos, name.size(), name) != 0) continue;
+            if (name[1] != name_text[pos + 1] || pos < next_allowed[i]) continue;
+            if (!name_text.substr(pos).starts_with(name)) continue;
             const unsigned int end = pos + length_of(name);
             next_allowed[i] = end;
-            const std::string prior_char = pos > 0 ? character_at(pos - 1) : std::string();
+            const std::string prior_char(name_text.substr(pos > 0 ? pos - 1 : 0, pos > 0 ? 1 : 0));
+            const std::string next_char(name_text.substr(end, 1));
             if (greek_fragment(name, prior_char)) continue;
-            if (word_fragment(name, prior_char, character_at(end))) continue;
+            if (word_fragment(name, prior_char, next_char)) continue;
             hits.push_back({i, pos, end});
         }
     }

@@ -80,13 +80,6 @@ TevoChemicalNameToTextItemGreek::TevoChemicalNameToTextItemGreek() {
     std::partial_sum(first_name_.begin(), first_name_.end(), first_name_.begin());
 }
 
-std::pair<unsigned int, unsigned int> TevoChemicalNameToTextItemGreek::names_beginning_with(
-    char letter) const {
-    if (letter < 'a' || letter > 'z') return {0, 0};
-    const auto index = static_cast<unsigned int>(letter - 'a');
-    return {first_name_[index], first_name_[index + 1]};
-}
-
 TextItem::GreekSymbol TevoChemicalNameToTextItemGreek::greek_symbol(const std::string& name) const {
     const auto row =
         std::find_if(std::begin(name_rows), std::end(name_rows),

@@ -42,7 +42,11 @@ public:
     /// The names in ascending byte order.
     const std::vector<std::string>& tevo_chemical_name_greek() const { return names_; }
     /// The indices [first, last) of the names that begin with `letter`; none where it is no a to z.
-    std::pair<unsigned int, unsigned int> names_beginning_with(char letter) const;
+    std::pair<unsigned int, unsigned int> names_beginning_with(char letter) const {
+        if (letter < 'a' || letter > 'z') return {0, 0};
+        const auto index = static_cast<unsigned int>(letter - 'a');
+        return {first_name_[index], first_name_[index + 1]};
+    }
     /// The symbol of exactly that name, or no_symbol.
     TextItem::GreekSymbol greek_symbol(const std::string& name) const;
 

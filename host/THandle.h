@@ -17,6 +17,7 @@ template <class T>
 class THandle {
 public:
     THandle() = default;
+    THandle(std::nullptr_t) {}
     /// Takes ownership of `object`, which may be null.
     template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     explicit THandle(U* object) : object_(object) {}

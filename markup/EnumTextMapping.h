@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -63,8 +64,8 @@ template <class T>
 std::string EnumTextMapping<T>::text(T member) const {
     const auto entry = std::find_if(entries_.begin(), entries_.end(), IDEqual{member});
     if (entry == entries_.end()) {
-        throw std::invalid_argument("Internal Error: member " +
-                                    std::to_string(static_cast<int>(member)) +
+        const auto value = +static_cast<std::underlying_type_t<T>>(member);  // + widens characters
+        throw std::invalid_argument("Internal Error: member " + std::to_string(value) +
                                     " not in EnumTextMapping");
     }
     return entry->second;

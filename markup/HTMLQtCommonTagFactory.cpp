@@ -11,6 +11,8 @@ std::string font_tag(const std::string& attribute, const std::string& value) {
     return font_head + " " + attribute + "=" + value + ">";
 }
 
+const std::string greek_tag = font_tag(face_attribute, "symbol");
+
 }  // namespace
 
 HTMLQtCommonTagFactory::~HTMLQtCommonTagFactory() = default;
@@ -19,6 +21,4 @@ std::string HTMLQtCommonTagFactory::start_color(TextItem::ColorName color) const
     return font_tag(color_attribute, color_texts_.convert(color));
 }
 
-std::string HTMLQtCommonTagFactory::start_greek() const {
-    return font_tag(face_attribute, "symbol");
-}
+std::string HTMLQtCommonTagFactory::start_greek() const { return greek_tag; }

@@ -23,10 +23,10 @@ public:
     std::string end_greek() const override { return end_font(); }
     std::string start_overstrike() const override { return "<u>"; }
     std::string end_overstrike() const override { return "</u>"; }
-    std::string start_invisible() const override { return ""; }
-    std::string end_invisible() const override { return ""; }
-    std::string start_replacement_text() const override { return ""; }
-    std::string end_replacement_text() const override { return ""; }
+    std::string start_invisible() const override { return {}; }
+    std::string end_invisible() const override { return {}; }
+    std::string start_replacement_text() const override { return {}; }
+    std::string end_replacement_text() const override { return {}; }
     std::string line_break() const override { return "<br>"; }
 
     std::string end_font() const { return "</font>"; }

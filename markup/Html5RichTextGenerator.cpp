@@ -11,7 +11,8 @@
 
 namespace {
 
-/// One past the UTF-8 character at the front of `text`. Bytes that are no UTF-8 pass as characters.
+/// One past the UTF-8 character at the front of `text`. A byte that continues none belongs to the
+/// one before.
 std::size_t end_of_character(std::string_view text) {
     const auto continues = [](char byte) {
         return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
@@ -31,7 +32,7 @@ Html5RichTextGenerator::~Html5RichTextGenerator() = default;
 std::string Html5RichTextGenerator::mark_up_text(const RichTextData& data) const {
     const std::string text = data.text();
     const NestedStyles nested(data.styles(), length_of(text));
-    GreekStyles letters;
+    RichTextData::GreekStyles letters;
     std::copy_if(data.greek().begin(), data.greek().end(), std::back_inserter(letters),
                  [](const auto& style) { return style->symbol() != TextItem::no_symbol; });
     return RichTextGenerator::mark_up_text(RichTextData(text, data.line_length(), nested.styles(),

@@ -10,8 +10,8 @@ public:
 
     std::string start_color(TextItem::ColorName color) const override;
     std::string end_color() const override;
-    std::string start_greek() const override { return ""; }
-    std::string end_greek() const override { return ""; }
+    std::string start_greek() const override { return {}; }
+    std::string end_greek() const override { return {}; }
     std::string start_overstrike() const override;
     std::string end_overstrike() const override;
 };

@@ -1,8 +1,6 @@
 #include "markup/NestedStyles.h"
 
 #include <algorithm>
-#include <queue>
-#include <tuple>
 #include <utility>
 
 #include "text/TextItemStyle.h"
@@ -32,18 +30,6 @@ private:
     THandle<TextItemStyle> whole_;
 };
 
-/// What is left of the style that stands at `index` of the list.
-struct Remainder {
-    unsigned int from;
-    unsigned int to;
-    std::size_t index;
-
-    /// Whether the other one is to be opened first.
-    bool operator<(const Remainder& other) const {
-        return std::tie(from, other.to, index) > std::tie(other.from, to, other.index);
-    }
-};
-
 THandle<TextItemStyle> cut(const THandle<TextItemStyle>& style, unsigned int from,
                            unsigned int to) {
     if (style->from() == from && style->to() == to) return style;
@@ -52,22 +38,83 @@ THandle<TextItemStyle> cut(const THandle<TextItemStyle>& style, unsigned int fro
     return piece;
 }
 
+/// A style and the piece of it that is in work.
+struct OpenStyle {
+    std::size_t index;  // in the caller's list
+    unsigned int from;  // of the piece
+    unsigned int to;    // of the style, or of the text where that ends first
+};
+
+bool opens_first(const OpenStyle& a, const OpenStyle& b) {
+    return a.to != b.to ? a.to > b.to : a.index < b.index;
+}
+
+bool begins_first(const OpenStyle& a, const OpenStyle& b) {
+    return a.from != b.from ? a.from < b.from : opens_first(a, b);
+}
+
+bool ends_first(const OpenStyle& a, const OpenStyle& b) { return a.to < b.to; }
+
+/// The styles that stand open at the end of the text gone through so far.
+class OpenStyles {
+public:
+    OpenStyles(const RichTextData::Styles& styles, RichTextData::Styles& pieces)
+        : styles_(styles), pieces_(pieces), depth_(styles.size()) {}
+
+    void open(const OpenStyle& style) {
+        depth_[style.index] = open_.size();
+        open_.push_back(style);
+    }
+
+    /// Closes the styles [first, last), which end at `position`. Those that stand open around them
+    /// stay; those that opened after them close too and open again, the one that ends last first.
+    void close(unsigned int position, std::vector<OpenStyle>::const_iterator first,
+               std::vector<OpenStyle>::const_iterator last) {
+        std::size_t lowest = open_.size();
+        for (auto style = first; style != last; ++style) {
+            lowest = std::min(lowest, depth_[style->index]);
+        }
+        // As many again are put in order below: styles that cross at every turn would otherwise be
+        // cut as often as there are styles.
+        const std::size_t ended = static_cast<std::size_t>(last - first);
+        lowest -= std::min(lowest, open_.size() - lowest - ended);
+
+        std::vector<OpenStyle> again;
+        for (auto style = open_.begin() + static_cast<std::ptrdiff_t>(lowest); style != open_.end();
+             ++style) {
+            pieces_.push_back(cut(styles_[style->index], style->from, position));
+            if (style->to > position) again.push_back({style->index, position, style->to});
+        }
+        open_.resize(lowest);
+        std::sort(again.begin(), again.end(), opens_first);
+        for (const OpenStyle& style : again) open(style);
+    }
+
+private:
+    const RichTextData::Styles& styles_;
+    RichTextData::Styles& pieces_;
+    std::vector<OpenStyle> open_;     // the innermost last
+    std::vector<std::size_t> depth_;  // of each open style in open_, by its index
+};
+
 }  // namespace
 
 NestedStyles::NestedStyles(const RichTextData::Styles& styles, unsigned int text_length) {
-    std::priority_queue<Remainder> waiting;
+    std::vector<OpenStyle> by_begin;
     for (std::size_t i = 0; i < styles.size(); ++i) {
         const unsigned int to = std::min(styles[i]->to(), text_length);
-        if (styles[i]->from() < to) waiting.push({styles[i]->from(), to, i});
+        if (styles[i]->from() < to) by_begin.push_back({i, styles[i]->from(), to});
     }
-    std::vector<unsigned int> open_ends;  // of the pieces around the next one, the innermost last
-    while (!waiting.empty()) {
-        const Remainder next = waiting.top();
-        waiting.pop();
-        while (!open_ends.empty() && open_ends.back() <= next.from) open_ends.pop_back();
-        const unsigned int to = open_ends.empty() ? next.to : std::min(next.to, open_ends.back());
-        pieces_.push_back(cut(styles[next.index], next.from, to));
-        open_ends.push_back(to);
-        if (to < next.to) waiting.push({to, next.to, next.index});
+    std::vector<OpenStyle> by_end = by_begin;
+    std::sort(by_begin.begin(), by_begin.end(), begins_first);
+    std::sort(by_end.begin(), by_end.end(), ends_first);
+
+    OpenStyles open(styles, pieces_);
+    auto begin = by_begin.cbegin();
+    for (auto end = by_end.cbegin(); end != by_end.cend();) {
+        for (; begin != by_begin.cend() && begin->from < end->to; ++begin) open.open(*begin);
+        const auto last = std::upper_bound(end, by_end.cend(), *end, ends_first);
+        open.close(end->to, end, last);
+        end = last;
     }
 }

@@ -2,8 +2,9 @@
 
 #include "markup/RichTextData.h"
 
-/// Styles cut where they cross, so that their tags nest. Of two that cross, the one that begins
-/// later is cut where the other ends; what lies beyond the end of the text is left out.
+/// Styles cut where they cross, so that their tags nest: where one of two that cross ends, the one
+/// that began inside it is closed and opened again. What lies beyond the end of the text is left
+/// out.
 class NestedStyles {
 public:
     /// O((m + p) log (m + p)) for m styles cut into p pieces.

@@ -20,8 +20,8 @@ template <class Style>
 class StylesByStart {
 public:
     explicit StylesByStart(const std::vector<THandle<Style>>& styles) : sorted_(styles) {
-        for (const auto& style : sorted_)
-            static_cast<void>(*style);  // a null handle raises its error here
+        // Dereferences every handle, so that a null one raises its error whatever the text.
+        if (sorted_.size() == 1) static_cast<void>(*sorted_.front());
         if (!std::is_sorted(sorted_.begin(), sorted_.end(), begins_before)) {
             std::stable_sort(sorted_.begin(), sorted_.end(), begins_before);
         }
@@ -32,11 +32,11 @@ public:
         return taken_ < sorted_.size() ? sorted_[taken_]->from() : no_position;
     }
 
-    /// The styles that begin at `position`, in list order; valid until the next call.
-    const std::vector<THandle<Style>>& take(unsigned int position) {
-        group_.clear();
-        for (; next_start() == position; ++taken_) group_.push_back(sorted_[taken_]);
-        return group_;
+    /// The styles that begin at `position`, in list order.
+    std::span<const THandle<Style>> take(unsigned int position) {
+        const std::size_t first = taken_;
+        while (next_start() == position) ++taken_;
+        return std::span(sorted_).subspan(first, taken_ - first);
     }
 
 private:
@@ -45,12 +45,11 @@ private:
     }
 
     std::vector<THandle<Style>> sorted_;
-    std::vector<THandle<Style>> group_;
     std::size_t taken_ = 0;
 };
 
 template <class Style>
-bool find_start(unsigned int position, const std::vector<THandle<Style>>& styles,
+bool find_start(unsigned int position, std::span<const THandle<Style>> styles,
                 THandle<Style>& found) {
     for (const auto& style : styles) {
         if (style->from() != position) continue;
@@ -87,14 +86,15 @@ std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
     StylesByStart greek(data.greek());
 
     std::string result;
+    result.reserve(n + 16 * data.styles().size());
     unsigned int column = 0;
     unsigned int covered_until = 0;
     // Each turn stands where something begins or ends and goes on to the next such position.
     for (unsigned int i = 0; i < n;) {
         result += get_slice_tags(i, styles.take(i));
-        const Styles& invisible_here = invisible.take(i);
-        const ReplacementTextStyles& replacement_here = replacement_text.take(i);
-        const GreekStyles& greek_here = greek.take(i);
+        const Styles invisible_here = invisible.take(i);
+        const ReplacementTextStyles replacement_here = replacement_text.take(i);
+        const GreekStyles greek_here = greek.take(i);
         unsigned int plain_from = i + 1;  // a covering style swallows at least one character
         if (has_invisible_style(i, invisible_here)) {
             covered_until = current_invisible_->to();
@@ -130,46 +130,59 @@ unsigned int RichTextGenerator::write_characters(std::string& result, std::strin
     return length_of(written);
 }
 
-std::string RichTextGenerator::get_slice_tags(unsigned int position, const Styles& styles) const {
-    return closing_tags(position) + opening_tags(position, styles);
+std::string RichTextGenerator::get_slice_tags(unsigned int position, Styles styles) const {
+    std::string tags;
+    append_closing_tags(tags, position);
+    append_opening_tags(tags, position, styles);
+    return tags;
 }
 
 std::string RichTextGenerator::closing_tags(unsigned int position) const {
     std::string tags;
-    const auto due = pending_.find(position);
-    if (due == pending_.end()) return tags;
-    for (auto& stack = due->second; !stack.empty(); stack.pop()) tags += stack.top();
-    pending_.erase(due);
+    append_closing_tags(tags, position);
     return tags;
 }
 
-std::string RichTextGenerator::opening_tags(unsigned int position, const Styles& styles) const {
-    std::vector<const TextItemStyle*> beginning;
-    for (const auto& style : styles) {
-        if (style->from() == position && !style->slice().empty()) beginning.push_back(style.get());
-    }
-    std::stable_sort(
-        beginning.begin(), beginning.end(),
-        [](const TextItemStyle* a, const TextItemStyle* b) { return a->to() > b->to(); });
+std::string RichTextGenerator::opening_tags(unsigned int position, Styles styles) const {
     std::string tags;
-    for (const TextItemStyle* style : beginning) {
-        tags += style->start_tag(*tag_factory_);
-        std::string end_tag = style->end_tag(*tag_factory_);
-        if (!end_tag.empty()) pending_[style->to()].push(std::move(end_tag));
-    }
+    append_opening_tags(tags, position, styles);
     return tags;
 }
 
-bool RichTextGenerator::has_invisible_style(unsigned int position, const Styles& styles) const {
+void RichTextGenerator::append_closing_tags(std::string& result, unsigned int position) const {
+    const auto [first, last] = pending_.equal_range(position);
+    for (auto tag = last; tag != first;) result += (--tag)->second;
+    pending_.erase(first, last);
+}
+
+void RichTextGenerator::append_opening_tags(std::string& result, unsigned int position,
+                                            Styles styles) const {
+    beginning_.clear();
+    for (const auto& style : styles) {
+        if (style->from() == position && !style->slice().empty()) beginning_.push_back(style.get());
+    }
+    if (beginning_.size() > 1) {
+        std::stable_sort(
+            beginning_.begin(), beginning_.end(),
+            [](const TextItemStyle* a, const TextItemStyle* b) { return a->to() > b->to(); });
+    }
+    for (const TextItemStyle* style : beginning_) {
+        result += style->start_tag(*tag_factory_);
+        std::string end_tag = style->end_tag(*tag_factory_);
+        if (!end_tag.empty()) pending_.emplace(style->to(), std::move(end_tag));
+    }
+}
+
+bool RichTextGenerator::has_invisible_style(unsigned int position, Styles styles) const {
     return find_start(position, styles, current_invisible_);
 }
 
-bool RichTextGenerator::has_greek_style(unsigned int position, const GreekStyles& styles) const {
+bool RichTextGenerator::has_greek_style(unsigned int position, GreekStyles styles) const {
     return find_start(position, styles, current_greek_);
 }
 
 bool RichTextGenerator::has_replacement_text_style(unsigned int position,
-                                                   const ReplacementTextStyles& styles) const {
+                                                   ReplacementTextStyles styles) const {
     return find_start(position, styles, current_replacement_text_);
 }
 

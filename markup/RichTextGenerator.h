@@ -1,7 +1,7 @@
 #pragma once
 
 #include <map>
-#include <stack>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,9 +34,10 @@ public:
     virtual std::string mark_up_text(const RichTextData& data) const;
 
 protected:
-    using Styles = RichTextData::Styles;
-    using GreekStyles = RichTextData::GreekStyles;
-    using ReplacementTextStyles = RichTextData::ReplacementTextStyles;
+    // A list of styles, or a part of one.
+    using Styles = std::span<const THandle<TextItemStyle>>;
+    using GreekStyles = std::span<const THandle<GreekStyle>>;
+    using ReplacementTextStyles = std::span<const THandle<ReplacementTextStyle>>;
 
     /// Writes at most `limit` characters (at least 1) from the front of `text` to `result` in the
     /// target's form, takes them off `text`, and returns their number. The base writes bytes as
@@ -45,18 +46,17 @@ protected:
                                           unsigned int limit) const;
 
     /// closing_tags() and then opening_tags().
-    std::string get_slice_tags(unsigned int position, const Styles& styles) const;
+    std::string get_slice_tags(unsigned int position, Styles styles) const;
     /// The tags due at `position`, the one opened last first; forgets them.
     std::string closing_tags(unsigned int position) const;
     /// The opening tags of the styles that begin at `position` and are not empty, the one that ends
     /// last first and equal ones in list order; remembers their closing tags.
-    std::string opening_tags(unsigned int position, const Styles& styles) const;
+    std::string opening_tags(unsigned int position, Styles styles) const;
 
     /// Whether a style of the list begins at `position`; the first one becomes the current style.
-    bool has_invisible_style(unsigned int position, const Styles& styles) const;
-    bool has_greek_style(unsigned int position, const GreekStyles& styles) const;
-    bool has_replacement_text_style(unsigned int position,
-                                    const ReplacementTextStyles& styles) const;
+    bool has_invisible_style(unsigned int position, Styles styles) const;
+    bool has_greek_style(unsigned int position, GreekStyles styles) const;
+    bool has_replacement_text_style(unsigned int position, ReplacementTextStyles styles) const;
 
     /// Appends `block` to `result`, with a line break wherever `column`, the number of characters
     /// written so far, becomes a multiple of `line_length`; 0 breaks no lines.
@@ -64,12 +64,18 @@ protected:
                         unsigned int line_length) const;
 
 private:
+    /// What closing_tags() and opening_tags() return, at the end of `result`.
+    void append_closing_tags(std::string& result, unsigned int position) const;
+    void append_opening_tags(std::string& result, unsigned int position, Styles styles) const;
+
     THandle<RichTextTagFactory> tag_factory_;
     THandle<TextItemToOtherGreek> greek_converter_;
 
-    // By the position where they are due; the last pushed is written first.
-    mutable std::map<unsigned int, std::stack<std::string, std::vector<std::string>>> pending_;
+    // Closing tags by the position where they are due; of equal positions the last is written
+    // first.
+    mutable std::multimap<unsigned int, std::string> pending_;
     mutable THandle<TextItemStyle> current_invisible_;
     mutable THandle<GreekStyle> current_greek_;
     mutable THandle<ReplacementTextStyle> current_replacement_text_;
+    mutable std::vector<const TextItemStyle*> beginning_;  // scratch of opening_tags()
 };

@@ -2,6 +2,9 @@
 
 #include <ostream>
 
+void ColorSlice::print(std::ostream& os) const { os << slice_ << ' ' << static_cast<int>(color_); }
+
 std::ostream& operator<<(std::ostream& os, const ColorSlice& slice) {
-    return os << slice.slice() << ' ' << static_cast<int>(slice.color());
+    slice.print(os);
+    return os;
 }

@@ -17,6 +17,9 @@ public:
     const StringSlice& slice() const { return slice_; }
     TextItem::ColorName color() const { return color_; }
 
+    /// Writes from, to and the colour's value with blanks between: "3 7 2".
+    void print(std::ostream& os) const;
+
     friend bool operator==(const ColorSlice&, const ColorSlice&) = default;
 
 private:
@@ -24,5 +27,5 @@ private:
     TextItem::ColorName color_;
 };
 
-/// Writes from, to and the colour's value with blanks between: "3 7 2".
+/// Calls print().
 std::ostream& operator<<(std::ostream& os, const ColorSlice& slice);

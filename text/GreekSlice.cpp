@@ -2,6 +2,9 @@
 
 #include <ostream>
 
+void GreekSlice::print(std::ostream& os) const { os << slice_ << ' ' << static_cast<int>(symbol_); }
+
 std::ostream& operator<<(std::ostream& os, const GreekSlice& slice) {
-    return os << slice.slice() << ' ' << static_cast<int>(slice.symbol());
+    slice.print(os);
+    return os;
 }

@@ -17,6 +17,9 @@ public:
     const StringSlice& slice() const { return slice_; }
     TextItem::GreekSymbol symbol() const { return symbol_; }
 
+    /// Writes from, to and the symbol's value with blanks between: "0 5 1".
+    void print(std::ostream& os) const;
+
     friend bool operator==(const GreekSlice&, const GreekSlice&) = default;
 
 private:
@@ -24,5 +27,5 @@ private:
     TextItem::GreekSymbol symbol_;
 };
 
-/// Writes from, to and the symbol's value with blanks between: "0 5 1".
+/// Calls print().
 std::ostream& operator<<(std::ostream& os, const GreekSlice& slice);

@@ -45,6 +45,9 @@ StringSlice StringSlice::combine(const StringSlice& other) const {
     return {std::min(from_, other.from_), std::max(to_, other.to_)};
 }
 
+void StringSlice::print(std::ostream& os) const { os << from_ << ' ' << to_; }
+
 std::ostream& operator<<(std::ostream& os, const StringSlice& slice) {
-    return os << slice.from() << ' ' << slice.to();
+    slice.print(os);
+    return os;
 }

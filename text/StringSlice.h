@@ -31,6 +31,9 @@ public:
     /// The smallest slice over both, with the gap between them; an empty one adds nothing.
     StringSlice combine(const StringSlice& other) const;
 
+    /// Writes from, a blank and to: "3 7".
+    void print(std::ostream& os) const;
+
     friend bool operator==(const StringSlice&, const StringSlice&) = default;
 
 private:
@@ -38,5 +41,5 @@ private:
     unsigned int to_;
 };
 
-/// Writes from, a blank and to: "3 7".
+/// Calls print().
 std::ostream& operator<<(std::ostream& os, const StringSlice& slice);

@@ -4,7 +4,10 @@
 
 #include "text/StringSlice.h"
 
-/// Merges overlapping slices: the slices it holds never overlap, but may touch.
+/// Merges overlapping slices: the slices it gives never overlap, but may touch.
+///
+/// Adding is O(1); reading after additions is O(k log k) for k slices, added and held, and merges
+/// them: no two threads may read one reducer at a time.
 class StringSliceReducer {
 public:
     StringSliceReducer() = default;
@@ -15,23 +18,19 @@ public:
     }
 
     /// The merged slices. Their order carries no meaning.
-    const std::vector<StringSlice>& slices() const { return slices_; }
+    const std::vector<StringSlice>& slices() const;
     /// The number of positions that all the slices added so far cover together.
     int total_length() const;
 
-    /// Merges `s` with the held slices that it overlaps; an empty slice changes nothing. O(k) for k
-    /// held slices, O(log k) when `s` lies behind them.
+    /// Merges `s` with the held slices that it overlaps; an empty slice changes nothing.
     void add(const StringSlice& s);
-    /// Adds each slice of an iterator range; O(k log k) for k slices, added and held.
+    /// Adds each slice of an iterator range.
     template <class Iterator>
     void add(Iterator first, Iterator last) {
-        slices_.insert(slices_.end(), first, last);
-        reduce();
+        for (; first != last; ++first) add(*first);
     }
 
 private:
-    /// Restores what holds between calls: no empty slices, no overlaps, ascending positions.
-    void reduce();
-
-    std::vector<StringSlice> slices_;
+    mutable std::vector<StringSlice> slices_;  // none empty; merged and ascending when in order
+    mutable bool in_order_ = true;
 };

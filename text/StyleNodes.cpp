@@ -18,7 +18,7 @@ bool StyleNodes::crosses(const StringSlice& slice) const {
 void StyleNodes::add(const StringSlice& style) {
     if (style.empty()) return;
     if (blocks_.empty()) {
-        const unsigned int blocks = text_length_ / block_size + 1;
+        const std::size_t blocks = text_length_ / block_size + 1;
         block_hulls_.assign(2 * blocks, nothing);
         blocks_.resize(blocks);
     }
@@ -59,7 +59,7 @@ StringSlice StyleNodes::hull_of_blocks(unsigned int first, unsigned int last) co
 /// Sees to it that the block of `position` can take two more nodes: a style may have both there.
 void StyleNodes::make_room(unsigned int position) {
     Block& block = blocks_[position / block_size];
-    if (block.capacity() < block.size() + 2) block.reserve(2 * block.size() + 8);
+    if (block.capacity() < block.size() + 2) block.reserve(2 * block.size() + 16);
 }
 
 void StyleNodes::include(unsigned int position, const StringSlice& style) {

@@ -23,9 +23,9 @@ public:
     /// Switches the style's property on, and off, in the builder.
     virtual void text_atom_begin(TextAtomPropertyBuilder& builder) const = 0;
     virtual void text_atom_end(TextAtomPropertyBuilder& builder) const = 0;
-    /// Writes one line: the style's label and the slice, as in "BoldStyle: From 2 To 5".
-    /// The base body writes the slice and ends the line.
-    virtual void print(std::ostream& os) const = 0;
+    /// Writes one line: the style's label and the slice, as in "BoldStyle: From 2 To 5". The base
+    /// writes the slice and ends the line; each subclass writes its label and calls it.
+    virtual void print(std::ostream& os) const;
 
     /// Lays the style on [from, to); throws what StringSlice(from, to) throws.
     void activate(unsigned int from, unsigned int to) { slice_ = StringSlice(from, to); }

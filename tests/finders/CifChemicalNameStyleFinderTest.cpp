@@ -9,7 +9,6 @@
 #include "markup/TevoRichTextGenerator.h"
 #include "text/TextItem.h"
 
-using testing::ElementsAre;
 using testing::StrEq;
 using testing::ThrowsMessage;
 

@@ -16,9 +16,13 @@ struct Base {
     virtual ~Base() = default;
 };
 
-struct Counted : Base {
+class Counted : public Base {
+public:
     explicit Counted(std::atomic<int>& alive) : alive_(alive) { ++alive_; }
     ~Counted() override { --alive_; }
+    int alive() const { return alive_; }
+
+private:
     std::atomic<int>& alive_;
 };
 
@@ -32,7 +36,7 @@ TEST(THandle, ObjectDiesWithItsLastHandle) {
         EXPECT_EQ(base, derived);
         derived = {};
         EXPECT_EQ(alive, 1);
-        EXPECT_EQ(make_handle<Counted>(alive)->alive_, 2);
+        EXPECT_EQ(make_handle<Counted>(alive)->alive(), 2);
     }
     EXPECT_EQ(alive, 0);
 }
@@ -50,9 +54,12 @@ TEST(THandle, CopiesInSeveralThreadsCountSafely) {
     {
         const THandle<Base> shared = make_handle<Counted>(alive);
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int i = 0; i < 4; ++i) {
             threads.emplace_back([&shared] {
-                for (int n = 0; n < 20000; ++n) THandle<Base> copy(shared);
+                for (int n = 0; n < 20000; ++n) {
+                    const THandle<Base> copy(shared);  // NOLINT(*-unnecessary-copy-initialization)
+                }
             });
         }
         for (auto& thread : threads) thread.join();
