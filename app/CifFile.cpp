@@ -40,9 +40,9 @@ std::string_view take_line(std::string_view& text) {
 /// are broken there. A field whose first line is a lone backslash has folded lines: each that ends
 /// with a backslash goes on in the next.
 std::string joined(std::string_view text) {
-    constexpr std::string_view fold = "\\";
+    constexpr char fold = '\\';
     std::string_view rest = text;
-    const bool folded = take_line(rest) == fold;
+    const bool folded = take_line(rest) == std::string_view(&fold, 1);
     if (folded) text = rest;
     std::string line;
     bool goes_on = true;
@@ -50,8 +50,8 @@ std::string joined(std::string_view text) {
         std::string_view part = take_line(text);
         if (part.empty()) continue;
         if (!goes_on && line.back() != '-' && part.front() != '-') line += ' ';
-        goes_on = folded && part.ends_with(fold);
-        if (goes_on) part.remove_suffix(fold.size());
+        goes_on = folded && part.back() == fold;
+        if (goes_on) part.remove_suffix(1);
         line += part;
     }
     return line;

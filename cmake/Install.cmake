@@ -18,5 +18,7 @@ install(FILES ${PROJECT_BINARY_DIR}/lmrtextConfig.cmake
               ${PROJECT_BINARY_DIR}/lmrtextConfigVersion.cmake
         DESTINATION ${package_folder})
 
+# From the folder of the .pc file up to the prefix, so that an installed tree may be moved.
+file(RELATIVE_PATH pc_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(cmake/lmrtext.pc.in lmrtext.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/lmrtext.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -28,10 +28,11 @@ struct Result {
 
 /// Runs the program in a folder of its own.
 class Program : public testing::Test {
-protected:
+public:
     Program() { std::filesystem::create_directories(folder_); }
     ~Program() override { std::filesystem::remove_all(folder_); }
 
+protected:
     std::string file(const std::string& name, const std::string& text) const {
         std::ofstream(folder_ / name, std::ios::binary) << text;
         return (folder_ / name).string();
@@ -74,6 +75,17 @@ TEST_F(Program, ConvertsEachTextToEachTarget) {
         EXPECT_EQ(done.status, 0) << done.err;
     }
     EXPECT_EQ(run("convert --from plain --to html5", "<alpha>").out, "&lt;alpha&gt;\n");
+}
+
+TEST_F(Program, RealNamesComeBackUnchanged) {
+    std::istringstream rows(contents(data + "/names.tsv"));
+    std::string cif, source, tevo, all_cif, all_tevo;
+    while (std::getline(std::getline(std::getline(rows, cif, '\t'), source, '\t'), tevo)) {
+        all_cif += cif + "\n";
+        all_tevo += tevo + "\n";
+    }
+    EXPECT_EQ(run("convert --from cif-name --to cif", all_cif).out, all_cif);
+    EXPECT_EQ(run("convert --from tevo-name --to tevo", all_tevo).out, all_tevo);
 }
 
 TEST_F(Program, ATextThatFailsHoldsItsPlaceAndTheRestGoesOn) {
