@@ -1,0 +1,102 @@
+// The road of a text, from finder through item to generator: a usual name, and texts as large as
+// they come. For each of the large ones the time of twice its size stands below it.
+#include <benchmark/benchmark.h>
+
+#include "finders/CifChemicalNameStyleFinder.h"
+#include "finders/TevoChemicalNameStyleFinder.h"
+#include "markup/Html5RichTextGenerator.h"
+#include "markup/HtmlRichTextGenerator.h"
+#include "text/TextItem.h"
+
+namespace {
+
+// 66 characters, a letter and two scripts.
+const std::string usual_name = "bis(mu-5-methyl-1H-pyrazole-3-carboxylato-N$2!)-diaqua-copper!2$-x";
+
+template <class Finder, class Generator>
+void usual_name_through(benchmark::State& state) {
+    TextItem item(make_handle<Finder>());
+    Generator generator;
+    for (auto _ : state) {
+        item.set_text(usual_name);
+        benchmark::DoNotOptimize(item.mark_up_text(generator));
+    }
+}
+BENCHMARK(usual_name_through<TevoChemicalNameStyleFinder, HtmlRichTextGenerator>);
+BENCHMARK(usual_name_through<TevoChemicalNameStyleFinder, Html5RichTextGenerator>);
+
+void usual_name_written(benchmark::State& state) {
+    const TextItem item(make_handle<TevoChemicalNameStyleFinder>(), usual_name);
+    HtmlRichTextGenerator generator;
+    for (auto _ : state) benchmark::DoNotOptimize(item.mark_up_text(generator));
+}
+BENCHMARK(usual_name_written);
+
+std::string repeated(const std::string& unit, std::size_t length) {
+    std::string text;
+    while (text.size() < length) text += unit;
+    return text;
+}
+
+void large_text(benchmark::State& state, const THandle<InputTextStyleFinder>& finder,
+                const std::string& unit) {
+    const std::string text = repeated(unit, static_cast<std::size_t>(state.range(0)));
+    HtmlRichTextGenerator generator;
+    TextItem item(finder);
+    for (auto _ : state) {
+        item.set_text(text);
+        benchmark::DoNotOptimize(item.mark_up_text(generator));
+    }
+}
+// 64 characters with 3 styles make 50,000 of them in a MiB.
+BENCHMARK_CAPTURE(large_text, tevo_names, make_handle<TevoChemicalNameStyleFinder>(),
+                  "tetrakis(pyridine-3-carboxylato)-eicosane-1,20-diol-copper!12$--")
+    ->Arg(1 << 20)
+    ->Arg(1 << 21)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(large_text, cif_names, make_handle<CifChemicalNameStyleFinder>(),
+                  "tetrakis(pyridine-3-carboxylato)-eicosane-1,20-diol-copper~12~--")
+    ->Arg(1 << 20)
+    ->Arg(1 << 21)
+    ->Unit(benchmark::kMillisecond);
+
+/// A text with as many styles as characters / 21, by one creator call each, in a shape.
+template <class Shape>
+void large_item(benchmark::State& state, Shape slice_of) {
+    const auto length = static_cast<unsigned int>(state.range(0));
+    const unsigned int styles = length / 21;
+    const std::string text(length, 'x');
+    HtmlRichTextGenerator generator;
+    for (auto _ : state) {
+        TextItem item(make_handle<InputTextStyleFinder>(), text);
+        for (unsigned int i = 0; i < styles; ++i) {
+            const StringSlice slice = slice_of(i, styles, length);
+            item.create_bold(slice.from(), slice.to());
+        }
+        benchmark::DoNotOptimize(item.mark_up_text(generator));
+    }
+}
+
+StringSlice nested_outwards(unsigned int i, unsigned int styles, unsigned int length) {
+    return {styles - i, length - styles + i};
+}
+StringSlice one_end(unsigned int i, unsigned int /*styles*/, unsigned int length) {
+    return {i, length};
+}
+StringSlice backwards(unsigned int i, unsigned int styles, unsigned int /*length*/) {
+    return {21 * (styles - i - 1), 21 * (styles - i)};
+}
+BENCHMARK_CAPTURE(large_item, nested_outwards, nested_outwards)
+    ->Arg(1 << 20)
+    ->Arg(1 << 21)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(large_item, one_end, one_end)
+    ->Arg(1 << 20)
+    ->Arg(1 << 21)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(large_item, backwards, backwards)
+    ->Arg(1 << 20)
+    ->Arg(1 << 21)
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
