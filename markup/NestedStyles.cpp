@@ -76,7 +76,7 @@ public:
         }
         // As many again are put in order below: styles that cross at every turn would otherwise be
         // cut as often as there are styles.
-        const std::size_t ended = static_cast<std::size_t>(last - first);
+        const auto ended = static_cast<std::size_t>(last - first);
         lowest -= std::min(lowest, open_.size() - lowest - ended);
 
         std::vector<OpenStyle> again;

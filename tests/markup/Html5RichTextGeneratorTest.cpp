@@ -83,9 +83,9 @@ TEST(Html5RichTextGenerator, TagsNestForAnyLists) {
 }
 
 TEST(Html5RichTextGenerator, ManyCrossingStylesAreNotCutAtEveryEnd) {
-    constexpr unsigned int styles = 4000;
+    constexpr std::size_t styles = 4000;
     StyleLists sliding;
-    for (unsigned int i = 0; i < styles; ++i) sliding.bold(i, i + styles / 2);
+    for (unsigned int i = 0; i < styles; ++i) sliding.bold(i, i + 2000);
     const std::string html =
         Html5RichTextGenerator().mark_up_text(sliding.data(std::string(2 * styles, 'x')));
     EXPECT_LT(html.size(), 2 * styles + 7 * styles * 12);  // twelve tags a style, not thousands
