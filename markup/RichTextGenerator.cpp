@@ -19,13 +19,17 @@ constexpr int debug_level = 3;
 template <class Style>
 class StylesByStart {
 public:
+    /// `styles` must live as long as this: only a list that is not in order yet is copied.
     explicit StylesByStart(const std::vector<THandle<Style>>& styles) : sorted_(styles) {
         // Dereferences every handle, so that a null one raises its error whatever the text.
-        if (sorted_.size() == 1) static_cast<void>(*sorted_.front());
-        if (!std::is_sorted(sorted_.begin(), sorted_.end(), begins_before)) {
-            std::stable_sort(sorted_.begin(), sorted_.end(), begins_before);
-        }
+        if (styles.size() == 1) static_cast<void>(*styles.front());
+        if (std::is_sorted(styles.begin(), styles.end(), begins_before)) return;
+        copy_ = styles;
+        std::stable_sort(copy_.begin(), copy_.end(), begins_before);
+        sorted_ = copy_;
     }
+    StylesByStart(const StylesByStart&) = delete;
+    StylesByStart& operator=(const StylesByStart&) = delete;
 
     /// Where the next group after those taken begins.
     unsigned int next_start() const {
@@ -36,7 +40,7 @@ public:
     std::span<const THandle<Style>> take(unsigned int position) {
         const std::size_t first = taken_;
         while (next_start() == position) ++taken_;
-        return std::span(sorted_).subspan(first, taken_ - first);
+        return sorted_.subspan(first, taken_ - first);
     }
 
 private:
@@ -44,7 +48,8 @@ private:
         return a->from() < b->from();
     }
 
-    std::vector<THandle<Style>> sorted_;
+    std::span<const THandle<Style>> sorted_;
+    std::vector<THandle<Style>> copy_;
     std::size_t taken_ = 0;
 };
 

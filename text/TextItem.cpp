@@ -75,10 +75,12 @@ void TextItem::create_input_text_styles() {
     using Finder = InputTextStyleFinder;
     finder_->set_text(text_);
 
-    const auto create_plain = [this](void (Finder::*query)(std::vector<StringSlice>&) const,
-                                     void (TextItem::*create)(unsigned int, unsigned int)) {
-        create_each(*finder_, query,
-                    [&](const StringSlice& slice) { (this->*create)(slice.from(), slice.to()); });
+    std::vector<StringSlice> slices;
+    const auto create_plain = [&](void (Finder::*query)(std::vector<StringSlice>&) const,
+                                  void (TextItem::*create)(unsigned int, unsigned int)) {
+        slices.clear();
+        ((*finder_).*query)(slices);
+        for (const StringSlice& slice : slices) (this->*create)(slice.from(), slice.to());
     };
     // Replacement texts and colours come last: what they may not enclose must stand already.
     create_plain(&Finder::subscripts, &TextItem::create_subscript);
