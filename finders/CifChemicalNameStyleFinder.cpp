@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/Regex.h"
-#include "host/RegexResults.h"
+#include "text/regex_grep.h"
 
 namespace {
 
@@ -52,7 +51,7 @@ struct ProcessSubSuperscript {
     std::vector<StringSlice>& enclosed;
     std::vector<StringSlice>& invisible;
 
-    void operator()(const std::string& /*text*/, const RegexResults& match) const {
+    void operator()(const RegexResults& match) const {
         const unsigned int start = match.start();
         const unsigned int end = match.end();
         enclosed.emplace_back(start + 1, end - 1);
@@ -62,23 +61,13 @@ struct ProcessSubSuperscript {
 };
 
 struct ProcessGreek {
+    const std::string& text;
     std::vector<GreekSlice>& greek;
 
-    void operator()(const std::string& text, const RegexResults& match) const {
+    void operator()(const RegexResults& match) const {
         greek.emplace_back(match.start(), match.end(), to_greek(text[match.start() + 1]));
     }
 };
-
-/// Calls process(text, match) for every match in `text`, in order.
-template <class Process>
-void regex_grep(const Regex& regex, const std::string& text, Process process) {
-    RegexResults match;
-    unsigned int position = 0;
-    while (position < text.size() && regex.search_from_position(text, position, match)) {
-        process(text, match);
-        position = match.end() > match.start() ? match.end() : position + 1;
-    }
-}
 
 }  // namespace
 
@@ -107,5 +96,5 @@ void CifChemicalNameStyleFinder::calc_tag_positions() {
     invisible_.clear();
     regex_grep(subscript_regex, text(), ProcessSubSuperscript{subscripts_, invisible_});
     regex_grep(superscript_regex, text(), ProcessSubSuperscript{superscripts_, invisible_});
-    regex_grep(greek_regex, text(), ProcessGreek{greek_});
+    regex_grep(greek_regex, text(), ProcessGreek{text(), greek_});
 }
