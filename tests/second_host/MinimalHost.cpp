@@ -1,4 +1,5 @@
 // A host that stands on the standard library alone, as small as its declarations allow.
+#include <algorithm>
 #include <regex>
 #include <sstream>
 #include <stdexcept>
@@ -47,8 +48,24 @@ struct Regex::Program {
     std::regex expression;
 };
 
-Regex::Regex(const std::string& pattern, unsigned int)
-    : program_(new Program{std::regex(pattern)}) {}
+namespace {
+
+/// The pattern without blanks and comments, for want of a free-spacing syntax.
+std::string compact(const std::string& pattern) {
+    std::string result;
+    std::istringstream lines(pattern);
+    for (std::string line; std::getline(lines, line);) {
+        line.erase(std::min(line.find('#'), line.size()));
+        std::erase(line, ' ');
+        result += line;
+    }
+    return result;
+}
+
+}  // namespace
+
+Regex::Regex(const std::string& pattern, unsigned int options)
+    : program_(new Program{std::regex(options == free_spacing ? compact(pattern) : pattern)}) {}
 Regex::~Regex() = default;
 
 bool Regex::search_from_position(const std::string& text, unsigned int position,

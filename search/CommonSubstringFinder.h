@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "text/StringSlice.h"
+
+/// Finds the stretches that two strings have in common, byte by byte.
+class CommonSubstringFinder {
+public:
+    /// Clears both vectors and fills them in step: entry n of each is one side of the n-th match.
+    /// For each start (i, j) in ascending order of i, then j, that lies not within both sides of an
+    /// earlier match: the longest common run from there on, when it has at least `min_match_length`
+    /// characters. Throws std::range_error "invalid min_match_length in
+    /// CommonSubstringFinder::search" when that is 0, with both vectors as they were.
+    /// O(|a| + |b| + s) on the average for matches of s characters in all.
+    void search(const std::string& a, const std::string& b, std::vector<StringSlice>& a_matches,
+                std::vector<StringSlice>& b_matches, unsigned int min_match_length) const;
+
+    /// The b side of all matches, merged where they overlap and not where they only touch, in
+    /// ascending order. Throws and costs what search() does, in the memory of a and b.
+    std::vector<StringSlice> matched_stretches(const std::string& a, const std::string& b,
+                                               unsigned int min_match_length) const;
+
+    /// Whether some match has `a_pos` on its one side and `b_pos` on its other. Linear in the
+    /// matches.
+    bool contained_in_previous_match(unsigned int a_pos, unsigned int b_pos,
+                                     std::vector<StringSlice>& a_matches,
+                                     std::vector<StringSlice>& b_matches) const;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "search/StringNormalisationPolicy.h"
+#include "search/TextComparisonSearch.h"
+
+/// Marks every stretch of a text that also occurs in the term, once both are normalised.
+class CommonSubstringFinderAdapter : public TextComparisonSearch {
+public:
+    /// `min_match_length` counts normalised characters.
+    CommonSubstringFinderAdapter(const StringNormalisationPolicy& policy,
+                                 unsigned int min_match_length, const std::string& term);
+    ~CommonSubstringFinderAdapter() override;
+
+    /// True, with the whole text appended to `slices`, when term and text are equal. Otherwise
+    /// false, with `slices` as it was when nothing is left of either after normalisation, else made
+    /// the disjoint stretches found and nothing but them. Throws what
+    /// CommonSubstringFinder::search() throws.
+    bool comparison_search(const std::string& term, const std::string& text,
+                           std::vector<StringSlice>& slices) const override;
+
+private:
+    StringNormalisationPolicy policy_;
+    unsigned int min_match_length_;
+};

@@ -1,0 +1,3 @@
+#include "search/TextSearch.h"
+
+TextSearch::~TextSearch() = default;

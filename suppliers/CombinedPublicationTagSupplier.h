@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+/// The tags that enclose the parts of a literature reference in its field text.
+class CombinedPublicationTagSupplier {
+public:
+    std::string begin_jnl() const { return "<j>"; }
+    std::string end_jnl() const { return "</j>"; }
+    std::string begin_vol() const { return "<v>"; }
+    std::string end_vol() const { return "</v>"; }
+    std::string begin_year() const { return "<y>"; }
+    std::string end_year() const { return "</y>"; }
+    std::string begin_page() const { return "<p>"; }
+    std::string end_page() const { return "</p>"; }
+};
