@@ -1,0 +1,12 @@
+#pragma once
+
+#include "finders/TextSearchStyleFinder.h"
+
+/// Highlights what a chemical name has in common with a queried one: runs of 3 characters and more,
+/// punctuation and white space left out.
+class ChemicalNameMatchStyleFinder : public TextSearchStyleFinder {
+public:
+    /// `finder` sees the name's own styles.
+    explicit ChemicalNameMatchStyleFinder(THandle<InputTextStyleFinder> finder);
+    ~ChemicalNameMatchStyleFinder() override;
+};
