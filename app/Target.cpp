@@ -14,12 +14,12 @@ THandle<RichTextGenerator> make() {
 }
 
 constexpr Target target_rows[] = {
-    {"tevo", "the database's own mark-up", make<TevoRichTextGenerator>},
-    {"cif", "the text conventions of CIF files", make<CifRichTextGenerator>},
-    {"html", "HTML with font tags, text not escaped", make<HtmlRichTextGenerator>},
-    {"qt", "Qt rich text, text not escaped", make<QtRichTextGenerator>},
+    {"tevo", "the database's own mark-up", make<TevoRichTextGenerator>, false},
+    {"cif", "the text conventions of CIF files", make<CifRichTextGenerator>, false},
+    {"html", "HTML with font tags, text not escaped", make<HtmlRichTextGenerator>, true},
+    {"qt", "Qt rich text, text not escaped", make<QtRichTextGenerator>, true},
     {"html5", "HTML5 for pages: text escaped, Greek letters in Unicode",
-     make<Html5RichTextGenerator>},
+     make<Html5RichTextGenerator>, true},
 };
 
 }  // namespace

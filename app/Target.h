@@ -10,6 +10,7 @@ struct Target {
     const char* name;
     const char* help;
     THandle<RichTextGenerator> (*make_generator)();
+    bool shows_color;
 };
 
 std::span<const Target> targets();

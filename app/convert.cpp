@@ -1,10 +1,6 @@
 #include "app/convert.h"
 
-#include <exception>
-
 #include "app/Diagnostics.h"
-#include "app/TextFile.h"
-#include "app/TextOutput.h"
 #include "text/TextItem.h"
 
 namespace {
@@ -42,42 +38,15 @@ private:
     std::vector<GreekSlice> letters_;
 };
 
-/// Returns whether every text of the file was converted.
-bool convert_file(TextFile& file, Converter& converter, const ConvertOptions& options,
-                  TextOutput& output) {
-    bool good = true;
-    for (std::string_view text; file.next(text);) {
-        std::string converted;
-        try {
-            converted = converter.convert(text);
-            if (options.from->may_lack_letters && converter.has_unknown_letter()) {
-                report(file.name(), file.number(), "warning: Greek code without a letter");
-            }
-        } catch (const std::exception& error) {
-            report(file.name(), file.number(), error.what());
-            good = false;
-        }
-        converted += options.separator;
-        output.write(converted);
-    }
-    return good;
-}
-
 }  // namespace
 
-int convert(const ConvertOptions& options) {
+bool convert(const ConvertOptions& options) {
     Converter converter(options);
-    TextOutput output;
-    bool good = true;
-    for (const std::string& path : options.files) {
-        try {
-            TextFile file(path, options.separator);
-            good = convert_file(file, converter, options, output) && good;
-        } catch (const InputError& error) {
-            report(error.what());
-            good = false;
+    return process_texts(options.batch, "", [&](const TextFile& file, std::string_view text) {
+        std::string converted = converter.convert(text);
+        if (options.from->may_lack_letters && converter.has_unknown_letter()) {
+            report(file.name(), file.number(), "warning: Greek code without a letter");
         }
-    }
-    output.close();
-    return good ? 0 : 1;
+        return converted;
+    });
 }

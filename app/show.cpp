@@ -22,12 +22,12 @@ public:
                                        : std::make_unique<TextOutput>(options.page)),
           on_page_(!options.page.empty()) {}
 
-    int run(const std::vector<std::string>& files) {
+    bool run(const std::vector<std::string>& files) {
         if (on_page_) output_->write(page_head("Names of crystal structures"));
         for (const std::string& file : files) show_file(file);
         if (on_page_) output_->write(page_foot());
         output_->close();
-        return good_ ? 0 : 1;
+        return good_;
     }
 
 private:
@@ -78,4 +78,4 @@ private:
 
 }  // namespace
 
-int show(const ShowOptions& options) { return Show(options).run(options.files); }
+bool show(const ShowOptions& options) { return Show(options).run(options.files); }

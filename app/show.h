@@ -12,6 +12,6 @@ struct ShowOptions {
 };
 
 /// Shows the names and titles of CIF files. A file or field that fails is reported and the others
-/// are shown. Returns the exit status: 0, or 1 when anything was reported. Throws std::system_error
-/// when the output cannot be written.
-int show(const ShowOptions& options);
+/// are shown. Returns whether nothing was reported. Throws std::system_error when the output cannot
+/// be written.
+bool show(const ShowOptions& options);

@@ -110,6 +110,56 @@ TEST_F(Program, NulEndsTextsThatHoldLineFeeds) {
     EXPECT_EQ(done.out, std::string("ab\ncd\n\0e\n\nf\0", 12));
 }
 
+TEST_F(Program, SearchWritesEachTextWithItsMatches) {
+    const struct {
+        const char* arguments;
+        const char* input;
+        const char* output;
+        int status;
+    } cases[] = {
+        {"--how substring --term 'D-gluco' --from tevo-name", "alpha-D gluco!2$\nxylose\n",
+         "α-<b><span style=\"color:blue\">D gluco</span></b><sub>2</sub>\nxylose\n", 0},
+        {"--how exact --term 'a&b' --matching", "a\na&b\n",
+         "<b><span style=\"color:#008b00\">a&amp;b</span></b>\n", 0},
+        {"--how exact --term b --to qt", "a\n", "a\n", 1},
+        {"--how numeric --term '1.5 2' --tolerance 1 --to slices", "2.6(2)\n2.5 +2\n",
+         "false\t4-5\ntrue\t0-3\t4-6\n", 0},
+        {"--how numeric --term 1.5 --tolerance 0.25 --to slices", "1.25\n1.2\n",
+         "true\t0-4\nfalse\n", 0},
+        {"--how surnames --term 'B.Jones, A.Smith' --to slices", "C.Smith, B.Jones\n",
+         "false\t2-7\t9-16\n", 0},
+        {"--how publication --term '<j>A</j>'", "<j>A</j>\n",
+         "&lt;j&gt;<b><span style=\"color:#008b00\">A</span></b>&lt;/j&gt;\n", 0},
+        {"--how publication --term '<j>A</j>' --to slices --matching", "none\n", "", 1},
+        {"--how substring --term abcd --min-length 2 --to slices", "cdxab\n", "false\t0-2\t3-5\n",
+         0},
+    };
+    for (const auto& c : cases) {
+        const Result done = run(std::string("search ") + c.arguments, c.input);
+        EXPECT_EQ(done.out, c.output) << c.arguments;
+        EXPECT_EQ(done.status, c.status) << c.arguments;
+        EXPECT_EQ(done.err, "");
+    }
+    const Result lines =
+        run("search -0 --how lines --term 'b' --to slices", std::string("a\nb\0c", 5));
+    EXPECT_EQ(lines.out, std::string("false\t2-3\0false\0", 16));
+}
+
+TEST_F(Program, SearchSaysTroubleAndGoesOn) {
+    const Result done = run("search --how publication --term x none -", "</j><j>\n<v>\n");
+    EXPECT_EQ(done.out, "\n&lt;v&gt;\n");
+    EXPECT_EQ(done.err,
+              "lmrtext: none: No such file or directory\n"
+              "<stdin>:1: length of StringSlice error\n");
+    EXPECT_EQ(done.status, 2);
+    const Result length =
+        run("search --how substring --term abc --min-length 0 --matching", "abd\n");
+    EXPECT_EQ(length.err, "<stdin>:1: invalid min_match_length in CommonSubstringFinder::search\n");
+    EXPECT_EQ(length.out, "");
+    EXPECT_EQ(length.status, 2);
+    EXPECT_EQ(run("search --how exact --term a >/dev/full", "a\n").status, 2);
+}
+
 TEST_F(Program, LongLinesPass) {
     std::string line = "tetrakis(mu!3$-hydroxo)-bis(eta$5!-cyclopentadienyl)-zirconium ";
     while (line.size() < 10000000) line += line;
@@ -117,10 +167,15 @@ TEST_F(Program, LongLinesPass) {
 }
 
 TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
-    for (const char* arguments : {"", "convert", "convert --from x --to html",
-                                  "convert --from plain --to qt --line-length -1",
-                                  "convert --from plain --to qt --line-length 4294967295", "show",
-                                  "show --to html -o p.html x", "nonsense"}) {
+    for (const char* arguments :
+         {"", "convert", "convert --from x --to html",
+          "convert --from plain --to qt --line-length -1",
+          "convert --from plain --to qt --line-length 4294967295", "show",
+          "show --to html -o p.html x", "nonsense", "search --how exact", "search --how x --term a",
+          "search --how exact --term a --to tevo", "search --how numeric --term 1 --tolerance x",
+          "search --how numeric --term 1 --tolerance -1",
+          "search --how numeric --term 1 --tolerance 1e999",
+          "search --how substring --term a --min-length -1"}) {
         const Result done = run(arguments);
         EXPECT_EQ(done.status, 2) << arguments;
         EXPECT_THAT(done.err, MatchesRegex("lmrtext: [^\n]+\n")) << arguments;

@@ -1,0 +1,66 @@
+#include "app/SearchKind.h"
+
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+#include "search/CombinedPublicationComparisonSearch.h"
+#include "search/CommonSubstringFinderAdapter.h"
+#include "search/EntireTextComparison.h"
+#include "search/MultipleLineTextComparison.h"
+#include "search/NumericComparison.h"
+#include "search/SurnameComparison.h"
+
+namespace {
+
+/// The number that the whole text is, if it is one.
+template <class Number>
+std::optional<Number> read(const std::string& text) {
+    Number number{};
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+    return number;
+}
+
+template <class Search>
+THandle<TextSearch> make(const SearchSettings& /*settings*/) {
+    return make_handle<Search>();
+}
+
+THandle<TextSearch> make_line_search(const SearchSettings& /*settings*/) {
+    return make_handle<MultipleLineTextComparison>(make_handle<EntireTextComparison>());
+}
+
+THandle<TextSearch> make_numeric_search(const SearchSettings& settings) {
+    const std::optional<int> whole = read<int>(settings.tolerance);
+    if (whole) return make_handle<NumericComparison>(*whole);
+    return make_handle<NumericComparison>(read<double>(settings.tolerance).value());
+}
+
+THandle<TextSearch> make_substring_search(const SearchSettings& settings) {
+    const StringNormalisationPolicy policy(
+        StringNormalisationPolicy::drop_punct | StringNormalisationPolicy::drop_space, "");
+    return make_handle<CommonSubstringFinderAdapter>(policy, settings.min_match_length,
+                                                     std::string());
+}
+
+constexpr SearchKind kind_rows[] = {
+    {"exact", "the text equals the term", make<EntireTextComparison>},
+    {"lines", "a line of the text equals one of the term", make_line_search},
+    {"numeric", "its numbers agree with those of the term, in order", make_numeric_search},
+    {"surnames", "an author stands in both lists of authors", make<SurnameComparison>},
+    {"publication", "journal, year, volume or page of a reference agree",
+     make<CombinedPublicationComparisonSearch>},
+    {"substring", "a run of characters stands in both, blanks and punctuation left out",
+     make_substring_search},
+};
+
+}  // namespace
+
+std::span<const SearchKind> search_kinds() { return kind_rows; }
+
+bool is_tolerance(const std::string& tolerance) {
+    const std::optional<double> number = read<double>(tolerance);
+    return number && std::isfinite(*number) && *number >= 0;
+}
