@@ -1,7 +1,10 @@
 #include "text/TextItem.h"
 
+#include <algorithm>
 #include <ostream>
 #include <stdexcept>
+#include <string_view>
+#include <tuple>
 #include <utility>
 
 #include "finders/InputTextStyleFinder.h"
@@ -15,6 +18,8 @@
 #include "text/OverStrikeStyle.h"
 #include "text/Position.h"
 #include "text/ReplacementTextStyle.h"
+#include "text/TextAtom.h"
+#include "text/TextAtomPropertyBuilder.h"
 #include "text/VerticalAlignStyle.h"
 
 namespace {
@@ -39,6 +44,36 @@ THandle<Style> activated(unsigned int from, unsigned int to, const Payload&... p
 template <class List>
 void make_room(List& list) {
     if (list.size() == list.capacity()) list.reserve(2 * list.size() + 8);
+}
+
+/// One end of a style, where it switches its property on or off.
+struct Boundary {
+    unsigned int position;
+    bool begins;
+    const TextItemStyle* style;
+
+    void apply(TextAtomPropertyBuilder& builder) const {
+        if (begins) {
+            style->text_atom_begin(builder);
+        } else {
+            style->text_atom_end(builder);
+        }
+    }
+};
+
+/// By position, the ends before the beginnings, and in order of creation. Empty styles never end.
+std::vector<Boundary> sorted_boundaries(const std::vector<THandle<TextItemStyle>>& styles) {
+    std::vector<Boundary> boundaries;
+    boundaries.reserve(2 * styles.size());
+    for (const auto& style : styles) {
+        boundaries.push_back({style->from(), true, style.get()});
+        if (style->from() != style->to()) boundaries.push_back({style->to(), false, style.get()});
+    }
+    std::stable_sort(boundaries.begin(), boundaries.end(),
+                     [](const Boundary& a, const Boundary& b) {
+                         return std::tie(a.position, a.begins) < std::tie(b.position, b.begins);
+                     });
+    return boundaries;
 }
 
 template <class Slice, class Create>
@@ -165,6 +200,41 @@ void TextItem::create_replacement_text(unsigned int from, unsigned int to,
 std::string TextItem::mark_up_text(RichTextGenerator& generator) const {
     return generator.mark_up_text(RichTextData(text_, line_length_, styles_, invisible_styles_,
                                                greek_styles_, replacement_text_styles_));
+}
+
+bool TextItem::is_active_node(unsigned int pos) const {
+    return std::any_of(styles_.begin(), styles_.end(), [pos](const auto& style) {
+        return style->from() == pos || style->to() == pos;
+    });
+}
+
+void TextItem::update_props(unsigned int pos, TextAtomPropertyBuilder& builder) const {
+    for (const auto& style : styles_) {
+        if (style->to() == pos && style->from() != pos) style->text_atom_end(builder);
+    }
+    for (const auto& style : styles_) {
+        if (style->from() == pos) style->text_atom_begin(builder);
+    }
+}
+
+std::vector<TextAtom> TextItem::atomize() const {
+    const std::vector<Boundary> boundaries = sorted_boundaries(styles_);
+    const unsigned int end = std::max(length_of(text_), 1U);
+    const std::string_view text(text_.c_str(), end);  // an empty text shows its NUL
+    TextAtomPropertyBuilder builder{TextAtomProperty()};
+    std::vector<TextAtom> atoms;
+    unsigned int run = 0;
+    for (const Boundary& boundary : boundaries) {
+        if (boundary.position >= end) break;
+        if (boundary.position > run) {
+            atoms.emplace_back(std::string(text.substr(run, boundary.position - run)),
+                               builder.text_atom_property());
+            run = boundary.position;
+        }
+        boundary.apply(builder);
+    }
+    atoms.emplace_back(std::string(text.substr(run)), builder.text_atom_property());
+    return atoms;
 }
 
 void TextItem::print(std::ostream& os) const {

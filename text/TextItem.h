@@ -12,6 +12,8 @@ class GreekStyle;
 class InputTextStyleFinder;
 class ReplacementTextStyle;
 class RichTextGenerator;
+class TextAtom;
+class TextAtomPropertyBuilder;
 class TextItemStyle;
 
 /// Rich text: one plain string with styles laid on slices of it, which its finder reads out of the
@@ -111,6 +113,17 @@ public:
 
     /// What the generator writes for this item; throws what it throws.
     std::string mark_up_text(RichTextGenerator& generator) const;
+
+    /// Whether some style begins or ends at `pos`. O(m) for m styles.
+    bool is_active_node(unsigned int pos) const;
+    /// The same: whether the properties must be updated there.
+    bool req_prop_update(unsigned int pos) const { return is_active_node(pos); }
+    /// Ends the styles that end at `pos` and then begins those that begin there, each in order of
+    /// creation. An empty style begins and never ends. O(m).
+    void update_props(unsigned int pos, TextAtomPropertyBuilder& builder) const;
+    /// The text cut wherever a style begins or ends, with the properties of each run; an empty text
+    /// is one atom that holds a NUL. O(n + m log m) for n characters and m styles.
+    std::vector<TextAtom> atomize() const;
 
     /// Writes one line for each style, in the order of creation.
     void print(std::ostream& os) const;
