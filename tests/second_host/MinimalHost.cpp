@@ -4,6 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "host/CrystalStructureDatabaseEntry.h"
 #include "host/KOVRLog.h"
 #include "host/Regex.h"
 #include "host/RegexResults.h"
@@ -79,4 +80,33 @@ bool Regex::search_from_position(const std::string& text, unsigned int position,
 std::vector<std::string> split(const std::string& text, const std::string&,
                                StringFunctionParameters::BlankFieldControl) {
     return {text};
+}
+
+// It knows no crystallography.
+double Cell::volume() const { return 0; }
+bool Spacegroup::sohncke() const { return false; }
+
+std::ostream& operator<<(std::ostream& os, const UncertainValue& value) {
+    return os << value.value;
+}
+std::ostream& operator<<(std::ostream& os, const Date& date) { return os << date.year; }
+
+namespace {
+
+constexpr EnumTextMapping<DepositionInfo::DepositionType>::Initialiser deposition_row = {
+    DepositionInfo::kovr, "KOVR"};
+const EnumTextMapping<DepositionInfo::DepositionType> deposition_texts(&deposition_row, 1);
+
+using CrossReferences = EnumTextMapping<DatabaseCrossReference::CrossReferenceType>;
+constexpr CrossReferences::Initialiser cross_reference_row = {
+    DatabaseCrossReference::same_structure, "Same structure"};
+const CrossReferences cross_reference_texts(&cross_reference_row, 1);
+
+}  // namespace
+
+const EnumTextMapping<DepositionInfo::DepositionType>& DepositionInfo::deposition_type_text() {
+    return deposition_texts;
+}
+const CrossReferences& DatabaseCrossReference::cross_reference_type_text() {
+    return cross_reference_texts;
 }

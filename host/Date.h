@@ -1,0 +1,17 @@
+#pragma once
+
+#include <iosfwd>
+
+/// A day of the calendar, or none.
+struct Date {
+    int year = 0;
+    int month = 0;  // 1 to 12
+    int day = 0;    // 1 to 31
+
+    bool is_null() const { return year == 0 && month == 0 && day == 0; }
+    /// Writes "2004-07-09".
+    void print(std::ostream& os) const;
+};
+
+/// Calls print().
+std::ostream& operator<<(std::ostream& os, const Date& date);

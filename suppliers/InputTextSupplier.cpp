@@ -1,0 +1,3 @@
+#include "suppliers/InputTextSupplier.h"
+
+InputTextSupplier::~InputTextSupplier() = default;

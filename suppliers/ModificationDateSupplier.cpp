@@ -1,0 +1,10 @@
+#include "suppliers/ModificationDateSupplier.h"
+
+#include "suppliers/printed.h"
+
+ModificationDateSupplier::~ModificationDateSupplier() = default;
+
+std::string ModificationDateSupplier::text(THandle<CrystalStructureDatabaseEntry> entry) const {
+    const Date& date = entry->editors_info->modification_date;
+    return date.is_null() ? "" : printed(date);
+}

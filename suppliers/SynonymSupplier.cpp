@@ -1,0 +1,9 @@
+#include "suppliers/SynonymSupplier.h"
+
+#include "suppliers/joined.h"
+
+SynonymSupplier::~SynonymSupplier() = default;
+
+std::string SynonymSupplier::text(THandle<CrystalStructureDatabaseEntry> entry) const {
+    return joined(entry->chemical_info->synonyms, "; ");
+}

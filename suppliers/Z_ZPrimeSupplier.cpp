@@ -1,0 +1,10 @@
+#include "suppliers/Z_ZPrimeSupplier.h"
+
+#include "suppliers/printed.h"
+
+Z_ZPrimeSupplier::~Z_ZPrimeSupplier() = default;
+
+std::string Z_ZPrimeSupplier::text(THandle<CrystalStructureDatabaseEntry> entry) const {
+    const THandle<CrystalInfo> crystal = entry->crystal_info;
+    return "Z: " + printed(crystal->z) + " Z': " + printed(crystal->z_prime);
+}
