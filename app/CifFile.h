@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -10,18 +11,19 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// A text of a CIF block that carries the mark-up of CIF texts.
-struct CifField {
-    std::string label;
-    std::string text;    // one line
-    unsigned long line;  // where the item stands, from 1
+/// One value of an item; empty for "?" and ".". Lines count from 1.
+struct CifValue {
+    std::string text;
+    unsigned long line;
 };
 
-/// One data block.
-struct CifEntry {
+/// One data block: the values of its items by tag, a value a row for the items of loops.
+struct CifBlock {
     std::string name;
-    std::vector<CifField> fields;  // only those that the block has a value for
+    std::map<std::string, std::vector<CifValue>> items;
 };
 
-/// The data blocks of a CIF file; throws InputError and CifError.
-std::vector<CifEntry> read_cif_entries(const std::string& path);
+/// The data blocks of a CIF file with those of their items that are named in `tags`; throws
+/// InputError and CifError.
+std::vector<CifBlock> read_cif_blocks(const std::string& path,
+                                      const std::vector<std::string>& tags);

@@ -27,8 +27,15 @@ std::string page_head(const std::string& title) {
            "section { border-top: 1px solid #ccc; }\n"
            "h2 { font-size: 1em; margin: 0.5em 0; }\n"
            "h2 small { color: #666; font-weight: normal; }\n"
-           "dt { color: #666; float: left; width: 9em; }\n"
-           "dd { margin: 0 0 0.3em 9em; overflow-wrap: anywhere; }\n"
+           "h3 { font-size: 0.8em; margin: 0.8em 0 0.2em; color: #666; font-weight: normal; "
+           "text-transform: uppercase; }\n"
+           "dl { margin: 0; }\n"
+           "dt { color: #666; float: left; width: 12em; }\n"
+           "dd { margin: 0 0 0.3em 12em; overflow-wrap: anywhere; }\n"
+           ".pair { display: grid; grid-template-columns: 12em 1fr 1fr; column-gap: 1em; }\n"
+           ".pair p { margin: 0.2em 0; overflow-wrap: anywhere; }\n"
+           ".pair p:first-child { color: #666; }\n"
+           ".different { background: #fff3e0; }\n"
            "sub, sup { line-height: 0; }\n"
            "</style>\n"
            "</head>\n"
@@ -38,14 +45,21 @@ std::string page_head(const std::string& title) {
 }
 
 std::string page_section_head(const std::string& title, const std::string& source) {
-    return "<section>\n<h2>" + escaped(title) + " <small>" + escaped(source) +
-           "</small></h2>\n<dl>\n";
+    return "<section>\n<h2>" + escaped(title) + " <small>" + escaped(source) + "</small></h2>\n";
 }
+
+std::string page_group(const std::string& group) { return "<h3>" + escaped(group) + "</h3>\n"; }
 
 std::string page_row(const std::string& label, const std::string& mark_up) {
-    return "<dt>" + escaped(label) + "</dt>\n<dd>" + mark_up + "</dd>\n";
+    return "<dl><dt>" + escaped(label) + "</dt>\n<dd>" + mark_up + "</dd></dl>\n";
 }
 
-std::string page_section_foot() { return "</dl>\n</section>\n"; }
+std::string page_pair(const std::string& label, const std::string& left, const std::string& right,
+                      bool same) {
+    return std::string("<div class=\"pair") + (same ? "" : " different") + "\"><p>" +
+           escaped(label) + "</p><p>" + left + "</p><p>" + right + "</p></div>\n";
+}
+
+std::string page_section_foot() { return "</section>\n"; }
 
 std::string page_foot() { return "</body>\n</html>\n"; }

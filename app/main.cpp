@@ -8,7 +8,11 @@
 #include <system_error>
 
 #include "app/Diagnostics.h"
+#include "app/Field.h"
+#include "app/TextOutput.h"
+#include "app/compare.h"
 #include "app/convert.h"
+#include "app/row_named.h"
 #include "app/search.h"
 #include "app/show.h"
 
@@ -16,7 +20,8 @@ namespace {
 
 constexpr int exit_failure = 1;
 constexpr int exit_no_match = 1;
-constexpr int exit_trouble = 2;  // wrong usage, and any failure of a search, as grep has it
+constexpr int exit_difference = 1;
+constexpr int exit_trouble = 2;  // wrong usage, and failures of searches, as with grep and diff
 constexpr unsigned int longest_line = 4294967294;
 
 /// A table of named rows as a help text.
@@ -29,14 +34,6 @@ std::string row_help(const std::string& purpose, std::span<const Row> rows) {
         separator = ", ";
     }
     return help;
-}
-
-/// The row of that name, or null.
-template <class Row>
-const Row* row_named(std::span<const Row> rows, const std::string& name) {
-    const auto row = std::find_if(rows.begin(), rows.end(),
-                                  [&](const Row& candidate) { return candidate.name == name; });
-    return row == rows.end() ? nullptr : &*row;
 }
 
 /// Adds an option that takes the name of a row.
@@ -78,14 +75,118 @@ void add_convert(CLI::App& program, ConvertOptions& options) {
     add_batch_options(command, options.batch);
 }
 
-void add_show(CLI::App& program, ShowOptions& options) {
+/// The views of the catalogue.
+struct View {
+    const char* name;
+    const char* help;
+    void (*list)(std::vector<LMRFieldNames::TextID>& out);
+};
+
+constexpr View view_rows[] = {
+    {"default", "the fields that matter most", LMRFieldNames::default_fields},
+    {"external", "what the public sees", LMRFieldNames::external_fields},
+    {"internal", "all fields", LMRFieldNames::internal_fields},
+};
+
+std::span<const View> views() { return view_rows; }
+
+LMRFieldNames::TextID field_named(const std::string& label) {
+    LMRFieldNames::TextID id{};
+    if (LMRFieldNames::find_id(label.c_str(), id)) return id;
+    throw CLI::ValidationError("no such field: '" + label +
+                               "'; lmrtext fields --view internal lists them");
+}
+
+/// The labels before each comma. One label holds a comma itself: where a part is no label, the next
+/// belongs to it.
+std::vector<LMRFieldNames::TextID> fields_named(const std::string& labels) {
+    std::vector<LMRFieldNames::TextID> fields;
+    std::size_t start = 0;
+    while (start <= labels.size()) {
+        std::size_t end = std::min(labels.find(',', start), labels.size());
+        LMRFieldNames::TextID id{};
+        if (!LMRFieldNames::find_id(labels.substr(start, end - start).c_str(), id)) {
+            end = std::min(labels.find(',', std::min(end + 1, labels.size())), labels.size());
+        }
+        fields.push_back(field_named(labels.substr(start, end - start)));
+        start = end + 1;
+    }
+    return fields;
+}
+
+struct FieldsOptions {
+    const View* view = nullptr;
+};
+
+void add_fields(CLI::App& program, FieldsOptions& options) {
     CLI::App* command =
-        program.add_subcommand("show", "Shows the names and titles of CIF files, styled");
-    add_row_option(command, "--to", options.to, targets(),
+        program.add_subcommand("fields", "Lists the labels and groups of an entry's fields");
+    options.view = row_named(views(), "internal");
+    add_row_option(command, "--view", options.view, views(), "Which fields, internal unless given");
+}
+
+/// Adds the options that choose fields; the fields of the view stand unless others are named.
+void add_field_options(CLI::App* command, const View*& view,
+                       std::vector<LMRFieldNames::TextID>& fields) {
+    view = row_named(views(), "default");
+    add_row_option(command, "--view", view, views(), "Which fields, default unless given");
+    command
+        ->add_option_function<std::string>(
+            "--fields", [&fields](const std::string& labels) { fields = fields_named(labels); },
+            "Only these fields: 'Cell Lengths,Author(s)'")
+        ->type_name("LABELS");
+}
+
+struct ShowArguments {
+    const View* view = nullptr;
+    ShowOptions options;
+};
+
+void add_show(CLI::App& program, ShowArguments& arguments) {
+    CLI::App* command =
+        program.add_subcommand("show", "Shows the fields of entries in CIF files, styled");
+    ShowOptions& options = arguments.options;
+    add_field_options(command, arguments.view, options.fields);
+    command->add_option("--find", options.term,
+                        "Highlight this in every field, compared as suits the field");
+    add_row_option(command, "--to", options.to, show_outputs(),
                    "What to print; tevo unless a page is written");
     command->add_option("-o,--output", options.page, "Write an HTML5 page to this file")
         ->type_name("PAGE.html");
     command->add_option("FILE", options.files, "CIF files; -: standard input")->required();
+}
+
+void add_tolerance_option(CLI::App* command, SearchSettings& settings) {
+    command
+        ->add_option("--tolerance", settings.tolerance,
+                     "How far numbers may differ; 0 unless given, whole numbers with "
+                     "1e-7 for rounding")
+        ->check([](const std::string& tolerance) {
+            if (is_tolerance(tolerance)) return std::string();
+            return "'" + tolerance + "' is no tolerance; expected a number of at least 0";
+        });
+}
+
+struct CompareArguments {
+    const View* view = nullptr;
+    CompareOptions options;
+};
+
+void add_compare(CLI::App& program, CompareArguments& arguments) {
+    CLI::App* command =
+        program.add_subcommand("compare", "Compares the entries of two CIF files, field by field");
+    command->footer(
+        "Lines begin with = where both sides are the same, with < and > where they differ; html5 "
+        "is "
+        "a page\nwith two columns. The exit status is 0 when all is the same, 1 when something "
+        "differs and 2 on trouble.");
+    CompareOptions& options = arguments.options;
+    add_field_options(command, arguments.view, options.fields);
+    add_tolerance_option(command, options.settings);
+    options.to = row_named(targets(), "tevo");
+    add_row_option(command, "--to", options.to, targets(), "What to write, tevo unless given");
+    command->add_option("A.cif", options.left)->required();
+    command->add_option("B.cif", options.right)->required();
 }
 
 void add_search(CLI::App& program, SearchOptions& options) {
@@ -98,16 +199,19 @@ void add_search(CLI::App& program, SearchOptions& options) {
         "otherwise blue. The exit status is 0 when something matched, 1 when nothing did and 2 on\n"
         "trouble. A text that fails is reported as FILE:LINE; the others go on. Example:\n"
         "  lmrtext search --how numeric --term 1.54 --tolerance 0.01 --to slices lengths.txt");
-    add_row_option(command, "--how", options.how, search_kinds(), "What matches")->required();
-    command->add_option("--term", options.term, "What to search for")->required();
+    add_row_option(command, "--how", options.how, search_kinds(), "What matches");
     command
-        ->add_option("--tolerance", options.settings.tolerance,
-                     "Numeric: how far numbers may differ; 0 unless given, whole numbers with "
-                     "1e-7 for rounding")
-        ->check([](const std::string& tolerance) {
-            if (is_tolerance(tolerance)) return std::string();
-            return "'" + tolerance + "' is no tolerance; expected a number of at least 0";
-        });
+        ->add_option_function<std::string>(
+            "--field",
+            [&options](const std::string& label) {
+                const Field field = field_of(field_named(label));
+                options.from = field.source;
+                options.how = field.search;
+            },
+            "Instead of --how and --from: as suits this field of an entry")
+        ->type_name("LABEL");
+    command->add_option("--term", options.term, "What to search for")->required();
+    add_tolerance_option(command, options.settings);
     command->add_option("--min-length", options.settings.min_match_length,
                         "Substring: the shortest run that matches, in characters; 3 unless given");
     add_row_option(command, "--from", options.from, sources(),
@@ -131,17 +235,42 @@ int guarded(int trouble, const std::function<int()>& command) {
     return trouble;
 }
 
-int run_show(ShowOptions& options) {
+int run_show(ShowArguments& arguments) {
+    ShowOptions& options = arguments.options;
     const bool page = !options.page.empty();
-    if (!options.to) options.to = row_named(targets(), page ? "html5" : "tevo");
-    if (page && options.to != row_named(targets(), "html5")) {
+    if (!options.to) options.to = row_named(show_outputs(), page ? "html5" : "tevo");
+    if (page && options.to != row_named(show_outputs(), "html5")) {
         report("a page is written as html5, not as " + std::string(options.to->name));
         return exit_trouble;
     }
+    if (options.fields.empty()) arguments.view->list(options.fields);
     return show(options) ? 0 : exit_failure;
 }
 
+int run_fields(const FieldsOptions& options) {
+    std::vector<LMRFieldNames::TextID> fields;
+    options.view->list(fields);
+    TextOutput output;
+    for (const LMRFieldNames::TextID id : fields) {
+        output.write(std::string(LMRFieldNames::text(id)) + '\t' + group_of(id) + '\n');
+    }
+    output.close();
+    return 0;
+}
+
+int run_compare(CompareArguments& arguments) {
+    CompareOptions& options = arguments.options;
+    if (options.fields.empty()) arguments.view->list(options.fields);
+    const CompareOutcome outcome = compare(options);
+    if (!outcome.good) return exit_trouble;
+    return outcome.same ? 0 : exit_difference;
+}
+
 int run_search(const SearchOptions& options) {
+    if (!options.how) {
+        report("search needs --how or --field (lmrtext search --help says more)");
+        return exit_trouble;
+    }
     const SearchOutcome outcome = search(options);
     if (!outcome.good) return exit_trouble;
     return outcome.matched ? 0 : exit_no_match;
@@ -152,11 +281,15 @@ int run(int argc, char** argv) {
     program.set_version_flag("--version", "lmrtext " LMRTEXT_VERSION);
     program.require_subcommand(1);
     ConvertOptions convert_options;
-    ShowOptions show_options;
+    ShowArguments show_arguments;
+    FieldsOptions fields_options;
     SearchOptions search_options;
+    CompareArguments compare_arguments;
     add_convert(program, convert_options);
-    add_show(program, show_options);
+    add_show(program, show_arguments);
+    add_fields(program, fields_options);
     add_search(program, search_options);
+    add_compare(program, compare_arguments);
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -167,8 +300,12 @@ int run(int argc, char** argv) {
     if (program.got_subcommand("search")) {
         return guarded(exit_trouble, [&] { return run_search(search_options); });
     }
+    if (program.got_subcommand("compare")) {
+        return guarded(exit_trouble, [&] { return run_compare(compare_arguments); });
+    }
     return guarded(exit_failure, [&] {
-        if (program.got_subcommand("show")) return run_show(show_options);
+        if (program.got_subcommand("show")) return run_show(show_arguments);
+        if (program.got_subcommand("fields")) return run_fields(fields_options);
         return convert(convert_options) ? 0 : exit_failure;
     });
 }

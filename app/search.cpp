@@ -10,8 +10,8 @@
 
 namespace {
 
-std::vector<SearchOutput> make_outputs() {
-    std::vector<SearchOutput> outputs;
+std::vector<Output> make_outputs() {
+    std::vector<Output> outputs;
     for (const Target& target : targets()) {
         if (target.shows_color) outputs.push_back({target.name, target.help, &target});
     }
@@ -58,8 +58,8 @@ private:
 
 }  // namespace
 
-std::span<const SearchOutput> search_outputs() {
-    static const std::vector<SearchOutput> outputs = make_outputs();
+std::span<const Output> search_outputs() {
+    static const std::vector<Output> outputs = make_outputs();
     return outputs;
 }
 

@@ -3,26 +3,20 @@
 #include <span>
 #include <string>
 
+#include "app/Output.h"
 #include "app/SearchKind.h"
 #include "app/Source.h"
-#include "app/Target.h"
 #include "app/TextBatch.h"
 
-/// One way to write what a search found.
-struct SearchOutput {
-    const char* name;
-    const char* help;
-    const Target* target;  // shows the matches in colour; null: the ranges are written
-};
-
-std::span<const SearchOutput> search_outputs();
+/// What search writes: the targets that show its matches in colour, and the ranges.
+std::span<const Output> search_outputs();
 
 struct SearchOptions {
     const SearchKind* how = nullptr;
     SearchSettings settings;
     std::string term;
     const Source* from = nullptr;
-    const SearchOutput* to = nullptr;
+    const Output* to = nullptr;
     bool only_matching = false;  // leaves out the texts that do not match
     TextBatch batch;
 };

@@ -2,80 +2,204 @@
 
 #include <exception>
 #include <memory>
+#include <nlohmann/json.hpp>
 
-#include "app/CifFile.h"
 #include "app/Diagnostics.h"
+#include "app/Field.h"
+#include "app/OrderedSearch.h"
 #include "app/Page.h"
-#include "app/TextFile.h"
 #include "app/TextOutput.h"
-#include "finders/CifChemicalNameStyleFinder.h"
+#include "app/load_entries.h"
+#include "finders/TextSearchStyleFinder.h"
+#include "markup/Html5RichTextGenerator.h"
+#include "markup/TextItemToHtml5Greek.h"
+#include "markup/TextItemToStringColor.h"
+#include "suppliers/FieldTextSupplier.h"
+#include "text/TextAtom.h"
 #include "text/TextItem.h"
 
 namespace {
 
-/// Shows one file after the other, on a page or as lines.
+using Json = nlohmann::ordered_json;
+
+/// One field of an entry, ready to be written.
+struct ShownField {
+    const char* label;
+    const char* group;
+    TextItem item;
+};
+
+/// How entries are written, one after the other.
+class Form {
+public:
+    Form() = default;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+    virtual ~Form() = default;
+
+    virtual std::string head() { return ""; }
+    virtual std::string entry(const std::string& file, const CifEntry& entry,
+                              const std::vector<ShownField>& fields) = 0;
+    virtual std::string foot() { return ""; }
+};
+
+class Lines : public Form {
+public:
+    explicit Lines(THandle<RichTextGenerator> generator) : generator_(std::move(generator)) {}
+
+    std::string entry(const std::string& file, const CifEntry& entry,
+                      const std::vector<ShownField>& fields) override {
+        std::string lines = file + ": data_" + entry.block + '\n';
+        for (const ShownField& field : fields) {
+            lines += std::string("    ") + field.label + ": " +
+                     field.item.mark_up_text(*generator_) + '\n';
+        }
+        return lines;
+    }
+
+private:
+    THandle<RichTextGenerator> generator_;
+};
+
+class HtmlPage : public Form {
+public:
+    std::string head() override { return page_head("Crystal structures"); }
+    std::string entry(const std::string& file, const CifEntry& entry,
+                      const std::vector<ShownField>& fields) override {
+        std::string section = page_section_head(entry.block, file);
+        const char* group = "";
+        for (const ShownField& field : fields) {
+            if (field.group != std::string_view(group)) section += page_group(field.group);
+            group = field.group;
+            section += page_row(field.label, field.item.mark_up_text(generator_));
+        }
+        return section + page_section_foot();
+    }
+    std::string foot() override { return page_foot(); }
+
+private:
+    Html5RichTextGenerator generator_;
+};
+
+/// One array of entries; bytes that are no UTF-8 become replacement characters.
+class JsonArray : public Form {
+public:
+    std::string head() override { return "["; }
+    std::string entry(const std::string& file, const CifEntry& entry,
+                      const std::vector<ShownField>& fields) override {
+        Json written{{"file", file}, {"block", entry.block}, {"fields", Json::array()}};
+        for (const ShownField& field : fields) {
+            Json atoms = Json::array();
+            for (const TextAtom& atom : field.item.atomize()) atoms.push_back(json_of(atom));
+            written["fields"].push_back({{"label", field.label},
+                                         {"group", field.group},
+                                         {"text", field.item.text()},
+                                         {"markup", field.item.mark_up_text(generator_)},
+                                         {"atoms", std::move(atoms)}});
+        }
+        const std::string separator = first_ ? "\n" : ",\n";
+        first_ = false;
+        return separator + written.dump(1, ' ', false, Json::error_handler_t::replace);
+    }
+    std::string foot() override { return "\n]\n"; }
+
+private:
+    /// The text and what is not as by default.
+    static Json json_of(const TextAtom& atom) {
+        Json json{{"text", atom.text()}};
+        if (atom.valign() != 0) json["valign"] = atom.valign();
+        if (atom.bold()) json["bold"] = true;
+        if (atom.italic()) json["italic"] = true;
+        if (atom.overstrike()) json["overstrike"] = true;
+        if (atom.invisible()) json["invisible"] = true;
+        if (atom.color() != TextItem::black) {
+            json["color"] = TextItemToStringColor().convert(atom.color());
+        }
+        if (!atom.replacement_txt().empty()) json["replacement"] = atom.replacement_txt();
+        if (atom.greek() != TextItem::no_symbol) {
+            json["greek"] = TextItemToHtml5Greek().convert(atom.greek());
+        }
+        return json;
+    }
+
+    Html5RichTextGenerator generator_;
+    bool first_ = true;
+};
+
+std::unique_ptr<Form> make_form(const ShowOptions& options) {
+    if (!options.page.empty()) return std::make_unique<HtmlPage>();
+    if (!options.to->target) return std::make_unique<JsonArray>();
+    return std::make_unique<Lines>(options.to->target->make_generator());
+}
+
+/// Shows one file after the other.
 class Show {
 public:
     explicit Show(const ShowOptions& options)
-        : generator_(options.to->make_generator()),
+        : options_(options),
+          form_(make_form(options)),
           output_(options.page.empty() ? std::make_unique<TextOutput>()
-                                       : std::make_unique<TextOutput>(options.page)),
-          on_page_(!options.page.empty()) {}
+                                       : std::make_unique<TextOutput>(options.page)) {}
 
-    bool run(const std::vector<std::string>& files) {
-        if (on_page_) output_->write(page_head("Names of crystal structures"));
-        for (const std::string& file : files) show_file(file);
-        if (on_page_) output_->write(page_foot());
+    bool run() {
+        output_->write(form_->head());
+        for (const std::string& file : options_.files) show_file(file);
+        output_->write(form_->foot());
         output_->close();
         return good_;
     }
 
 private:
     void show_file(const std::string& file) {
-        try {
-            for (const CifEntry& entry : read_cif_entries(file)) show_entry(file, entry);
-        } catch (const InputError& error) {
-            fail(error.what());
-        } catch (const CifError& error) {
-            fail(error.what());
-        }
+        const LoadedEntries loaded = load_entries(file);
+        good_ = good_ && loaded.good;
+        for (const CifEntry& entry : loaded.entries) show_entry(file, entry);
     }
 
     void show_entry(const std::string& file, const CifEntry& entry) {
-        std::string shown =
-            on_page_ ? page_section_head(entry.name, file) : file + ": data_" + entry.name + '\n';
-        for (const CifField& field : entry.fields) {
-            const std::string text = mark_up(file, field);
-            shown +=
-                on_page_ ? page_row(field.label, text) : "    " + field.label + ": " + text + '\n';
-        }
-        if (on_page_) shown += page_section_foot();
-        output_->write(shown);
+        std::vector<ShownField> fields;
+        for (const LMRFieldNames::TextID id : options_.fields) add_field(file, entry, id, fields);
+        output_->write(form_->entry(file, entry, fields));
     }
 
-    /// The field's mark-up; empty, and reported, when its text cannot be styled.
-    std::string mark_up(const std::string& file, const CifField& field) {
+    /// Adds a field that has a text; one that cannot be styled is reported.
+    void add_field(const std::string& file, const CifEntry& entry, LMRFieldNames::TextID id,
+                   std::vector<ShownField>& fields) {
+        const std::string text = FieldTextSupplier(id).text(entry.entry);
+        if (text.empty()) return;
         try {
-            return TextItem(make_handle<CifChemicalNameStyleFinder>(), field.text)
-                .mark_up_text(*generator_);
+            fields.push_back({LMRFieldNames::text(id), group_of(id), {finder(id), text}});
         } catch (const std::exception& error) {
-            report(file, field.line, field.label + ": " + error.what());
+            report(file + ": data_" + entry.block + ": " + LMRFieldNames::text(id) + ": " +
+                   error.what());
             good_ = false;
-            return "";
         }
     }
 
-    void fail(const std::string& message) {
-        report(message);
-        good_ = false;
+    THandle<InputTextStyleFinder> finder(LMRFieldNames::TextID id) const {
+        const Field field = field_of(id);
+        if (options_.term.empty()) return field.source->make_finder();
+        const auto search = make_handle<OrderedSearch>(field.search->make_search({}));
+        search->set_search_term(options_.term);
+        return make_handle<TextSearchStyleFinder>(search, field.source->make_finder());
     }
 
-    THandle<RichTextGenerator> generator_;
+    const ShowOptions& options_;
+    std::unique_ptr<Form> form_;
     std::unique_ptr<TextOutput> output_;
-    bool on_page_;
     bool good_ = true;
 };
 
 }  // namespace
 
-bool show(const ShowOptions& options) { return Show(options).run(options.files); }
+std::span<const Output> show_outputs() {
+    static const std::vector<Output> outputs = [] {
+        std::vector<Output> all;
+        for (const Target& target : targets()) all.push_back({target.name, target.help, &target});
+        all.push_back({"json", "labels, groups, texts, mark-up and runs of each entry", nullptr});
+        return all;
+    }();
+    return outputs;
+}
+
+bool show(const ShowOptions& options) { return Show(options).run(); }

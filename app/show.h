@@ -3,15 +3,21 @@
 #include <string>
 #include <vector>
 
-#include "app/Target.h"
+#include "app/Output.h"
+#include "fields/LMRFieldNames.h"
+
+/// What show writes: the targets, and JSON.
+std::span<const Output> show_outputs();
 
 struct ShowOptions {
-    const Target* to = nullptr;
+    const Output* to = nullptr;
     std::string page;  // path of the HTML5 page to write; empty: prints to standard output
+    std::vector<LMRFieldNames::TextID> fields;
+    std::string term;  // searched in every field in the field's own way; empty: no search
     std::vector<std::string> files;
 };
 
-/// Shows the names and titles of CIF files. A file or field that fails is reported and the others
-/// are shown. Returns whether nothing was reported. Throws std::system_error when the output cannot
-/// be written.
+/// Shows the fields of the entries in CIF files, those that have a text. A file, item or field that
+/// fails is reported and the others are shown. Returns whether nothing was reported. Throws
+/// std::system_error when the output cannot be written.
 bool show(const ShowOptions& options);

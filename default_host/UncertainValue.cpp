@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <ostream>
 
 namespace {
@@ -21,19 +22,17 @@ int decimals_for(double uncertainty) {
 
 void UncertainValue::print(std::ostream& os) const {
     const bool uncertain = std::isfinite(uncertainty) && uncertainty > 0;
-    char buffer[400];
-    char* end = buffer;
     int places = std::min(decimals, most_decimals);
     if (uncertain && places < 0) places = decimals_for(uncertainty);
-    if (places < 0) {
-        end = std::to_chars(buffer, std::end(buffer), value, std::chars_format::general, 6).ptr;
-    } else {
-        end = std::to_chars(buffer, std::end(buffer), value, std::chars_format::fixed, places).ptr;
-    }
+    char buffer[400];
+    char* const limit = std::end(buffer);
+    const char* end =
+        places < 0 ? std::to_chars(buffer, limit, value, std::chars_format::general, 6).ptr
+                   : std::to_chars(buffer, limit, value, std::chars_format::fixed, places).ptr;
     os.write(buffer, end - buffer);
     const double last_place = uncertain ? std::round(uncertainty * std::pow(10.0, places)) : 0;
     if (last_place < 1) return;
-    end = std::to_chars(buffer, std::end(buffer), last_place, std::chars_format::fixed, 0).ptr;
+    end = std::to_chars(buffer, limit, last_place, std::chars_format::fixed, 0).ptr;
     os.put('(').write(buffer, end - buffer).put(')');
 }
 

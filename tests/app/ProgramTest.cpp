@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 using testing::EndsWith;
@@ -171,7 +172,8 @@ TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
          {"", "convert", "convert --from x --to html",
           "convert --from plain --to qt --line-length -1",
           "convert --from plain --to qt --line-length 4294967295", "show",
-          "show --to html -o p.html x", "nonsense", "search --how exact", "search --how x --term a",
+          "show --to html -o p.html x", "show --fields Nope x", "compare a.cif",
+          "fields --view all", "nonsense", "search --how exact", "search --how x --term a",
           "search --how exact --term a --to tevo", "search --how numeric --term 1 --tolerance x",
           "search --how numeric --term 1 --tolerance -1",
           "search --how numeric --term 1 --tolerance 1e999",
@@ -205,32 +207,135 @@ TEST_F(Program, OutputThatCannotBeWrittenIsReported) {
     std::signal(SIGPIPE, SIG_DFL);
 }
 
-TEST_F(Program, ShowPrintsNamesAndTitles) {
-    const Result done = run("show --to html5 " + data + "/2013971.cif " + data + "/1008935.cif");
+TEST_F(Program, ShowPrintsTheFieldsOfEntries) {
+    const Result done = run("show --to html5 " + data + "/2204347.cif " + data + "/1008935.cif");
     EXPECT_EQ(done.status, 0);
     EXPECT_EQ(done.err, "");
-    EXPECT_THAT(done.out,
-                HasSubstr("data_2013971\n    Compound Name: "
-                          "Tris{bis[hydrotris(1-pyrazolyl)borato-κ<sup>2</sup>N,N']iron(III)} "
-                          "hexaisothiocyanatoiron(III)\n    Title: Tris{bis["));
-    EXPECT_THAT(done.out,
-                EndsWith("data_1008935\n    Compound Name: Platinum(IV) oxide - β\n    Title: "
-                         "Formation and stability of the platinum and rhodium oxides at high "
-                         "oxygen pressures and the structures of Pt<sub>3</sub>O<sub>4</sub>, "
-                         "β-PtO<sub>2</sub> and RhO<sub>2</sub>\n"));
+    EXPECT_THAT(
+        done.out,
+        HasSubstr(
+            "data_2204347\n    Identifier: 2204347\n    Author(s): W.Liao, R.Dronskowski\n"
+            "    Literature Reference: <i>Acta Crystallographica Section E</i> (<b>60</b>, "
+            "2004), i124-i126\n    Formula: C N<sub>2</sub> Sr\n    Compound Name: "
+            "β-Strontium cyanamide\n    Space Group: R<span style=\"text-decoration:overline\">"
+            "3</span>m\n    Cell Lengths: <b>a</b> 3.9732(5) <b>b</b> 3.9732(5) <b>c</b> "
+            "15.028(3)\n    Cell Angles: <b>α</b> 90.00 <b>β</b> 90.00 <b>γ</b> 120.00\n"
+            "    Cell Volume: 205.453\n    Z, Z': <b>Z</b>: 3 <b>Z'</b>: 0.0833333\n"
+            "    R-Factor (%): 1.74\n"));
+    EXPECT_THAT(done.out, HasSubstr("data_1008935\n    Identifier: 1008935\n"));
+    const Result some =
+        run("show --fields \"Z, Z',Color,Author(s)\" --find Liao --to qt " + data + "/2204347.cif");
+    EXPECT_THAT(
+        some.out,
+        EndsWith("data_2204347\n    Z, Z': <b>Z</b>: 3 <b>Z'</b>: 0.0833333\n"
+                 "    Color: colourless\n    Author(s): W.<b><font color=blue>Liao</font></b>, "
+                 "R.Dronskowski\n"));
+    EXPECT_THAT(run("fields --view default").out,
+                StartsWith("Identifier\tPublication\nAuthor(s)\tPublication\n"));
+}
+
+TEST_F(Program, ShowWritesJsonOfRuns) {
+    file("x.cif",
+         "data_a\n_symmetry_space_group_name_H-M 'P -1'\n_exptl_crystal_colour \"\xE9\"\n");
+    const Result done = run("show --view internal --to json x.cif");
+    const auto json = nlohmann::json::parse(done.out);
+    const auto& fields = json.at(0).at("fields");
+    EXPECT_EQ(json.at(0).at("block"), "a");
+    EXPECT_EQ(fields.at(1).at("label"), "Space Group");
+    EXPECT_EQ(fields.at(1).at("group"), "Cell");
+    EXPECT_EQ(fields.at(1).at("text"), "P<bar>1</bar>");
+    std::string shown;
+    for (const auto& atom : fields.at(1).at("atoms")) {
+        if (!atom.value("invisible", false)) shown += atom.at("text").get<std::string>();
+    }
+    EXPECT_EQ(shown, "P1");
+    EXPECT_EQ(fields.at(2).at("group"), "Other");
+    EXPECT_EQ(fields.at(3).at("text"), "\uFFFD");
 }
 
 TEST_F(Program, ShowReadsTextFieldsAsOneLine) {
     file("x.cif",
          "data_a\n_chemical_name_systematic\n;\n poly-\n \\m~2~-oxo\n-iron \n\n;\n"
          "_chemical_name_common ?\n_chemical_name_mineral\n;\n ? \n;\n"
-         "data_b\n_publ_section_title\n;\\\nalpha-\\\n\\k~2~ b\\\nc\nd\n;\n"
-         "loop_\n_chemical_name_common\n'one' two .\n");
-    const Result done = run("show --to tevo x.cif");
+         "data_b\n_chemical_name_systematic\n;\\\nalpha-\\\n\\k~2~ b\\\nc\nd\n;\n"
+         "loop_\n_chemical_name_common\n'one' two .\n"
+         "loop_\n_publ_author_name\n'M\\\"uller, Yi-Zhi J.'\n'Van Poucke, L. C.'\n'\xC3\x96z, "
+         "\xC3\x96.'\n");
+    const Result done = run("show --to tevo --fields 'Author(s),Compound Name,Synonym' x.cif");
     EXPECT_EQ(done.out,
               "x.cif: data_a\n    Compound Name: poly-mu!2$-oxo-iron\n"
-              "x.cif: data_b\n    Synonym: one\n    Synonym: two\n"
-              "    Title: alpha-kappa!2$ bc d\n");
+              "x.cif: data_b\n    Author(s): Y.-Z.J.Muller, L.C.Van Poucke, \xC3\x96.\xC3\x96z\n"
+              "    Compound Name: alpha-kappa!2$ bc d\n    Synonym: one; two\n");
+}
+
+TEST_F(Program, WhatACifLacksOrSpoilsLosesNothingElse) {
+    const std::string cell =
+        "_cell_length_a 10.234(5)\n_cell_length_b 1.2e1(3)\n_cell_length_c 9\n"
+        "_cell_angle_alpha 90\n_cell_angle_beta 90\n_cell_angle_gamma ";
+    const struct {
+        std::string items;
+        const char* shown;
+        const char* reported;
+    } cases[] = {
+        {cell + "90\n_symmetry_space_group_name_H-M 'P 21/c'\n_cell_formula_units_Z 2\n",
+         "Space Group: P2<sub>1</sub>/c\n    Cell Lengths: <b>a</b> 10.234(5) <b>b</b> 12(3) <b>c"
+         "</b> 9\n    Cell Angles: <b>α</b> 90 <b>β</b> 90 <b>γ</b> 90\n    Cell Volume: 1105.27\n"
+         "    Z, Z': <b>Z</b>: 2 <b>Z'</b>: 0.5",
+         ""},
+        {cell + "0\n",
+         "Cell Lengths: <b>a</b> 10.234(5) <b>b</b> 12(3) <b>c</b> 9\n    Cell Angles: <b>α</b> 90 "
+         "<b>β</b> 90 <b>γ</b> 0",
+         "x.cif:2: data_x: no cell has these edges and angles\n"},
+        {cell + "12(\n_cell_formula_units_Z 1e400\n_refine_ls_R_factor_gt -\n", "",
+         "x.cif:7: data_x: _cell_angle_gamma: expected a number, not '12('\n"
+         "x.cif:8: data_x: _cell_formula_units_z: expected a number, not '1e400'\n"
+         "x.cif:9: data_x: _refine_ls_r_factor_gt: expected a number, not '-'\n"},
+        {"_symmetry_space_group_name_H-M 'P x'\n_symmetry_Int_Tables_number .\n", "Space Group: Px",
+         "x.cif:2: data_x: _symmetry_space_group_name_h-m: unknown space group 'P x'\n"},
+        {"_symmetry_space_group_name_H-M 'P x'\n_symmetry_Int_Tables_number 19\n",
+         "Space Group: P2<sub>1</sub>2<sub>1</sub>2<sub>1</sub>", ""},
+        {"loop_\n_symmetry_equiv_pos_as_xyz\nx,y,z\n-x,-y,-z\n",
+         "Space Group: P<span style=\"text-decoration:overline\">1</span>", ""},
+        {"_space_group_name_Hall '-P 2ybc'\n", "Space Group: P2<sub>1</sub>/c", ""},
+        {"_audit_creation_date 2001-02-30\n", "",
+         "x.cif:2: data_x: _audit_creation_date: expected a date like 2004-07-09, not "
+         "'2001-02-30'\n"},
+    };
+    for (const auto& c : cases) {
+        file("x.cif", "data_x\n" + c.items);
+        const Result done = run("show --to html5 x.cif");
+        const std::string shown = *c.shown == '\0' ? "" : std::string("    ") + c.shown + "\n";
+        EXPECT_EQ(done.out, "x.cif: data_x\n    Identifier: x\n" + shown) << c.items;
+        EXPECT_EQ(done.err, c.reported) << c.items;
+        EXPECT_EQ(done.status, *c.reported == '\0' ? 0 : 1);
+    }
+}
+
+TEST_F(Program, CompareShowsBothSidesAndExitsAsDiff) {
+    file("a.cif",
+         "data_a\n_chemical_name_common acetone\n_diffrn_ambient_temperature 293(2)\n"
+         "_exptl_crystal_colour red\n");
+    file("b.cif",
+         "data_a\n_chemical_name_common acetonitrile\n_diffrn_ambient_temperature 293.2(2)\n");
+    const std::string fields = " --fields 'Synonym,Temperature (K),Color' ";
+    const Result done = run("compare a.cif b.cif --tolerance 0.5 --to qt" + fields);
+    EXPECT_EQ(done.out,
+              "a.cif and b.cif: data_a and data_a\n"
+              "< Synonym: <b><font color=blue>aceton</font></b>e\n"
+              "> Synonym: <b><font color=blue>aceton</font></b>itrile\n"
+              "= Temperature (K): <b><font color=green4>293</font></b>(<b><font color=green4>2"
+              "</font></b>)\n"
+              "= Temperature (K): <b><font color=green4>293.2</font></b>(<b><font color=green4>2"
+              "</font></b>)\n"
+              "< Color: red\n> Color: \n");
+    EXPECT_EQ(done.status, 1);
+    EXPECT_EQ(run("compare a.cif b.cif --tolerance 0.5 --fields 'Temperature (K)'").status, 0);
+    EXPECT_EQ(run("compare a.cif b.cif --fields 'Temperature (K)'").status, 1);
+    EXPECT_EQ(run("compare a.cif none.cif").status, 2);
+    const std::string page = run("compare a.cif b.cif --to html5" + fields).out;
+    EXPECT_THAT(page,
+                HasSubstr("<div class=\"pair different\"><p>Color</p><p>red</p><p></p></div>"));
+    EXPECT_THAT(page, EndsWith("</html>\n"));
 }
 
 TEST_F(Program, ShowReportsWhatIsNoCifAndShowsTheOthers) {
@@ -247,9 +352,11 @@ TEST_F(Program, ShowReportsWhatIsNoCifAndShowsTheOthers) {
                                      "lmrtext: .: Is a directory\n"
                                      "lmrtext: unclosed.cif:2: no CIF: "));
     EXPECT_THAT(done.err, HasSubstr("lmrtext: binary.cif:1: no CIF: "));
-    EXPECT_THAT(done.err,
-                EndsWith("lmrtext: empty.cif:1: no CIF: expected a data block\n"
-                         "crossing.cif:2: Synonym: creating an overlapping style error\n"));
+    EXPECT_THAT(
+        done.err,
+        EndsWith("lmrtext: empty.cif:1: no CIF: expected a data block\n"
+                 "crossing.cif:2: data_x: _chemical_name_common: creating an overlapping style "
+                 "error in '~a^b~c^'\n"));
     const std::string page = contents(folder_ / "page.html");
     EXPECT_THAT(page, StartsWith("<!DOCTYPE html>\n"));
     EXPECT_THAT(page, HasSubstr("<dd>ok</dd>"));

@@ -1,0 +1,366 @@
+#include "app/EntryReader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <gemmi/symmetry.hpp>
+#include <iterator>
+#include <optional>
+#include <span>
+
+#include "app/CifFile.h"
+#include "app/cif_text.h"
+#include "finders/CifChemicalNameStyleFinder.h"
+#include "markup/TevoRichTextGenerator.h"
+#include "text/TextItem.h"
+
+namespace {
+
+using Entry = CrystalStructureDatabaseEntry;
+
+constexpr auto chemical = &Entry::chemical_info;
+constexpr auto crystal = &Entry::crystal_info;
+constexpr auto experimental = &Entry::experimental_info;
+constexpr auto publication = &Entry::publication;
+
+template <auto record, auto field>
+std::string& text_field(Entry& entry) {
+    return (*(entry.*record)).*field;
+}
+
+std::string& identifier(Entry& entry) { return entry.identifier; }
+
+/// An item whose text is shown as it stands, on one line, with what is written behind it.
+struct TextRow {
+    const char* tag;
+    std::string& (*field)(Entry& entry);
+    const char* unit;
+};
+
+// Where several items fill one field, the first that has a value does.
+constexpr TextRow text_rows[] = {
+    {"_cod_database_code", identifier, ""},
+    {"_chemical_formula_sum", text_field<chemical, &ChemicalInfo::formula>, ""},
+    {"_chemical_compound_source", text_field<chemical, &ChemicalInfo::source>, ""},
+    {"_chemical_properties_biological", text_field<chemical, &ChemicalInfo::bioactivity>, ""},
+    {"_exptl_crystal_colour", text_field<crystal, &CrystalInfo::color>, ""},
+    {"_exptl_crystal_description", text_field<crystal, &CrystalInfo::habit>, ""},
+    {"_exptl_crystal_recrystallization_method",
+     text_field<crystal, &CrystalInfo::recrystallisation_solvent>, ""},
+    {"_chemical_melting_point", text_field<crystal, &CrystalInfo::melting_point>, " K"},
+    {"_cell_special_details", text_field<crystal, &CrystalInfo::other_cell_details>, ""},
+    {"_exptl_special_details", text_field<crystal, &CrystalInfo::experimental_notes>, ""},
+    {"_diffrn_ambient_pressure", text_field<experimental, &ExperimentalInfo::pressure>, " kPa"},
+    {"_exptl_crystal_density_diffrn", text_field<experimental, &ExperimentalInfo::density_author>,
+     ""},
+    {"_diffrn_radiation_probe", text_field<experimental, &ExperimentalInfo::radiation_probe>, ""},
+    {"_diffrn_radiation_source", text_field<experimental, &ExperimentalInfo::radiation_source>, ""},
+    {"_chemical_absolute_configuration",
+     text_field<experimental, &ExperimentalInfo::absolute_configuration>, ""},
+    {"_diffrn_special_details", text_field<experimental, &ExperimentalInfo::diffraction_details>,
+     ""},
+    {"_diffrn_measurement_method", text_field<experimental, &ExperimentalInfo::diffraction_details>,
+     ""},
+    {"_refine_special_details", text_field<experimental, &ExperimentalInfo::refinement_details>,
+     ""},
+    {"_diffrn_measurement_device_type",
+     text_field<experimental, &ExperimentalInfo::intensity_method>, ""},
+    {"_journal_name_full", text_field<publication, &Publication::journal>, ""},
+    {"_journal_volume", text_field<publication, &Publication::volume>, ""},
+    {"_journal_year", text_field<publication, &Publication::year>, ""},
+    {"_journal_page_first", text_field<publication, &Publication::page>, ""},
+};
+
+constexpr const char* cell_tags[] = {"_cell_length_a",    "_cell_length_b",   "_cell_length_c",
+                                     "_cell_angle_alpha", "_cell_angle_beta", "_cell_angle_gamma"};
+constexpr const char* symbol_tags[] = {"_space_group_name_h-m_alt",
+                                       "_symmetry_space_group_name_h-m"};
+constexpr const char* hall_tags[] = {"_space_group_name_hall", "_symmetry_space_group_name_hall"};
+constexpr const char* number_tags[] = {"_space_group_it_number", "_symmetry_int_tables_number"};
+constexpr const char* operation_tags[] = {"_space_group_symop_operation_xyz",
+                                          "_symmetry_equiv_pos_as_xyz"};
+constexpr const char* temperature_tags[] = {"_diffrn_ambient_temperature",
+                                            "_cell_measurement_temperature"};
+constexpr const char* r_factor_tags[] = {"_refine_ls_r_factor_gt", "_refine_ls_r_factor_obs",
+                                         "_refine_ls_r_factor_all"};
+constexpr const char* synonym_tags[] = {"_chemical_name_common", "_chemical_name_mineral"};
+constexpr const char* name_tag = "_chemical_name_systematic";
+constexpr const char* author_tag = "_publ_author_name";
+constexpr const char* last_page_tag = "_journal_page_last";
+constexpr const char* z_tag = "_cell_formula_units_z";
+constexpr const char* accession_tag = "_audit_creation_date";
+constexpr const char* atom_tags[] = {"_atom_site_label", "_atom_site_fract_x", "_atom_site_fract_y",
+                                     "_atom_site_fract_z"};
+constexpr const char* bond_tags[] = {"_geom_bond_atom_site_label_1", "_geom_bond_atom_site_label_2",
+                                     "_geom_bond_distance"};
+
+std::vector<std::string> all_tags() {
+    std::vector<std::string> tags{name_tag, author_tag, last_page_tag, z_tag, accession_tag};
+    for (const TextRow& row : text_rows) tags.emplace_back(row.tag);
+    const auto add = [&tags](const auto& more) {
+        tags.insert(tags.end(), std::begin(more), std::end(more));
+    };
+    add(cell_tags);
+    add(symbol_tags);
+    add(hall_tags);
+    add(number_tags);
+    add(operation_tags);
+    add(temperature_tags);
+    add(r_factor_tags);
+    add(synonym_tags);
+    add(atom_tags);
+    add(bond_tags);
+    return tags;
+}
+
+/// Items that say the same, those to be preferred first.
+using Tags = std::span<const char* const>;
+
+Tags just(const char* const& tag) { return {&tag, 1}; }
+
+/// Fills an entry from one block.
+class BlockReader {
+public:
+    explicit BlockReader(const CifBlock& block) : block_(block) {}
+
+    CifEntry read() {
+        read_texts();
+        read_names();
+        read_publication();
+        read_cell();
+        read_space_group();
+        read_numbers();
+        read_atoms();
+        return {block_.name, entry_, std::move(problems_)};
+    }
+
+private:
+    const std::vector<CifValue>& values(const char* tag) const {
+        static const std::vector<CifValue> none;
+        const auto item = block_.items.find(tag);
+        return item == block_.items.end() ? none : item->second;
+    }
+
+    /// The first value that is one, of the first of the tags that has any.
+    const CifValue* first_value(Tags tags, const char*& tag_found) const {
+        for (const char* tag : tags) {
+            for (const CifValue& value : values(tag)) {
+                tag_found = tag;
+                if (!value.text.empty()) return &value;
+            }
+        }
+        return nullptr;
+    }
+    std::string first_text(Tags tags) const {
+        const char* tag = nullptr;
+        const CifValue* const value = first_value(tags, tag);
+        return value ? one_line(value->text) : "";
+    }
+
+    void add_problem(const CifValue& value, const char* tag, const std::string& what) {
+        problems_.push_back({value.line, "data_" + block_.name + ": " + tag + ": " + what + " '" +
+                                             one_line(value.text).substr(0, 60) + "'"});
+    }
+
+    std::optional<UncertainValue> number(Tags tags) {
+        const char* tag = nullptr;
+        const CifValue* const value = first_value(tags, tag);
+        if (!value) return std::nullopt;
+        const std::optional<UncertainValue> read = read_number(value->text);
+        if (!read) add_problem(*value, tag, "expected a number, not");
+        return read;
+    }
+
+    void read_texts() {
+        for (const TextRow& row : text_rows) {
+            std::string& field = row.field(*entry_);
+            const std::string text = first_text(just(row.tag));
+            if (field.empty() && !text.empty()) field = text + row.unit;
+        }
+        if (entry_->identifier.empty()) entry_->identifier = block_.name;
+    }
+
+    /// A name in the database's own mark-up; empty, with a problem, when it cannot be styled.
+    std::string name(const CifValue& value, const char* tag) {
+        TevoRichTextGenerator generator;
+        try {
+            return TextItem(make_handle<CifChemicalNameStyleFinder>(), one_line(value.text))
+                .mark_up_text(generator);
+        } catch (const std::exception& error) {
+            add_problem(value, tag, std::string(error.what()) + " in");
+            return "";
+        }
+    }
+
+    void read_names() {
+        for (const CifValue& value : values(name_tag)) {
+            if (entry_->chemical_info->compound_name.empty()) {
+                entry_->chemical_info->compound_name = name(value, name_tag);
+            }
+        }
+        for (const char* tag : synonym_tags) {
+            for (const CifValue& value : values(tag)) {
+                const std::string synonym = name(value, tag);
+                if (!synonym.empty()) entry_->chemical_info->synonyms.push_back(synonym);
+            }
+        }
+    }
+
+    void read_publication() {
+        Publication& article = *entry_->publication;
+        for (const CifValue& value : values(author_tag)) {
+            const std::string author = initials_first(one_line(value.text));
+            if (!author.empty()) article.authors.push_back(author);
+        }
+        const std::string last_page = first_text(just(last_page_tag));
+        if (!article.page.empty() && !last_page.empty()) article.page += "-" + last_page;
+        const char* tag = nullptr;
+        const auto* const created = first_value(just(accession_tag), tag);
+        if (!created) return;
+        const std::optional<Date> date = read_date(created->text);
+        if (date) {
+            entry_->editors_info->accession_date = *date;
+        } else {
+            add_problem(*created, tag, "expected a date like 2004-07-09, not");
+        }
+    }
+
+    void read_cell() {
+        UncertainValue parameters[6];
+        bool complete = true;
+        for (std::size_t i = 0; i < 6; ++i) {
+            const std::optional<UncertainValue> parameter = number(just(cell_tags[i]));
+            complete = complete && parameter;
+            if (parameter) parameters[i] = *parameter;
+        }
+        if (!complete) return;
+        const Cell cell{parameters[0],   parameters[1],   parameters[2],
+                        {parameters[3]}, {parameters[4]}, {parameters[5]}};
+        entry_->crystal_info->cell = cell;
+        if (cell.volume() > 0) return;
+        const CifValue& value = values(cell_tags[0]).front();
+        problems_.push_back(
+            {value.line, "data_" + block_.name + ": no cell has these edges and angles"});
+    }
+
+    const gemmi::SpaceGroup* find_space_group() const {
+        const std::optional<Cell>& cell = entry_->crystal_info->cell;
+        const double alpha = cell ? cell->alpha.degrees.value : 0;
+        const double gamma = cell ? cell->gamma.degrees.value : 0;
+        const std::string symbol = first_text(symbol_tags);
+        const gemmi::SpaceGroup* group = nullptr;
+        if (!symbol.empty()) group = gemmi::find_spacegroup_by_name(symbol, alpha, gamma);
+        try {
+            const std::string hall = first_text(hall_tags);
+            if (!group && !hall.empty()) {
+                group = gemmi::find_spacegroup_by_ops(gemmi::symops_from_hall(hall.c_str()));
+            }
+            if (!group) group = find_by_operations();
+        } catch (const std::exception&) {
+            // What says nothing to gemmi leaves the word to the next item.
+        }
+        const std::optional<UncertainValue> number = read_number(first_text(number_tags));
+        if (!group && number) {
+            group = gemmi::find_spacegroup_by_number(static_cast<int>(number->value));
+        }
+        return group;
+    }
+
+    const gemmi::SpaceGroup* find_by_operations() const {
+        std::vector<gemmi::Op> operations;
+        for (const char* tag : operation_tags) {
+            for (const CifValue& value : values(tag)) {
+                operations.push_back(gemmi::parse_triplet(value.text));
+            }
+            if (!operations.empty()) break;
+        }
+        if (operations.empty()) return nullptr;
+        return gemmi::find_spacegroup_by_ops(gemmi::split_centering_vectors(operations));
+    }
+
+    void read_space_group() {
+        CrystalInfo& info = *entry_->crystal_info;
+        const gemmi::SpaceGroup* const group = find_space_group();
+        const char* tag = nullptr;
+        const CifValue* const symbol = first_value(symbol_tags, tag);
+        if (group) {
+            info.spacegroup = {group->hm, group->number, group->centring_type()};
+        } else if (symbol) {
+            info.spacegroup.symbol = one_line(symbol->text);
+            add_problem(*symbol, tag, "unknown space group");
+        }
+        if (info.cell && group) {
+            info.reduced_cell = ReducedCell::of(*info.cell, info.spacegroup.centring);
+        }
+        const std::optional<UncertainValue> z = number(just(z_tag));
+        if (!z) return;
+        info.z = z->value;
+        if (group) info.z_prime = z->value / group->operations().order();
+    }
+
+    void read_numbers() {
+        ExperimentalInfo& experiment = *entry_->experimental_info;
+        // "NOT MEASURED" and the like is what the author had to say.
+        const std::string temperature = first_text(temperature_tags);
+        experiment.temperature = read_number(temperature);
+        if (!experiment.temperature) experiment.temperature_text = temperature;
+        const std::optional<UncertainValue> r_factor = number(r_factor_tags);
+        if (r_factor) experiment.r_factor = 100 * r_factor->value;
+        read_average_sigma();
+    }
+
+    /// The mean uncertainty of the C-C bonds.
+    void read_average_sigma() {
+        const auto& first = values(bond_tags[0]);
+        const auto& second = values(bond_tags[1]);
+        const auto& lengths = values(bond_tags[2]);
+        const std::size_t bonds = std::min({first.size(), second.size(), lengths.size()});
+        double sum = 0;
+        unsigned int count = 0;
+        for (std::size_t i = 0; i < bonds; ++i) {
+            if (!is_carbon(first[i].text) || !is_carbon(second[i].text)) continue;
+            const std::optional<UncertainValue> length = read_number(lengths[i].text);
+            if (!length || length->uncertainty == 0) continue;
+            sum += length->uncertainty;
+            ++count;
+        }
+        if (count > 0) entry_->experimental_info->average_sigma = UncertainValue{sum / count, 0, 4};
+    }
+
+    /// Whether a label is that of a carbon atom: C, and no second letter as in Cl.
+    static bool is_carbon(const std::string& label) {
+        return !label.empty() && label[0] == 'C' &&
+               (label.size() == 1 || label[1] < 'a' || label[1] > 'z');
+    }
+
+    void read_atoms() {
+        const auto& labels = values(atom_tags[0]);
+        const std::vector<CifValue>* const axes[] = {&values(atom_tags[1]), &values(atom_tags[2]),
+                                                     &values(atom_tags[3])};
+        std::size_t atoms = labels.size();
+        for (const auto* axis : axes) atoms = std::min(atoms, axis->size());
+        for (std::size_t i = 0; i < atoms; ++i) {
+            const auto x = read_number((*axes[0])[i].text);
+            const auto y = read_number((*axes[1])[i].text);
+            const auto z = read_number((*axes[2])[i].text);
+            if (!x || !y || !z) continue;  // known to be there, but not where
+            entry_->crystal_info->molecules.atoms.push_back(
+                {labels[i].text, x->value, y->value, z->value});
+        }
+    }
+
+    const CifBlock& block_;
+    THandle<Entry> entry_ = make_handle<Entry>();
+    std::vector<CifEntry::Problem> problems_;
+};
+
+}  // namespace
+
+std::vector<CifEntry> read_cif_entries(const std::string& path) {
+    static const std::vector<std::string> tags = all_tags();
+    std::vector<CifEntry> entries;
+    for (const CifBlock& block : read_cif_blocks(path, tags)) {
+        entries.push_back(BlockReader(block).read());
+    }
+    return entries;
+}
