@@ -18,9 +18,24 @@ std::string text_of(const std::string& value) {
     return is_none ? "" : text;
 }
 
+/// Adds the pairs of tag and value whose tags begin with `prefix`.
+void add_pairs(const cif::Block& block, const std::string& prefix, CifBlock& result) {
+    for (const cif::Item& item : block.items) {
+        if (item.type != cif::ItemType::Pair) continue;
+        const std::string tag = gemmi::to_lower(item.pair[0]);
+        if (tag.compare(0, prefix.size(), prefix) != 0) continue;
+        const auto line = static_cast<unsigned long>(item.line_number);
+        result.items[tag].push_back({text_of(item.pair[1]), line});
+    }
+}
+
 CifBlock block_of(cif::Block& block, const std::vector<std::string>& tags) {
     CifBlock result{block.name, {}};
     for (const std::string& tag : tags) {
+        if (tag.back() == '_') {
+            add_pairs(block, tag, result);
+            continue;
+        }
         cif::Column values = block.find_values(tag);
         if (values.length() == 0) continue;
         const auto line = static_cast<unsigned long>(values.item()->line_number);

@@ -7,6 +7,7 @@
 #include <iterator>
 #include <optional>
 #include <span>
+#include <sstream>
 
 #include "app/CifFile.h"
 #include "app/cif_text.h"
@@ -30,6 +31,8 @@ std::string& text_field(Entry& entry) {
 
 std::string& identifier(Entry& entry) { return entry.identifier; }
 
+constexpr const char* cod_tag = "_cod_database_code";
+
 /// An item whose text is shown as it stands, on one line, with what is written behind it.
 struct TextRow {
     const char* tag;
@@ -39,7 +42,7 @@ struct TextRow {
 
 // Where several items fill one field, the first that has a value does.
 constexpr TextRow text_rows[] = {
-    {"_cod_database_code", identifier, ""},
+    {cod_tag, identifier, ""},
     {"_chemical_formula_sum", text_field<chemical, &ChemicalInfo::formula>, ""},
     {"_chemical_compound_source", text_field<chemical, &ChemicalInfo::source>, ""},
     {"_chemical_properties_biological", text_field<chemical, &ChemicalInfo::bioactivity>, ""},
@@ -89,13 +92,19 @@ constexpr const char* author_tag = "_publ_author_name";
 constexpr const char* last_page_tag = "_journal_page_last";
 constexpr const char* z_tag = "_cell_formula_units_z";
 constexpr const char* accession_tag = "_audit_creation_date";
+constexpr const char* update_tag = "_audit_update_record";
+constexpr const char* editor_code_tag = "_journal_coeditor_code";
+// What follows these names the database or the archive.
+constexpr char database_tags[] = "_database_code_";
+constexpr char deposition_tags[] = "_database_code_depnum_";
 constexpr const char* atom_tags[] = {"_atom_site_label", "_atom_site_fract_x", "_atom_site_fract_y",
                                      "_atom_site_fract_z"};
 constexpr const char* bond_tags[] = {"_geom_bond_atom_site_label_1", "_geom_bond_atom_site_label_2",
                                      "_geom_bond_distance"};
 
 std::vector<std::string> all_tags() {
-    std::vector<std::string> tags{name_tag, author_tag, last_page_tag, z_tag, accession_tag};
+    std::vector<std::string> tags{name_tag,      author_tag, last_page_tag,   z_tag,
+                                  accession_tag, update_tag, editor_code_tag, database_tags};
     for (const TextRow& row : text_rows) tags.emplace_back(row.tag);
     const auto add = [&tags](const auto& more) {
         tags.insert(tags.end(), std::begin(more), std::end(more));
@@ -127,6 +136,8 @@ public:
         read_texts();
         read_names();
         read_publication();
+        read_dates();
+        read_numbers_elsewhere();
         read_cell();
         read_space_group();
         read_numbers();
@@ -214,15 +225,57 @@ private:
         }
         const std::string last_page = first_text(just(last_page_tag));
         if (!article.page.empty() && !last_page.empty()) article.page += "-" + last_page;
+    }
+
+    void read_dates() {
+        EditorsInfo& editors = *entry_->editors_info;
         const char* tag = nullptr;
-        const auto* const created = first_value(just(accession_tag), tag);
-        if (!created) return;
-        const std::optional<Date> date = read_date(created->text);
-        if (date) {
-            entry_->editors_info->accession_date = *date;
-        } else {
-            add_problem(*created, tag, "expected a date like 2004-07-09, not");
+        const CifValue* const created = first_value(just(accession_tag), tag);
+        if (created) {
+            const std::optional<Date> date = read_date(created->text);
+            if (date) editors.accession_date = *date;
+            if (!date) add_problem(*created, tag, "expected a date like 2004-07-09, not");
         }
+        // The record has a line for each update, beginning with the date; the last line counts.
+        const CifValue* const updated = first_value(just(update_tag), tag);
+        std::istringstream lines(updated ? updated->text : "");
+        for (std::string line; std::getline(lines, line);) {
+            std::istringstream words(line);
+            std::string first_word;
+            words >> first_word;
+            const std::optional<Date> date = read_date(first_word);
+            if (date) editors.modification_date = *date;
+        }
+    }
+
+    /// The numbers of the entry in journals, archives and databases.
+    void read_numbers_elsewhere() {
+        auto& depositions = entry_->deposition_info->depositions;
+        for (const auto& [tag, found] : block_.items) {
+            const bool deposition = tag.starts_with(deposition_tags);
+            if (!tag.starts_with(database_tags)) continue;
+            for (const CifValue& value : found) {
+                const std::string number = one_line(value.text);
+                if (number.empty()) continue;
+                if (deposition) {
+                    depositions.push_back({DepositionInfo::supplementary, number});
+                } else {
+                    add_cross_reference(tag.substr(std::size(database_tags) - 1), number);
+                }
+            }
+        }
+        const std::string editor_code = first_text(just(editor_code_tag));
+        if (!editor_code.empty()) depositions.push_back({DepositionInfo::journal, editor_code});
+        const std::string number = first_text(just(cod_tag));
+        if (!number.empty()) add_cross_reference("cod", number);
+    }
+
+    void add_cross_reference(std::string database, const std::string& number) {
+        for (char& c : database) {
+            if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+        }
+        entry_->cross_reference_info->references.push_back(
+            {DatabaseCrossReference::same_structure, database + ' ' + number});
     }
 
     void read_cell() {
