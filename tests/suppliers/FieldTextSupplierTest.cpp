@@ -51,7 +51,6 @@ TEST(FieldTextSupplier, WritesTheLayoutsThatFindersRead) {
     entry->deposition_info->depositions = {{DepositionInfo::kovr, "1"},
                                            {DepositionInfo::journal, "2"}};
     entry->cross_reference_info->references = {{DatabaseCrossReference::superseded, "COD 7"}};
-    entry->cross_reference_info->msdbbib = "M";
     const struct {
         Names::TextID field;
         const char* text;
@@ -60,7 +59,6 @@ TEST(FieldTextSupplier, WritesTheLayoutsThatFindersRead) {
         {Names::cell_angles, "a 90.00 b 100.50(3) g 90"},
         {Names::reduced_cell_lengths, "a 5 b 6.25 c 7.12346"},
         {Names::reduced_cell_angles, "a 60 b 70 g 80.5"},
-        {Names::reduced_cell_volume, "200"},
         {Names::temperature, "293(2)"},
         {Names::average_sigma, "0.0035"},
         {Names::radiation_probe, "X-ray"},
@@ -70,7 +68,6 @@ TEST(FieldTextSupplier, WritesTheLayoutsThatFindersRead) {
         {Names::number_of_coordinates, "3"},
         {Names::deposition_numbers, "KOVR 1; Journal 2"},
         {Names::cross_references, "Superseded COD 7"},
-        {Names::msdbbib, "M"},
     };
     for (const auto& c : cases) EXPECT_EQ(text(entry, c.field), c.text) << Names::text(c.field);
 }
@@ -80,13 +77,9 @@ TEST(FieldTextSupplier, TagsScrewAndInversionAxes) {
     const std::pair<const char*, const char*> cases[] = {
         {"P 1 21/c 1", "P2<sub>1</sub>/c"},
         {"P 1 1 21/b", "P112<sub>1</sub>/b"},
-        {"P 1", "P1"},
         {"P -1", "P<bar>1</bar>"},
-        {"P 21 21 2", "P2<sub>1</sub>2<sub>1</sub>2"},
-        {"P 3 2 1", "P321"},
         {"P 63/m m c", "P6<sub>3</sub>/mmc"},
         {"F d -3 m", "Fd<bar>3</bar>m"},
-        {"-", "-"},
     };
     for (const auto& [symbol, tagged] : cases) {
         entry->crystal_info->spacegroup.symbol = symbol;

@@ -85,8 +85,16 @@ TEST(TextItemAtoms, EqualTheSlowWalk) {
 }
 
 TEST(TextAtom, PrintsItsTextAndProperties) {
+    TextAtomProperty property;
+    property.set_valign(-1);
+    property.set_italic(true);
+    property.set_color(TextItem::darkcyan);
+    property.set_replacement_txt("(");
+    property.set_greek(TextItem::omega);
     std::ostringstream os;
-    os << TextAtom("ab", TextAtomProperty());
-    EXPECT_THAT(os.str(), testing::StartsWith("TextAtom Text: \"ab\"\nTextAtom Properties: "
-                                              "\tVertical alignment: 0\n\tBold: 0\n"));
+    os << TextAtom("ab", property);
+    EXPECT_EQ(os.str(),
+              "TextAtom Text: \"ab\"\nTextAtom Properties: \tVertical alignment: -1\n\tBold: 0\n"
+              "\tItalic: 1\n\tOverstrike: 0\n\tInvisible: 0\n\tColor: 12\n"
+              "\tReplacement text: (\n\tGreek: 24\n");
 }

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <sstream>
-#include <stdexcept>
 
 #include "host/THandle.h"
 #include "markup/CifTagFactory.h"
@@ -16,9 +15,6 @@
 #include "text/ReplacementTextStyle.h"
 #include "text/TextAtomPropertyBuilder.h"
 #include "text/VerticalAlignStyle.h"
-
-using testing::StrEq;
-using testing::ThrowsMessage;
 
 TEST(TextItemStyle, EachKindNamesItsTagsItsPropertyAndItself) {
     using Property = TextAtomProperty;
@@ -67,43 +63,4 @@ TEST(TextItemStyle, EachKindNamesItsTagsItsPropertyAndItself) {
         os << c.style;
         EXPECT_EQ(os.str(), c.printed);
     }
-}
-
-TEST(TextItemStyle, LiesNowhereUntilActivated) {
-    BoldStyle style;
-    EXPECT_EQ(style.slice(), StringSlice(0, 0));
-    EXPECT_THAT([&] { style.activate(4, 2); },
-                ThrowsMessage<std::range_error>(StrEq("length of StringSlice error")));
-}
-
-TEST(TextAtomPropertyBuilder, OnlyColoursNest) {
-    TextAtomProperty initial;
-    initial.set_color(TextItem::yellow);
-    TextAtomPropertyBuilder builder(initial);
-    builder.begin_bold();
-    builder.begin_bold();
-    builder.end_bold();
-    EXPECT_FALSE(builder.text_atom_property().bold());
-    builder.begin_color(TextItem::red);
-    builder.begin_color(TextItem::blue);
-    builder.end_color();
-    EXPECT_EQ(builder.text_atom_property().color(), TextItem::red);
-    builder.end_color();
-    EXPECT_EQ(builder.text_atom_property().color(), TextItem::black);
-    builder.end_color();  // one too many
-    EXPECT_EQ(builder.text_atom_property().color(), TextItem::black);
-}
-
-TEST(TextAtomProperty, PrintsOneLineForEachProperty) {
-    TextAtomProperty property;
-    property.set_valign(-1);
-    property.set_italic(true);
-    property.set_color(TextItem::darkcyan);
-    property.set_replacement_txt("(");
-    property.set_greek(TextItem::omega);
-    std::ostringstream os;
-    os << property;
-    EXPECT_EQ(os.str(),
-              "\tVertical alignment: -1\n\tBold: 0\n\tItalic: 1\n\tOverstrike: 0\n\tInvisible: 0\n"
-              "\tColor: 12\n\tReplacement text: (\n\tGreek: 24\n");
 }

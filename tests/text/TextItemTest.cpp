@@ -143,33 +143,6 @@ private:
 
 }  // namespace
 
-TEST(TextItem, RefusesWhatCouldNotBeNested) {
-    const struct {
-        std::vector<Creation> before;
-        Creation creation;
-        const char* refusal;
-    } cases[] = {
-        {{}, {Kind::bold, 8, 10}, ""},
-        {{}, {Kind::bold, 8, 11}, beyond_end},
-        {{}, {Kind::bold, 4, 3}, bad_length},
-        {{{Kind::bold, 0, 5}}, {Kind::invisible, 3, 8}, overlapping},
-        {{{Kind::color, 0, 5}}, {Kind::color, 0, 3}, second_color},
-        {{{Kind::color, 3, 3}}, {Kind::color, 3, 4}, second_color},
-        {{{Kind::replacement, 2, 6}}, {Kind::bold, 3, 4}, within_replacement},
-        {{{Kind::replacement, 2, 6}}, {Kind::greek, 3, 3}, ""},
-        {{{Kind::replacement, 2, 6}}, {Kind::replacement, 2, 6}, nested_replacements},
-        {{{Kind::bold, 2, 3}}, {Kind::replacement, 2, 6}, enclosing},
-        {{{Kind::bold, 2, 6}}, {Kind::replacement, 2, 6}, ""},
-    };
-    for (const auto& c : cases) {
-        TextItem item = plain_item("0123456789");
-        for (const Creation& creation : c.before) creation.on(item);
-        const std::string before = printed(item);
-        EXPECT_EQ(c.creation.refusal(item), c.refusal) << c.creation.from << ' ' << c.creation.to;
-        EXPECT_EQ(printed(item) == before, *c.refusal != '\0');
-    }
-}
-
 TEST(TextItem, RefusesExactlyWhatTheSlowRulesRefuse) {
     Random random(2);
     for (int round = 0; round < 3000; ++round) {
@@ -180,10 +153,14 @@ TEST(TextItem, RefusesExactlyWhatTheSlowRulesRefuse) {
         for (int i = 0; i < 40; ++i) {
             const unsigned int from = random() % (length + 1);
             const unsigned int span = random() % 2 == 0 ? 4 : length;
+            const bool reversed = from > 0 && random() % 20 == 0;
             const Creation creation{static_cast<Kind>(random() % 5), from,
-                                    from + random() % (span + 1)};
-            ASSERT_EQ(creation.refusal(item), slow.refusal(creation))
+                                    reversed ? from - 1 : from + random() % (span + 1)};
+            const std::string before = printed(item);
+            const std::string refusal = creation.refusal(item);
+            ASSERT_EQ(refusal, slow.refusal(creation))
                 << "round " << round << ": " << creation.kind << ' ' << from << ' ' << creation.to;
+            ASSERT_EQ(printed(item) == before, !refusal.empty());
         }
     }
 }
@@ -214,16 +191,6 @@ TEST(TextItem, AsksItsFinderInAFixedOrderAndKeepsWhatStoodAtAFailure) {
     EXPECT_THROW(TextItem(THandle<InputTextStyleFinder>(), ""), std::runtime_error);
 }
 
-TEST(TextItem, CopiesGoTheirOwnWays) {
-    TextItem item = plain_item("abcd");
-    item.create_bold(0, 3);
-    TextItem copy = item;
-    EXPECT_THROW(copy.create_italic(2, 4), std::range_error);
-    copy.create_italic(3, 4);
-    EXPECT_EQ(html(copy), "<b>abc</b><i>d</i><p>");
-    EXPECT_EQ(html(item), "<b>abc</b>d<p>");
-}
-
 TEST(TextItem, LineLengthIsValidatedAgainstTheText) {
     TextItem item = plain_item("12345678");
     item.set_line_length(3);
@@ -234,15 +201,6 @@ TEST(TextItem, LineLengthIsValidatedAgainstTheText) {
     EXPECT_EQ(item.mark_up_text(generator), "123\n456\n78");
     item.set_text("1234");
     EXPECT_EQ(item.line_length(), 3U);
-    for (const unsigned int n : {4U, 20U, 4294967294U}) {
-        item.set_line_length(n);
-        EXPECT_EQ(item.line_length(), 0U);
-    }
-}
-
-TEST(TextItem, PrintsItsStylesInOrderOfCreation) {
-    TextItem item = plain_item("abcdef");
-    item.create_italic(1, 2);
-    item.create_superscript(0, 3);
-    EXPECT_EQ(printed(item), "ItalicStyle: From 1 To 2\nVerticalAlignStyle: From 0 To 3\n");
+    item.set_line_length(4);
+    EXPECT_EQ(item.line_length(), 0U);
 }
