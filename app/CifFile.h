@@ -23,7 +23,8 @@ struct CifBlock {
     std::map<std::string, std::vector<CifValue>> items;
 };
 
-/// The data blocks of a CIF file with those of their items that are named in `tags`; a tag that ends
-/// in "_" names all items that are not in loops and begin with it. Throws InputError and CifError.
+/// The data blocks of a CIF file with those of their items that are named in `tags`; a tag that
+/// ends in "_" names all items that are not in loops and begin with it. Throws InputError and
+/// CifError.
 std::vector<CifBlock> read_cif_blocks(const std::string& path,
                                       const std::vector<std::string>& tags);

@@ -219,6 +219,7 @@ private:
 
     void read_publication() {
         Publication& article = *entry_->publication;
+        article.journal = without_accents(article.journal);
         for (const CifValue& value : values(author_tag)) {
             const std::string author = initials_first(one_line(value.text));
             if (!author.empty()) article.authors.push_back(author);

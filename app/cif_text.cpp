@@ -32,19 +32,6 @@ std::optional<Number> read_whole(std::string_view text) {
     return number;
 }
 
-/// Letters carry their accents before them: "\'e".
-std::string without_accents(std::string_view text) {
-    constexpr std::string_view accents = "'\"`^~;<=./,(%&";
-    std::string result;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool accent = text[i] == '\\' && i + 2 < text.size() &&
-                            accents.find(text[i + 1]) != std::string_view::npos;
-        if (accent) i += 2;
-        result += text[i];
-    }
-    return result;
-}
-
 /// Whether a byte of UTF-8 is not the first of its character.
 bool continues_character(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
@@ -134,6 +121,18 @@ std::optional<Date> read_date(std::string_view text) {
         return std::nullopt;
     }
     return Date{*year, *month, *day};
+}
+
+std::string without_accents(std::string_view text) {
+    constexpr std::string_view accents = "'\"`^~;<=./,(%&";
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool accent = text[i] == '\\' && i + 2 < text.size() &&
+                            accents.find(text[i + 1]) != std::string_view::npos;
+        if (accent) i += 2;
+        result += text[i];
+    }
+    return result;
 }
 
 std::string initials_first(std::string_view author) {

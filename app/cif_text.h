@@ -20,5 +20,8 @@ std::optional<UncertainValue> read_number(std::string_view text);
 /// A day such as "2004-07-09", which the time of the day may follow as in "2004-07-09T16:19:55".
 std::optional<Date> read_date(std::string_view text);
 
+/// The text without the codes of accents, which stand before their letters: "fur" for "f\"ur".
+std::string without_accents(std::string_view text);
+
 /// "Van Poucke, L. C." as "L.C.Van Poucke": given names become initials, accents are dropped.
 std::string initials_first(std::string_view author);
