@@ -31,7 +31,7 @@ void UncertainValue::print(std::ostream& os) const {
                    : std::to_chars(buffer, limit, value, std::chars_format::fixed, places).ptr;
     os.write(buffer, end - buffer);
     const double last_place = uncertain ? std::round(uncertainty * std::pow(10.0, places)) : 0;
-    if (last_place < 1) return;
+    if (last_place < 1 || std::isinf(last_place)) return;
     end = std::to_chars(buffer, limit, last_place, std::chars_format::fixed, 0).ptr;
     os.put('(').write(buffer, end - buffer).put(')');
 }
