@@ -42,8 +42,8 @@ TEST(THandle, CopiesInSeveralThreadsCountSafely) {
         for (int i = 0; i < 4; ++i) {
             threads.emplace_back([&shared] {
                 for (int n = 0; n < 20000; ++n) {
-                    const THandle<Counted> copy(
-                        shared);  // NOLINT(*-unnecessary-copy-initialization)
+                    // NOLINTNEXTLINE(*-unnecessary-copy-initialization)
+                    const THandle<Counted> copy(shared);
                 }
             });
         }

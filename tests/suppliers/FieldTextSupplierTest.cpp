@@ -75,10 +75,8 @@ TEST(FieldTextSupplier, WritesTheLayoutsThatFindersRead) {
 TEST(FieldTextSupplier, TagsScrewAndInversionAxes) {
     const auto entry = make_handle<CrystalStructureDatabaseEntry>();
     const std::pair<const char*, const char*> cases[] = {
-        {"P 1 21/c 1", "P2<sub>1</sub>/c"},
-        {"P 1 1 21/b", "P112<sub>1</sub>/b"},
-        {"P -1", "P<bar>1</bar>"},
-        {"P 63/m m c", "P6<sub>3</sub>/mmc"},
+        {"P 1 21/c 1", "P2<sub>1</sub>/c"}, {"P 1 1 21/b", "P112<sub>1</sub>/b"},
+        {"P -1", "P<bar>1</bar>"},          {"P 63/m m c", "P6<sub>3</sub>/mmc"},
         {"F d -3 m", "Fd<bar>3</bar>m"},
     };
     for (const auto& [symbol, tagged] : cases) {
