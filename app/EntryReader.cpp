@@ -304,32 +304,41 @@ private:
         const std::string symbol = first_text(symbol_tags);
         const gemmi::SpaceGroup* group = nullptr;
         if (!symbol.empty()) group = gemmi::find_spacegroup_by_name(symbol, alpha, gamma);
-        try {
-            const std::string hall = first_text(hall_tags);
-            if (!group && !hall.empty()) {
-                group = gemmi::find_spacegroup_by_ops(gemmi::symops_from_hall(hall.c_str()));
-            }
-            if (!group) group = find_by_operations();
-        } catch (const std::exception&) {
-            // What says nothing to gemmi leaves the word to the next item.
-        }
+        if (!group) group = find_by_hall_symbol();
+        if (!group) group = find_by_operations();
         const std::optional<UncertainValue> number = read_number(first_text(number_tags));
-        if (!group && number) {
+        if (!group && number && number->value >= 1 && number->value <= 230) {
             group = gemmi::find_spacegroup_by_number(static_cast<int>(number->value));
         }
         return group;
     }
 
+    // Where gemmi refuses an item, these leave the word to the next.
+
+    const gemmi::SpaceGroup* find_by_hall_symbol() const {
+        const std::string symbol = first_text(hall_tags);
+        if (symbol.empty()) return nullptr;
+        try {
+            return gemmi::find_spacegroup_by_ops(gemmi::symops_from_hall(symbol.c_str()));
+        } catch (const std::exception&) {
+            return nullptr;
+        }
+    }
+
     const gemmi::SpaceGroup* find_by_operations() const {
         std::vector<gemmi::Op> operations;
-        for (const char* tag : operation_tags) {
-            for (const CifValue& value : values(tag)) {
-                operations.push_back(gemmi::parse_triplet(value.text));
+        try {
+            for (const char* tag : operation_tags) {
+                for (const CifValue& value : values(tag)) {
+                    operations.push_back(gemmi::parse_triplet(value.text));
+                }
+                if (!operations.empty()) break;
             }
-            if (!operations.empty()) break;
+            if (operations.empty()) return nullptr;
+            return gemmi::find_spacegroup_by_ops(gemmi::split_centering_vectors(operations));
+        } catch (const std::exception&) {
+            return nullptr;
         }
-        if (operations.empty()) return nullptr;
-        return gemmi::find_spacegroup_by_ops(gemmi::split_centering_vectors(operations));
     }
 
     void read_space_group() {

@@ -99,7 +99,8 @@ std::optional<UncertainValue> read_number(std::string_view text) {
     if (exponent < text.size()) {
         std::string_view digits = text.substr(exponent + 1);
         if (digits.substr(0, 1) == "+") digits.remove_prefix(1);
-        decimals -= read_whole<int>(digits).value_or(0);
+        // No double needs a thousand; 0 may be written with any exponent.
+        decimals -= std::clamp(read_whole<int>(digits).value_or(0), -1000, 1000);
     }
     UncertainValue result{*value, 0, std::max(decimals, 0)};
     if (!uncertainty.empty()) {

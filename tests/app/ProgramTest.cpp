@@ -286,7 +286,8 @@ TEST_F(Program, WhatACifLacksOrSpoilsLosesNothingElse) {
          "x.cif:2: data_x: _symmetry_space_group_name_h-m: unknown space group 'P x'\n"},
         {"_symmetry_space_group_name_H-M 'P x'\n_symmetry_Int_Tables_number 19\n",
          "Space Group: P2<sub>1</sub>2<sub>1</sub>2<sub>1</sub>", ""},
-        {"loop_\n_symmetry_equiv_pos_as_xyz\nx,y,z\n-x,-y,-z\n",
+        {"_cell_formula_units_Z 0e-2147483648\n_space_group_IT_number 1e300\n"
+         "_space_group_name_Hall nonsense\nloop_\n_symmetry_equiv_pos_as_xyz\nx,y,z\n-x,-y,-z\n",
          "Space Group: P<span style=\"text-decoration:overline\">1</span>", ""},
         {"_space_group_name_Hall '-P 2ybc'\n", "Space Group: P2<sub>1</sub>/c", ""},
         {"_audit_creation_date 2001-02-30\n", "",
