@@ -10,6 +10,7 @@ struct GreekLetter {
     const char* cif;          // backslash and a letter
     const char* symbol_font;  // the Latin letter that the Symbol font shows as the Greek one
     const char* unicode;      // UTF-8
+    const char* latex;        // in mathematics of its own; omicron is the Latin letter
 };
 
 /// The text of `symbol` in one of the spellings; throws std::range_error "Unknown sym. " and the

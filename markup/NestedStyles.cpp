@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "markup/Utf8.h"
+#include "text/Position.h"
 #include "text/TextItemStyle.h"
 
 namespace {
@@ -99,11 +101,13 @@ private:
 
 }  // namespace
 
-NestedStyles::NestedStyles(const RichTextData::Styles& styles, unsigned int text_length) {
+NestedStyles::NestedStyles(const RichTextData::Styles& styles, std::string_view text) {
     std::vector<OpenStyle> by_begin;
     for (std::size_t i = 0; i < styles.size(); ++i) {
-        const unsigned int to = std::min(styles[i]->to(), text_length);
-        if (styles[i]->from() < to) by_begin.push_back({i, styles[i]->from(), to});
+        const unsigned int from = start_of_character(text, styles[i]->from());
+        const unsigned int to =
+            start_of_character(text, std::min(styles[i]->to(), length_of(text)));
+        if (from < to) by_begin.push_back({i, from, to});
     }
     std::vector<OpenStyle> by_end = by_begin;
     std::sort(by_begin.begin(), by_begin.end(), begins_first);

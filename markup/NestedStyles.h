@@ -1,14 +1,16 @@
 #pragma once
 
+#include <string_view>
+
 #include "markup/RichTextData.h"
 
 /// Styles cut where they cross, so that their tags nest: where one of two that cross ends, the one
 /// that began inside it is closed and opened again. What lies beyond the end of the text is left
-/// out.
+/// out, and ends inside a UTF-8 character move to its begin.
 class NestedStyles {
 public:
     /// O((m + p) log (m + p)) for m styles cut into p pieces.
-    NestedStyles(const RichTextData::Styles& styles, unsigned int text_length);
+    NestedStyles(const RichTextData::Styles& styles, std::string_view text);
 
     /// The pieces, each with the tags of its whole style. None is empty.
     const RichTextData::Styles& styles() const { return pieces_; }

@@ -96,7 +96,7 @@ std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
     unsigned int covered_until = 0;
     // Each turn stands where something begins or ends and goes on to the next such position.
     for (unsigned int i = 0; i < n;) {
-        result += get_slice_tags(i, styles.take(i));
+        append_slice_tags(result, i, styles.take(i));
         const Styles invisible_here = invisible.take(i);
         const ReplacementTextStyles replacement_here = replacement_text.take(i);
         const GreekStyles greek_here = greek.take(i);
@@ -109,8 +109,8 @@ std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
                            data.line_length());
         } else if (has_greek_style(i, greek_here)) {
             covered_until = current_greek_->to();
-            add_text_block(result, greek_converter_->convert(current_greek_->symbol()), column,
-                           data.line_length());
+            add_letter(result, greek_converter_->convert(current_greek_->symbol()), column,
+                       data.line_length());
         } else {
             plain_from = i;
         }
@@ -123,7 +123,7 @@ std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
                            column, data.line_length());
         }
     }
-    result += get_slice_tags(n, styles.take(n));
+    append_slice_tags(result, n, styles.take(n));
     return result;
 }
 
@@ -135,10 +135,19 @@ unsigned int RichTextGenerator::write_characters(std::string& result, std::strin
     return length_of(written);
 }
 
+void RichTextGenerator::add_letter(std::string& result, const std::string& letter,
+                                   unsigned int& column, unsigned int line_length) const {
+    add_text_block(result, letter, column, line_length);
+}
+
+void RichTextGenerator::write_tag(std::string& result, const std::string& tag,
+                                  bool /*opens*/) const {
+    result += tag;
+}
+
 std::string RichTextGenerator::get_slice_tags(unsigned int position, Styles styles) const {
     std::string tags;
-    append_closing_tags(tags, position);
-    append_opening_tags(tags, position, styles);
+    append_slice_tags(tags, position, styles);
     return tags;
 }
 
@@ -154,9 +163,18 @@ std::string RichTextGenerator::opening_tags(unsigned int position, Styles styles
     return tags;
 }
 
+void RichTextGenerator::append_slice_tags(std::string& result, unsigned int position,
+                                          Styles styles) const {
+    append_closing_tags(result, position);
+    append_opening_tags(result, position, styles);
+}
+
 void RichTextGenerator::append_closing_tags(std::string& result, unsigned int position) const {
     const auto [first, last] = pending_.equal_range(position);
-    for (auto tag = last; tag != first;) result += (--tag)->second;
+    for (auto tag = last; tag != first;) {
+        --tag;
+        write_tag(result, tag->second, false);
+    }
     pending_.erase(first, last);
 }
 
@@ -172,9 +190,11 @@ void RichTextGenerator::append_opening_tags(std::string& result, unsigned int po
             [](const TextItemStyle* a, const TextItemStyle* b) { return a->to() > b->to(); });
     }
     for (const TextItemStyle* style : beginning_) {
-        result += style->start_tag(*tag_factory_);
+        const std::string start_tag = style->start_tag(*tag_factory_);
         std::string end_tag = style->end_tag(*tag_factory_);
-        if (!end_tag.empty()) pending_.emplace(style->to(), std::move(end_tag));
+        if (start_tag.empty() && end_tag.empty()) continue;
+        write_tag(result, start_tag, true);
+        pending_.emplace(style->to(), std::move(end_tag));
     }
 }
 

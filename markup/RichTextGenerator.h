@@ -45,6 +45,17 @@ protected:
     virtual unsigned int write_characters(std::string& result, std::string_view& text,
                                           unsigned int limit) const;
 
+    /// Writes the letter that a Greek style shows, in the converter's spelling, as add_text_block()
+    /// writes text. A target whose letters are mark-up themselves overrides this.
+    virtual void add_letter(std::string& result, const std::string& letter, unsigned int& column,
+                            unsigned int line_length) const;
+
+    /// Writes the tag that opens or closes a style. Called in pairs; a style without any tag is
+    /// left out.
+    virtual void write_tag(std::string& result, const std::string& tag, bool opens) const;
+
+    const RichTextTagFactory& tag_factory() const { return *tag_factory_; }
+
     /// closing_tags() and then opening_tags().
     std::string get_slice_tags(unsigned int position, Styles styles) const;
     /// The tags due at `position`, the one opened last first; forgets them.
@@ -64,7 +75,8 @@ protected:
                         unsigned int line_length) const;
 
 private:
-    /// What closing_tags() and opening_tags() return, at the end of `result`.
+    /// What get_slice_tags(), closing_tags() and opening_tags() return, at the end of `result`.
+    void append_slice_tags(std::string& result, unsigned int position, Styles styles) const;
     void append_closing_tags(std::string& result, unsigned int position) const;
     void append_opening_tags(std::string& result, unsigned int position, Styles styles) const;
 

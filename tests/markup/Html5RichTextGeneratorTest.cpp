@@ -67,7 +67,7 @@ TEST(Html5RichTextGenerator, BreaksLinesBetweenCharactersOnly) {
     const Html5RichTextGenerator generator;
     EXPECT_EQ(generator.mark_up_text(StyleLists().data("é<€é", 2)), "é&lt;<br>€é<br>");
     EXPECT_EQ(generator.mark_up_text(StyleLists().greek(0, 2).data("mu\xFF\x80", 1)),
-              "μ<br>\xFF\x80<br>");
+              "μ<br>\xFF<br>\x80<br>");
 }
 
 // Whatever the styles do, a browser must see the characters that are shown, in balanced tags.

@@ -11,6 +11,7 @@
 #include "text/GreekStyle.h"
 #include "text/InvisibleStyle.h"
 #include "text/ItalicStyle.h"
+#include "text/OverStrikeStyle.h"
 #include "text/ReplacementTextStyle.h"
 #include "text/VerticalAlignStyle.h"
 
@@ -28,7 +29,13 @@ struct StyleLists {
         return add(make_handle<ItalicStyle>(), from, to);
     }
     StyleLists& color(unsigned int from, unsigned int to) {
-        return add(make_handle<ColorStyle>(TextItem::green4), from, to);
+        return color(from, to, TextItem::green4);
+    }
+    StyleLists& color(unsigned int from, unsigned int to, TextItem::ColorName name) {
+        return add(make_handle<ColorStyle>(name), from, to);
+    }
+    StyleLists& bar(unsigned int from, unsigned int to) {
+        return add(make_handle<OverStrikeStyle>(), from, to);
     }
     StyleLists& subscript(unsigned int from, unsigned int to) {
         return add(make_handle<VerticalAlignStyle>(-1), from, to);
@@ -52,8 +59,9 @@ struct StyleLists {
     /// Up to seven styles with ends up to `last`.
     static StyleLists random(Random& random, unsigned int last) {
         constexpr StyleLists& (StyleLists::*adders[])(unsigned int, unsigned int) = {
-            &StyleLists::bold,      &StyleLists::color, &StyleLists::superscript,
-            &StyleLists::invisible, &StyleLists::greek, &StyleLists::replacement};
+            &StyleLists::bold,        &StyleLists::color,     &StyleLists::superscript,
+            &StyleLists::bar,         &StyleLists::invisible, &StyleLists::greek,
+            &StyleLists::replacement, &StyleLists::italic};
         StyleLists lists;
         for (unsigned int i = random() % 8; i > 0; --i) {
             const unsigned int from = random() % (last + 1);

@@ -5,8 +5,10 @@
 #include "markup/TextItemToCifGreek.h"
 #include "markup/TextItemToHtml5Greek.h"
 #include "markup/TextItemToHtmlGreek.h"
+#include "markup/TextItemToLatexGreek.h"
 #include "markup/TextItemToQtGreek.h"
 #include "markup/TextItemToTevoGreek.h"
+#include "markup/TextItemToUnicodeGreek.h"
 
 using testing::StrEq;
 using testing::ThrowsMessage;
@@ -33,6 +35,11 @@ TEST(TextItemToOtherGreek, EachTargetHasItsAlphabet) {
     EXPECT_EQ(alphabet(TextItemToHtmlGreek(), 1), "abgdezhqiklmnxoprstufcywDL");
     EXPECT_EQ(alphabet(TextItemToQtGreek(), 1), "abgdezhqiklmnxoprstufcywDL");
     EXPECT_EQ(alphabet(TextItemToHtml5Greek()), "αβγδεζηθικλμνξοπρστυφχψωΔΛ");
+    EXPECT_EQ(alphabet(TextItemToUnicodeGreek()), alphabet(TextItemToHtml5Greek()));
+    EXPECT_EQ(alphabet(TextItemToLatexGreek()),
+              "$\\alpha$$\\beta$$\\gamma$$\\delta$$\\epsilon$$\\zeta$$\\eta$$\\theta$$\\iota$"
+              "$\\kappa$$\\lambda$$\\mu$$\\nu$$\\xi$$o$$\\pi$$\\rho$$\\sigma$$\\tau$$\\upsilon$"
+              "$\\phi$$\\chi$$\\psi$$\\omega$$\\Delta$$\\Lambda$");
 }
 
 TEST(TextItemToOtherGreek, RefusesWhatIsNoSymbol) {
@@ -46,6 +53,8 @@ TEST(TextItemToOtherGreek, RefusesWhatIsNoSymbol) {
         {make_handle<TextItemToHtmlGreek>(), 0, "Unknown sym. TextItemToHtmlGreek"},
         {make_handle<TextItemToQtGreek>(), 0, "Unknown sym. TextItemToQtGreek"},
         {make_handle<TextItemToHtml5Greek>(), 27, "Unknown sym. TextItemToHtml5Greek"},
+        {make_handle<TextItemToLatexGreek>(), 27, "Unknown sym. TextItemToLatexGreek"},
+        {make_handle<TextItemToUnicodeGreek>(), -1, "Unknown sym. TextItemToUnicodeGreek"},
     };
     for (const auto& c : cases) {
         const auto symbol = static_cast<TextItem::GreekSymbol>(c.symbol);

@@ -1,0 +1,121 @@
+#include "markup/LatexRichTextGenerator.h"
+
+#include "markup/LatexTagFactory.h"
+#include "markup/TextItemToLatexGreek.h"
+#include "markup/Utf8.h"
+
+namespace {
+
+/// What stands for an ASCII character that means something to LaTeX, or null.
+const char* command_for(char c) {
+    switch (c) {
+        case '#':
+            return "\\#";
+        case '$':
+            return "\\$";
+        case '%':
+            return "\\%";
+        case '&':
+            return "\\&";
+        case '_':
+            return "\\_";
+        case '{':
+            return "\\{";
+        case '}':
+            return "\\}";
+        case '~':
+            return "\\textasciitilde{}";
+        case '^':
+            return "\\textasciicircum{}";
+        case '\\':
+            return "\\textbackslash{}";
+        // The fonts of LaTeX's oldest encoding, still the default, have others in these places.
+        case '<':
+            return "\\textless{}";
+        case '>':
+            return "\\textgreater{}";
+        case '|':
+            return "\\textbar{}";
+        case '"':
+            return "\\symbol{34}";  // babel makes shorthands of the character itself
+        case '`':
+            return "\\textasciigrave{}";
+        case '\n':
+            return "\\leavevmode\\newline{}";
+        default:
+            return nullptr;
+    }
+}
+
+/// Whether two of them make a dash or a quotation mark.
+bool makes_ligature(char c) { return c == '-' || c == '\'' || c == ','; }
+
+/// Whether LaTeX would drop a space here: at the begin, behind another and behind what ends so.
+bool swallows_space(const std::string& result) {
+    const std::size_t last = result.find_last_not_of('}');
+    return last == std::string::npos || result[last] == ' ' || result[last] == '{';
+}
+
+void append_number(std::string& result, char32_t number) {
+    constexpr char digits[] = "0123456789ABCDEF";
+    result += "\\textless{}";
+    result += digits[number >> 4 & 0xF];
+    result += digits[number & 0xF];
+    result += "\\textgreater{}";
+}
+
+void append_ascii(std::string& result, char c) {
+    if (const char* command = command_for(c)) {
+        result += command;
+    } else if (c == ' ') {
+        result += swallows_space(result) ? "\\ " : " ";
+    } else if (result.empty() && (c == '[' || c == '*')) {
+        result += {'{', c, '}'};  // behind the \\ of a table it would be an argument
+    } else if (makes_ligature(c)) {
+        if (!result.empty() && result.back() == c) result += "{}";
+        result += c;
+    } else {
+        result += c;
+    }
+}
+
+bool is_control(char32_t code) { return code < 0x20 || (code >= 0x7F && code < 0xA0); }
+
+}  // namespace
+
+LatexRichTextGenerator::LatexRichTextGenerator()
+    : NestingRichTextGenerator(make_handle<LatexTagFactory>(),
+                               make_handle<TextItemToLatexGreek>()) {}
+
+LatexRichTextGenerator::~LatexRichTextGenerator() = default;
+
+std::string LatexRichTextGenerator::mark_up_text(const RichTextData& data) const {
+    std::string result = NestingRichTextGenerator::mark_up_text(data);
+    if (result.ends_with(' ') && !result.ends_with("\\ "))
+        result.insert(result.size() - 1, 1, '\\');
+    return result;
+}
+
+void LatexRichTextGenerator::write_text(std::string& result, std::string_view text) const {
+    while (!text.empty()) {
+        const Utf8Character character = first_character(text);
+        const std::string_view bytes = text.substr(0, character.size);
+        if (!character.valid) {
+            for (const char byte : bytes) append_number(result, static_cast<unsigned char>(byte));
+        } else if (is_control(character.code) && character.code != '\n') {
+            append_number(result, character.code);
+        } else if (character.size == 1) {
+            append_ascii(result, bytes.front());
+        } else {
+            result += bytes;
+        }
+        text.remove_prefix(character.size);
+    }
+}
+
+void LatexRichTextGenerator::add_letter(std::string& result, const std::string& letter,
+                                        unsigned int& column, unsigned int line_length) const {
+    result += letter;
+    ++column;
+    if (line_length != 0 && column % line_length == 0) result += tag_factory().line_break();
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "markup/TwoPassRichTextGenerator.h"
+
+/// Writes Markdown, as CommonMark 0.30 has it, for a paragraph, an item of a list or a cell of a
+/// table. Punctuation that Markdown might read is escaped. Stars count as bold or italic only
+/// beside certain characters; where they would not, HTML's tags stand in their place. A style
+/// inside another of its kind writes none. Line breaks of the text itself become character
+/// references.
+class MarkdownRichTextGenerator : public TwoPassRichTextGenerator {
+public:
+    MarkdownRichTextGenerator();
+    ~MarkdownRichTextGenerator() override;
+
+protected:
+    void write_text(std::string& result, std::string_view text) const override;
+    void write_tag(std::string& result, const std::string& tag, bool opens) const override;
+    std::string compose(std::string_view text, const std::vector<Tag>& tags) const override;
+};

@@ -1,0 +1,3 @@
+#include "markup/MarkdownTagFactory.h"
+
+MarkdownTagFactory::~MarkdownTagFactory() = default;

@@ -1,0 +1,38 @@
+#include "markup/NestingRichTextGenerator.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "markup/NestedStyles.h"
+#include "markup/Utf8.h"
+#include "text/GreekStyle.h"
+#include "text/Position.h"
+
+NestingRichTextGenerator::~NestingRichTextGenerator() = default;
+
+std::string NestingRichTextGenerator::mark_up_text(const RichTextData& data) const {
+    const std::string text = data.text();
+    const NestedStyles nested(data.styles(), text);
+    RichTextData::GreekStyles letters;
+    std::copy_if(data.greek().begin(), data.greek().end(), std::back_inserter(letters),
+                 [](const auto& style) { return style->symbol() != TextItem::no_symbol; });
+    return RichTextGenerator::mark_up_text(RichTextData(text, data.line_length(), nested.styles(),
+                                                        data.invisible(), letters,
+                                                        data.replacement_text()));
+}
+
+unsigned int NestingRichTextGenerator::write_characters(std::string& result, std::string_view& text,
+                                                        unsigned int limit) const {
+    unsigned int characters = 0;
+    std::size_t end = 0;
+    if (limit == no_position) {  // no line to break: nobody counts
+        end = text.size();
+    } else {
+        for (; end < text.size() && characters < limit; ++characters) {
+            end += end_of_character(text.substr(end));
+        }
+    }
+    write_text(result, text.substr(0, end));
+    text.remove_prefix(end);
+    return characters;
+}

@@ -1,0 +1,211 @@
+#include "markup/UnicodeRichTextGenerator.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "markup/TextItemToUnicodeGreek.h"
+#include "markup/UnicodeTagFactory.h"
+#include "markup/Utf8.h"
+
+namespace {
+
+constexpr std::string_view overline = "\u0305";
+
+/// The characters that stand for another in a script; 0 where there is none.
+struct ScriptForms {
+    char32_t base;
+    char32_t superscript;
+    char32_t subscript;
+};
+
+// As Unicode's compatibility decompositions have them, ascending; the hyphen shares the forms of
+// the minus sign. Those of C, F, Q and q are so young that fonts lack them.
+constexpr ScriptForms script_forms[] = {
+    {U'(', U'⁽', U'₍'}, {U')', U'⁾', U'₎'}, {U'+', U'⁺', U'₊'}, {U'-', U'⁻', U'₋'},
+    {U'0', U'⁰', U'₀'}, {U'1', U'¹', U'₁'}, {U'2', U'²', U'₂'}, {U'3', U'³', U'₃'},
+    {U'4', U'⁴', U'₄'}, {U'5', U'⁵', U'₅'}, {U'6', U'⁶', U'₆'}, {U'7', U'⁷', U'₇'},
+    {U'8', U'⁸', U'₈'}, {U'9', U'⁹', U'₉'}, {U'=', U'⁼', U'₌'}, {U'A', U'ᴬ', 0},
+    {U'B', U'ᴮ', 0},    {U'D', U'ᴰ', 0},    {U'E', U'ᴱ', 0},    {U'G', U'ᴳ', 0},
+    {U'H', U'ᴴ', 0},    {U'I', U'ᴵ', 0},    {U'J', U'ᴶ', 0},    {U'K', U'ᴷ', 0},
+    {U'L', U'ᴸ', 0},    {U'M', U'ᴹ', 0},    {U'N', U'ᴺ', 0},    {U'O', U'ᴼ', 0},
+    {U'P', U'ᴾ', 0},    {U'R', U'ᴿ', 0},    {U'T', U'ᵀ', 0},    {U'U', U'ᵁ', 0},
+    {U'V', U'ⱽ', 0},    {U'W', U'ᵂ', 0},    {U'a', U'ᵃ', U'ₐ'}, {U'b', U'ᵇ', 0},
+    {U'c', U'ᶜ', 0},    {U'd', U'ᵈ', 0},    {U'e', U'ᵉ', U'ₑ'}, {U'f', U'ᶠ', 0},
+    {U'g', U'ᵍ', 0},    {U'h', U'ʰ', U'ₕ'}, {U'i', U'ⁱ', U'ᵢ'}, {U'j', U'ʲ', U'ⱼ'},
+    {U'k', U'ᵏ', U'ₖ'}, {U'l', U'ˡ', U'ₗ'}, {U'm', U'ᵐ', U'ₘ'}, {U'n', U'ⁿ', U'ₙ'},
+    {U'o', U'ᵒ', U'ₒ'}, {U'p', U'ᵖ', U'ₚ'}, {U'r', U'ʳ', U'ᵣ'}, {U's', U'ˢ', U'ₛ'},
+    {U't', U'ᵗ', U'ₜ'}, {U'u', U'ᵘ', U'ᵤ'}, {U'v', U'ᵛ', U'ᵥ'}, {U'w', U'ʷ', 0},
+    {U'x', U'ˣ', U'ₓ'}, {U'y', U'ʸ', 0},    {U'z', U'ᶻ', 0},    {U'β', U'ᵝ', U'ᵦ'},
+    {U'γ', U'ᵞ', U'ᵧ'}, {U'δ', U'ᵟ', 0},    {U'θ', U'ᶿ', 0},    {U'ρ', 0, U'ᵨ'},
+    {U'φ', U'ᵠ', U'ᵩ'}, {U'χ', U'ᵡ', U'ᵪ'}, {U'−', U'⁻', U'₋'}};
+
+constexpr bool is_ascending() {
+    return std::is_sorted(
+        std::begin(script_forms), std::end(script_forms),
+        [](const ScriptForms& a, const ScriptForms& b) { return a.base < b.base; });
+}
+static_assert(is_ascending());
+
+using Script = char32_t ScriptForms::*;
+
+/// The tags that do more than to be written.
+struct Vocabulary {
+    explicit Vocabulary(const RichTextTagFactory& factory)
+        : superscript(factory.start_superscript()),
+          subscript(factory.start_subscript()),
+          bar(factory.start_overstrike()) {}
+
+    Script script_of(std::string_view start_tag) const {
+        if (start_tag == superscript) return &ScriptForms::superscript;
+        return start_tag == subscript ? &ScriptForms::subscript : nullptr;
+    }
+
+    std::string superscript, subscript, bar;
+};
+
+/// The form of the character at the front of `text`, or 0.
+char32_t script_form(std::string_view text, Script script) {
+    const Utf8Character character = first_character(text);
+    const ScriptForms* row =
+        std::lower_bound(std::begin(script_forms), std::end(script_forms), character.code,
+                         [](const ScriptForms& forms, char32_t code) { return forms.base < code; });
+    return row != std::end(script_forms) && row->base == character.code ? row->*script : 0;
+}
+
+bool has_script_forms(std::string_view text, Script script) {
+    while (!text.empty()) {
+        if (script_form(text, script) == 0) return false;
+        text.remove_prefix(first_character(text).size);
+    }
+    return true;
+}
+
+/// For the two tags of each script that is written in characters of its own: which. Null for
+/// others.
+std::vector<Script> scripts_with_forms(std::string_view text,
+                                       const std::vector<TwoPassRichTextGenerator::Tag>& tags,
+                                       const Vocabulary& vocabulary) {
+    std::vector<Script> scripts(tags.size(), nullptr);
+    std::size_t innermost = tags.size();  // the script that stands open with none inside so far
+    for (std::size_t i = 0; i < tags.size(); ++i) {
+        const std::size_t start = tags[i].opens ? i : tags[i].partner;
+        const Script script = vocabulary.script_of(tags[start].text);
+        if (!script) continue;
+        const std::size_t from = tags[start].position;
+        if (i != start && innermost == start &&
+            has_script_forms(text.substr(from, tags[i].position - from), script)) {
+            scripts[start] = scripts[i] = script;
+        }
+        innermost = i == start ? i : tags.size();
+    }
+    return scripts;
+}
+
+/// Breaks lines of what is put into it after the columns that a reader counts.
+class Lines {
+public:
+    Lines(std::string& result, unsigned int length, std::string line_break)
+        : result_(result), length_(length), line_break_(std::move(line_break)) {}
+
+    /// Appends what may not be broken; before it, where it does not fit on the line.
+    void put(std::string_view text, unsigned int columns) {
+        if (length_ != 0 && column_ != 0 && columns > length_ - column_) break_line();
+        result_ += text;
+        column_ += columns;
+        if (length_ != 0 && column_ >= length_) break_line();
+    }
+
+    /// Appends a line end of the text.
+    void end_line() {
+        result_ += '\n';
+        column_ = 0;
+    }
+
+private:
+    void break_line() {
+        result_ += line_break_;
+        column_ = 0;
+    }
+
+    std::string& result_;
+    unsigned int length_;
+    std::string line_break_;
+    unsigned int column_ = 0;
+};
+
+}  // namespace
+
+UnicodeRichTextGenerator::UnicodeRichTextGenerator()
+    : UnicodeRichTextGenerator(make_handle<UnicodeTagFactory>()) {}
+
+UnicodeRichTextGenerator::UnicodeRichTextGenerator(THandle<RichTextTagFactory> tag_factory)
+    : TwoPassRichTextGenerator(std::move(tag_factory), make_handle<TextItemToUnicodeGreek>()) {}
+
+UnicodeRichTextGenerator::~UnicodeRichTextGenerator() = default;
+
+// The lines can be broken only when it is known how the scripts are written.
+std::string UnicodeRichTextGenerator::mark_up_text(const RichTextData& data) const {
+    line_length_ = data.line_length();
+    return TwoPassRichTextGenerator::mark_up_text(RichTextData(
+        data.text(), 0, data.styles(), data.invisible(), data.greek(), data.replacement_text()));
+}
+
+void UnicodeRichTextGenerator::write_text(std::string& result, std::string_view text) const {
+    result += text;
+}
+
+void UnicodeRichTextGenerator::append_invisible_tag(std::string& /*result*/,
+                                                    const std::string& /*tag*/) const {}
+
+std::string UnicodeRichTextGenerator::compose(std::string_view text,
+                                              const std::vector<Tag>& tags) const {
+    const Vocabulary vocabulary(tag_factory());
+    const std::vector<Script> scripts = scripts_with_forms(text, tags, vocabulary);
+    std::string result;
+    result.reserve(text.size() + 8 * tags.size());
+    Lines lines(result, line_length_, tag_factory().line_break());
+    Script script = nullptr;
+    unsigned int bars = 0;
+    const auto write = [&](std::string_view characters) {
+        if (!script && bars == 0 && line_length_ == 0) {
+            result += characters;
+            return;
+        }
+        std::string unit;
+        while (!characters.empty()) {
+            const bool ends_line = characters.front() == '\n';
+            const std::size_t size = ends_line ? 1 : end_of_character(characters);
+            unit = characters.substr(0, size);
+            if (script) {
+                unit.clear();
+                append_utf8(unit, script_form(characters, script));
+            }
+            if (bars > 0) unit += overline;
+            if (ends_line) {
+                lines.end_line();
+            } else {
+                lines.put(unit, 1);
+            }
+            characters.remove_prefix(size);
+        }
+    };
+
+    std::size_t written = 0;
+    for (std::size_t i = 0; i < tags.size(); ++i) {
+        const Tag& tag = tags[i];
+        write(text.substr(written, tag.position - written));
+        written = tag.position;
+        const std::string& start_tag = tags[tag.opens ? i : tag.partner].text;
+        if (scripts[i]) {
+            script = tag.opens ? scripts[i] : nullptr;
+        } else if (vocabulary.script_of(start_tag)) {
+            lines.put(tag.text, static_cast<unsigned int>(tag.text.size()));
+        } else {
+            if (start_tag == vocabulary.bar) bars = tag.opens ? bars + 1 : bars - 1;
+            append_invisible_tag(result, tag.text);
+        }
+    }
+    write(text.substr(written));
+    return result;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "markup/TwoPassRichTextGenerator.h"
+
+/// Writes plain text: Greek letters, the characters that Unicode has for scripts where it has them
+/// for a whole run, otherwise `_{...}` and `^{...}`, and a combining overline behind each character
+/// under a bar. Lines are broken where a reader counts, after or before braces too but not inside
+/// them.
+class UnicodeRichTextGenerator : public TwoPassRichTextGenerator {
+public:
+    UnicodeRichTextGenerator();
+    ~UnicodeRichTextGenerator() override;
+
+    std::string mark_up_text(const RichTextData& data) const override;
+
+protected:
+    explicit UnicodeRichTextGenerator(THandle<RichTextTagFactory> tag_factory);
+
+    void write_text(std::string& result, std::string_view text) const override;
+    std::string compose(std::string_view text, const std::vector<Tag>& tags) const override;
+
+    /// Appends a tag that takes no room on the line; plain text shows none.
+    virtual void append_invisible_tag(std::string& result, const std::string& tag) const;
+
+private:
+    mutable unsigned int line_length_ = 0;  // of the text in work
+};

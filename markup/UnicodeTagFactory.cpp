@@ -1,0 +1,3 @@
+#include "markup/UnicodeTagFactory.h"
+
+UnicodeTagFactory::~UnicodeTagFactory() = default;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+// UTF-8 as a reader sees it. Bytes that are none count as one character each, or together as many
+// as a decoder would replace at once.
+
+/// What stands at the front of a text.
+struct Utf8Character {
+    char32_t code;     // U+FFFD where the bytes are no UTF-8
+    std::size_t size;  // in bytes
+    bool valid;
+};
+
+/// Decodes the front of `text`, which is not empty.
+Utf8Character first_character(std::string_view text);
+
+/// One past the character at the front of `text`, which is not empty, with the accents, bars and
+/// the like that combine with it.
+std::size_t end_of_character(std::string_view text);
+
+/// The last position up to `position` that is not inside a UTF-8 character.
+unsigned int start_of_character(std::string_view text, unsigned int position);
+
+void append_utf8(std::string& result, char32_t code);
