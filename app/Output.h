@@ -1,12 +1,15 @@
 #pragma once
 
-#include <span>
+#include <vector>
 
-#include "app/Target.h"
+#include "markup/RichTextTarget.h"
 
 /// What a command writes: the mark-up of a target, or a form of its own.
 struct Output {
     const char* name;
     const char* help;
-    const Target* target;  // null: the command's own form
+    const RichTextTarget* target;  // null: the command's own form
 };
+
+/// All targets, and a form of the command's own behind them.
+std::vector<Output> outputs_with(const char* own_name, const char* own_help);

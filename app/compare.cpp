@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "app/Diagnostics.h"
+#include "app/EntryForm.h"
 #include "app/Field.h"
 #include "app/OrderedSearch.h"
 #include "app/Page.h"
@@ -25,7 +26,7 @@ class Comparison {
 public:
     explicit Comparison(const CompareOptions& options)
         : options_(options),
-          generator_(options.to->make_generator()),
+          form_(*options.to),
           on_page_(std::string_view(options.to->name) == "html5") {}
 
     CompareOutcome run() {
@@ -49,9 +50,10 @@ private:
     void compare_entries(const CifEntry& left, const CifEntry& right) {
         const std::string title = "data_" + left.block + " and data_" + right.block;
         const std::string files = options_.left + " and " + options_.right;
-        output_.write(on_page_ ? page_section_head(title, files) : files + ": " + title + '\n');
+        output_.write(on_page_ ? page_section_head(title, files)
+                               : form_.head(files + ": " + title));
         for (const LMRFieldNames::TextID id : options_.fields) compare_field(id, left, right);
-        if (on_page_) output_.write(page_section_foot());
+        output_.write(on_page_ ? page_section_foot() : form_.foot());
     }
 
     void compare_field(LMRFieldNames::TextID id, const CifEntry& left, const CifEntry& right) {
@@ -82,19 +84,17 @@ private:
         search->set_search_term(other);
         const TextItem item(make_handle<TextSearchStyleFinder>(search, field.source->make_finder()),
                             text);
-        return {item.mark_up_text(*generator_), search->matched()};
+        return {item.mark_up_text(form_.generator()), search->matched()};
     }
 
-    static std::string lines(const std::string& label, const std::string& left,
-                             const std::string& right, bool same) {
-        if (same && left == right) return "= " + label + ": " + left + '\n';
-        const char* const signs = same ? "==" : "<>";
-        return std::string(1, signs[0]) + ' ' + label + ": " + left + '\n' + signs[1] + ' ' +
-               label + ": " + right + '\n';
+    std::string lines(const std::string& label, const std::string& left, const std::string& right,
+                      bool same) const {
+        if (same && left == right) return form_.row('=', label, left);
+        return form_.row(same ? '=' : '<', label, left) + form_.row(same ? '=' : '>', label, right);
     }
 
     const CompareOptions& options_;
-    THandle<RichTextGenerator> generator_;
+    EntryForm form_;
     bool on_page_;
     TextOutput output_;
     bool same_ = true;

@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "app/SearchKind.h"
-#include "app/Target.h"
 #include "fields/LMRFieldNames.h"
+#include "markup/RichTextTarget.h"
 
 struct CompareOptions {
-    const Target* to = nullptr;  // html5 writes a page with two columns
+    const RichTextTarget* to = nullptr;  // html5 writes a page with two columns
     std::vector<LMRFieldNames::TextID> fields;
     SearchSettings settings;
     std::string left, right;  // CIF files

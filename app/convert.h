@@ -1,12 +1,12 @@
 #pragma once
 
 #include "app/Source.h"
-#include "app/Target.h"
 #include "app/TextBatch.h"
+#include "markup/RichTextTarget.h"
 
 struct ConvertOptions {
     const Source* from = nullptr;
-    const Target* to = nullptr;
+    const RichTextTarget* to = nullptr;
     unsigned int line_length = 0;  // in characters; 0 breaks no lines
     TextBatch batch;
 };

@@ -12,6 +12,7 @@
 #include "app/TextOutput.h"
 #include "app/compare.h"
 #include "app/convert.h"
+#include "app/default_target.h"
 #include "app/row_named.h"
 #include "app/search.h"
 #include "app/show.h"
@@ -67,7 +68,8 @@ void add_convert(CLI::App& program, ConvertOptions& options) {
         "the exit status is 1. Example:\n"
         "  printf '%s\\n' 'alpha-D-gluco!2$' | lmrtext convert --from tevo-name --to html5");
     add_row_option(command, "--from", options.from, sources(), "What the texts are")->required();
-    add_row_option(command, "--to", options.to, targets(), "What to write")->required();
+    add_row_option(command, "--to", options.to, rich_text_targets(),
+                   "What to write; on a terminal ansi unless given");
     command
         ->add_option("--line-length", options.line_length,
                      "Break lines after that many characters; 0: do not break")
@@ -150,9 +152,12 @@ void add_show(CLI::App& program, ShowArguments& arguments) {
     command->add_option("--find", options.term,
                         "Highlight this in every field, compared as suits the field");
     add_row_option(command, "--to", options.to, show_outputs(),
-                   "What to print; tevo unless a page is written");
-    command->add_option("-o,--output", options.page, "Write an HTML5 page to this file")
-        ->type_name("PAGE.html");
+                   "What to write; unless given, as the ending of the file says, ansi on a "
+                   "terminal and tevo elsewhere");
+    command
+        ->add_option("-o,--output", options.path,
+                     "Write to this file; html5, also for unknown endings, is a page")
+        ->type_name("FILE");
     command->add_option("FILE", options.files, "CIF files; -: standard input")->required();
 }
 
@@ -183,15 +188,14 @@ void add_compare(CLI::App& program, CompareArguments& arguments) {
     CompareOptions& options = arguments.options;
     add_field_options(command, arguments.view, options.fields);
     add_tolerance_option(command, options.settings);
-    options.to = row_named(targets(), "tevo");
-    add_row_option(command, "--to", options.to, targets(), "What to write, tevo unless given");
+    add_row_option(command, "--to", options.to, rich_text_targets(),
+                   "What to write; unless given, ansi on a terminal and tevo elsewhere");
     command->add_option("A.cif", options.left)->required();
     command->add_option("B.cif", options.right)->required();
 }
 
 void add_search(CLI::App& program, SearchOptions& options) {
     options.from = row_named(sources(), "plain");
-    options.to = row_named(search_outputs(), "html5");
     CLI::App* command = program.add_subcommand(
         "search", "Searches texts, one a line, and highlights what matches a term");
     command->footer(
@@ -217,7 +221,7 @@ void add_search(CLI::App& program, SearchOptions& options) {
     add_row_option(command, "--from", options.from, sources(),
                    "What the texts are, plain unless given");
     add_row_option(command, "--to", options.to, search_outputs(),
-                   "What to write, html5 unless given");
+                   "What to write; unless given, ansi on a terminal and html5 elsewhere");
     command->add_flag("--matching", options.only_matching, "Write only the texts that match");
     add_batch_options(command, options.batch);
 }
@@ -235,13 +239,33 @@ int guarded(int trouble, const std::function<int()>& command) {
     return trouble;
 }
 
+int run_convert(ConvertOptions& options) {
+    if (!options.to) options.to = row_named(rich_text_targets(), default_target(""));
+    if (!options.to) {
+        report(
+            "convert needs --to where it does not write to a terminal (lmrtext convert --help "
+            "says more)");
+        return exit_trouble;
+    }
+    return convert(options) ? 0 : exit_failure;
+}
+
+int run_targets() {
+    TextOutput output;
+    for (const RichTextTarget& target : rich_text_targets()) {
+        output.write(std::string(target.name) + "\t." + target.ending + '\t' + target.help + '\n');
+    }
+    output.close();
+    return 0;
+}
+
 int run_show(ShowArguments& arguments) {
     ShowOptions& options = arguments.options;
-    const bool page = !options.page.empty();
-    if (!options.to) options.to = row_named(show_outputs(), page ? "html5" : "tevo");
-    if (page && options.to != row_named(show_outputs(), "html5")) {
-        report("a page is written as html5, not as " + std::string(options.to->name));
-        return exit_trouble;
+    if (!options.to) {
+        const char* const other = options.path.ends_with(".json") ? "json" : "html5";
+        options.to =
+            row_named(show_outputs(), options.path.empty() ? default_target("tevo")
+                                                           : target_of_path(options.path, other));
     }
     if (options.fields.empty()) arguments.view->list(options.fields);
     return show(options) ? 0 : exit_failure;
@@ -260,13 +284,15 @@ int run_fields(const FieldsOptions& options) {
 
 int run_compare(CompareArguments& arguments) {
     CompareOptions& options = arguments.options;
+    if (!options.to) options.to = row_named(rich_text_targets(), default_target("tevo"));
     if (options.fields.empty()) arguments.view->list(options.fields);
     const CompareOutcome outcome = compare(options);
     if (!outcome.good) return exit_trouble;
     return outcome.same ? 0 : exit_difference;
 }
 
-int run_search(const SearchOptions& options) {
+int run_search(SearchOptions& options) {
+    if (!options.to) options.to = row_named(search_outputs(), default_target("html5"));
     if (!options.how) {
         report("search needs --how or --field (lmrtext search --help says more)");
         return exit_trouble;
@@ -286,6 +312,7 @@ int run(int argc, char** argv) {
     SearchOptions search_options;
     CompareArguments compare_arguments;
     add_convert(program, convert_options);
+    program.add_subcommand("targets", "Lists what can be written: name, ending of files, content");
     add_show(program, show_arguments);
     add_fields(program, fields_options);
     add_search(program, search_options);
@@ -306,7 +333,8 @@ int run(int argc, char** argv) {
     return guarded(exit_failure, [&] {
         if (program.got_subcommand("show")) return run_show(show_arguments);
         if (program.got_subcommand("fields")) return run_fields(fields_options);
-        return convert(convert_options) ? 0 : exit_failure;
+        if (program.got_subcommand("targets")) return run_targets();
+        return run_convert(convert_options);
     });
 }
 

@@ -10,15 +10,6 @@
 
 namespace {
 
-std::vector<Output> make_outputs() {
-    std::vector<Output> outputs;
-    for (const Target& target : targets()) {
-        if (target.shows_color) outputs.push_back({target.name, target.help, &target});
-    }
-    outputs.push_back({"slices", "true or false and the ranges, tab-separated", nullptr});
-    return outputs;
-}
-
 /// Searches one text after the other.
 class Searcher {
 public:
@@ -59,7 +50,8 @@ private:
 }  // namespace
 
 std::span<const Output> search_outputs() {
-    static const std::vector<Output> outputs = make_outputs();
+    static const std::vector<Output> outputs =
+        outputs_with("slices", "true or false and the ranges, tab-separated");
     return outputs;
 }
 

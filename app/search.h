@@ -8,7 +8,7 @@
 #include "app/Source.h"
 #include "app/TextBatch.h"
 
-/// What search writes: the targets that show its matches in colour, and the ranges.
+/// What search writes: the targets, of which some can show its matches, and the ranges.
 std::span<const Output> search_outputs();
 
 struct SearchOptions {

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "app/Diagnostics.h"
+#include "app/EntryForm.h"
 #include "app/Field.h"
 #include "app/OrderedSearch.h"
 #include "app/Page.h"
@@ -45,20 +46,19 @@ public:
 
 class Lines : public Form {
 public:
-    explicit Lines(THandle<RichTextGenerator> generator) : generator_(std::move(generator)) {}
+    explicit Lines(const RichTextTarget& target) : form_(target) {}
 
     std::string entry(const std::string& file, const CifEntry& entry,
                       const std::vector<ShownField>& fields) override {
-        std::string lines = file + ": data_" + entry.block + '\n';
+        std::string lines = form_.head(file + ": data_" + entry.block);
         for (const ShownField& field : fields) {
-            lines += std::string("    ") + field.label + ": " +
-                     field.item.mark_up_text(*generator_) + '\n';
+            lines += form_.row(field.label, field.item.mark_up_text(form_.generator()));
         }
-        return lines;
+        return lines + form_.foot();
     }
 
 private:
-    THandle<RichTextGenerator> generator_;
+    EntryForm form_;
 };
 
 class HtmlPage : public Form {
@@ -127,9 +127,10 @@ private:
 };
 
 std::unique_ptr<Form> make_form(const ShowOptions& options) {
-    if (!options.page.empty()) return std::make_unique<HtmlPage>();
     if (!options.to->target) return std::make_unique<JsonArray>();
-    return std::make_unique<Lines>(options.to->target->make_generator());
+    const bool page = !options.path.empty() && std::string_view(options.to->name) == "html5";
+    if (page) return std::make_unique<HtmlPage>();
+    return std::make_unique<Lines>(*options.to->target);
 }
 
 /// Shows one file after the other.
@@ -138,8 +139,8 @@ public:
     explicit Show(const ShowOptions& options)
         : options_(options),
           form_(make_form(options)),
-          output_(options.page.empty() ? std::make_unique<TextOutput>()
-                                       : std::make_unique<TextOutput>(options.page)) {}
+          output_(options.path.empty() ? std::make_unique<TextOutput>()
+                                       : std::make_unique<TextOutput>(options.path)) {}
 
     bool run() {
         output_->write(form_->head());
@@ -193,12 +194,8 @@ private:
 }  // namespace
 
 std::span<const Output> show_outputs() {
-    static const std::vector<Output> outputs = [] {
-        std::vector<Output> all;
-        for (const Target& target : targets()) all.push_back({target.name, target.help, &target});
-        all.push_back({"json", "labels, groups, texts, mark-up and runs of each entry", nullptr});
-        return all;
-    }();
+    static const std::vector<Output> outputs =
+        outputs_with("json", "labels, groups, texts, mark-up and runs of each entry");
     return outputs;
 }
 

@@ -11,7 +11,7 @@ std::span<const Output> show_outputs();
 
 struct ShowOptions {
     const Output* to = nullptr;
-    std::string page;  // path of the HTML5 page to write; empty: prints to standard output
+    std::string path;  // of the file to write, in html5 a page; empty: standard output
     std::vector<LMRFieldNames::TextID> fields;
     std::string term;  // searched in every field in the field's own way; empty: no search
     std::vector<std::string> files;

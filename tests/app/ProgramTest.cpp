@@ -62,6 +62,9 @@ TEST_F(Program, ConvertsEachTextToEachTarget) {
     } cases[] = {
         {"cif", "\\a-D-gluco~2~-\\k^2^N\n"},
         {"html5", "α-D-gluco<sub>2</sub>-κ<sup>2</sup>N\n"},
+        {"latex", "$\\alpha$-D-gluco\\textsubscript{2}-$\\kappa$\\textsuperscript{2}N\n"},
+        {"markdown", "α-D-gluco<sub>2</sub>-κ<sup>2</sup>N\n"},
+        {"unicode", "α-D-gluco₂-κ²N\n"},
     };
     for (const auto& c : cases) {
         const Result done = run(std::string("convert --from tevo-name --to ") + c.target, text);
@@ -69,6 +72,49 @@ TEST_F(Program, ConvertsEachTextToEachTarget) {
         EXPECT_EQ(done.status, 0) << done.err;
     }
     EXPECT_EQ(run("convert --from plain --to html5", "<alpha>").out, "&lt;alpha&gt;\n");
+}
+
+TEST_F(Program, TheManualListsTheTargets) {
+    const std::string manual = contents(MANUAL);
+    std::istringstream rows(run("targets").out);
+    int targets = 0;
+    for (std::string name, ending, help;
+         std::getline(std::getline(std::getline(rows, name, '\t'), ending, '\t'), help);
+         ++targets) {
+        EXPECT_THAT(manual, HasSubstr("| `" + name + "` | `" + ending + "` | " + help + " |\n"));
+        EXPECT_EQ(run("convert --from plain --to " + name, "a").status, 0);
+    }
+    EXPECT_EQ(targets, 9);
+}
+
+TEST_F(Program, WritesForTheTerminalThatItHas) {
+    const auto shown = [&](const std::string& variables, const std::string& arguments) {
+        const std::string command = "env TERM=xterm NO_COLOR= " + variables + " script -qec \"" +
+                                    PROGRAM + " " + arguments + " '" + file("text", "a&b\n") +
+                                    "'\" /dev/null";
+        return run("--version >/dev/null; " + command).out;
+    };
+    const std::string search = "search --how exact --term 'a&b'";
+    EXPECT_EQ(shown("", search), "\x1b[1m\x1b[32ma&b\x1b[0m\r\n");
+    EXPECT_EQ(shown("NO_COLOR=1", search), "a&b\r\n");
+    EXPECT_EQ(shown("TERM=dumb", "convert --from plain"), "a&b\r\n");
+    EXPECT_EQ(shown("", "convert --from plain --to html5"), "a&amp;b\r\n");
+}
+
+TEST_F(Program, ShowWritesPartsOfDocuments) {
+    const std::string entry = " --fields 'Space Group,R-Factor (%)' " + data + "/2204347.cif";
+    EXPECT_EQ(run("show -o entry.md" + entry).err, "");
+    EXPECT_THAT(contents(folder_ / "entry.md"),
+                EndsWith("/2204347.cif: data\\_2204347\n\n"
+                         "- Space Group: R<span style=\"text-decoration:overline\">3</span>m\n"
+                         "- R-Factor (%): 1.74\n\n"));
+    EXPECT_EQ(run("show -o entry.tex" + entry).status, 0);
+    EXPECT_THAT(contents(folder_ / "entry.tex"),
+                EndsWith("data\\_2204347}\n\\begin{description}\n"
+                         "\\item[{Space Group}] R$\\overline{\\mbox{3}}$m\n"
+                         "\\item[{R-Factor (\\%)}] 1.74\n\\end{description}\n"));
+    const Result compared = run("compare --to markdown" + entry + " " + data + "/1008935.cif");
+    EXPECT_THAT(compared.out, HasSubstr("\n- \\< R-Factor (%): 1.74\n- \\> R-Factor (%): "));
 }
 
 TEST_F(Program, RealNamesComeBackUnchanged) {
@@ -155,12 +201,11 @@ TEST_F(Program, LongLinesPass) {
 
 TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
     for (const char* arguments :
-         {"", "convert", "convert --from x --to html",
+         {"", "convert", "convert --from plain", "convert --from x --to html",
           "convert --from plain --to qt --line-length -1",
-          "convert --from plain --to qt --line-length 4294967295", "show",
-          "show --to html -o p.html x", "show --fields Nope x", "compare a.cif",
-          "fields --view all", "nonsense", "search --how exact", "search --how x --term a",
-          "search --how exact --term a --to tevo", "search --how numeric --term 1 --tolerance x",
+          "convert --from plain --to qt --line-length 4294967295", "show", "show --fields Nope x",
+          "compare a.cif", "fields --view all", "nonsense", "search --how exact",
+          "search --how x --term a", "search --how numeric --term 1 --tolerance x",
           "search --how numeric --term 1 --tolerance -1",
           "search --how numeric --term 1 --tolerance 1e999",
           "search --how substring --term a --min-length -1"}) {
