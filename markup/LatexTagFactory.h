@@ -1,10 +1,10 @@
 #pragma once
 
-#include "markup/RichTextTagFactory.h"
+#include "markup/ScriptTagFactory.h"
 
 /// The commands of LaTeX. Colours need the package color or xcolor; all else is LaTeX's own. A bar
 /// is drawn by mathematics around a box of text, so that text may hold it anywhere.
-class LatexTagFactory : public RichTextTagFactory {
+class LatexTagFactory : public ScriptTagFactory {
 public:
     ~LatexTagFactory() override;
 
@@ -18,13 +18,7 @@ public:
     std::string end_superscript() const override { return "}"; }
     std::string start_subscript() const override { return "\\textsubscript{"; }
     std::string end_subscript() const override { return "}"; }
-    std::string start_greek() const override { return {}; }
-    std::string end_greek() const override { return {}; }
     std::string start_overstrike() const override { return "$\\overline{\\mbox{"; }
     std::string end_overstrike() const override { return "}}$"; }
-    std::string start_invisible() const override { return {}; }
-    std::string end_invisible() const override { return {}; }
-    std::string start_replacement_text() const override { return {}; }
-    std::string end_replacement_text() const override { return {}; }
     std::string line_break() const override { return "\\newline{}"; }
 };

@@ -1,0 +1,3 @@
+#include "markup/ScriptTagFactory.h"
+
+ScriptTagFactory::~ScriptTagFactory() = default;
