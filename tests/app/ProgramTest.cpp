@@ -81,7 +81,9 @@ TEST_F(Program, TheManualListsTheTargets) {
     for (std::string name, ending, help;
          std::getline(std::getline(std::getline(rows, name, '\t'), ending, '\t'), help);
          ++targets) {
-        EXPECT_THAT(manual, HasSubstr("| `" + name + "` | `" + ending + "` | " + help + " |\n"));
+        std::string row = "| `";
+        row.append(name).append("` | `").append(ending).append("` | ").append(help).append(" |\n");
+        EXPECT_THAT(manual, HasSubstr(row));
         EXPECT_EQ(run("convert --from plain --to " + name, "a").status, 0);
     }
     EXPECT_EQ(targets, 9);

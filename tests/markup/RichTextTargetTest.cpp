@@ -18,7 +18,7 @@ THandle<RichTextGenerator> generator_named(std::string_view name) {
 
 std::string replaced(std::string_view text, std::string_view from, std::string_view to) {
     std::string result;
-    for (std::size_t at; (at = text.find(from)) != std::string_view::npos;) {
+    for (std::size_t at = text.find(from); at != std::string_view::npos; at = text.find(from)) {
         result += text.substr(0, at);
         result += to;
         text.remove_prefix(at + from.size());
