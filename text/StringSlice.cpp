@@ -1,10 +1,7 @@
 #include "text/StringSlice.h"
 
-#include <algorithm>
 #include <ostream>
 #include <stdexcept>
-
-#include "text/Position.h"
 
 namespace {
 
@@ -14,13 +11,9 @@ constexpr char bad_position[] = "position of StringSlice error";
 
 }  // namespace
 
-StringSlice::StringSlice(unsigned int from, unsigned int to) : from_(from), to_(to) {
-    if (to < from) throw std::range_error(bad_length);
-    if (to == no_position) throw std::range_error(bad_position);  // from is not above it
-}
-
-bool StringSlice::has_subset(const StringSlice& other) const {
-    return !empty() && !other.empty() && from_ <= other.from_ && other.to_ <= to_;
+void StringSlice::refuse() const {
+    if (to_ < from_) throw std::range_error(bad_length);
+    throw std::range_error(bad_position);
 }
 
 bool StringSlice::has_proper_subset(const StringSlice& other) const {
@@ -37,12 +30,6 @@ bool StringSlice::are_subsets(const StringSlice& other) const {
 
 bool StringSlice::partial_intersection(const StringSlice& other) const {
     return overlaps(other) && !are_subsets(other);
-}
-
-StringSlice StringSlice::combine(const StringSlice& other) const {
-    if (other.empty()) return *this;
-    if (empty()) return other;
-    return {std::min(from_, other.from_), std::max(to_, other.to_)};
 }
 
 void StringSlice::print(std::ostream& os) const { os << from_ << ' ' << to_; }

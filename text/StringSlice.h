@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <iosfwd>
+
+#include "text/Position.h"
 
 /// A half-open range [from, to) of character positions of one string. An empty slice (from equal
 /// to to) is legal, but neither overlaps nor contains anything and is contained in nothing.
@@ -8,7 +11,9 @@ class StringSlice {
 public:
     /// Throws std::range_error: "length of StringSlice error" when to < from, else "position of
     /// StringSlice error" when either is 4294967295, the value for no position.
-    StringSlice(unsigned int from, unsigned int to);
+    StringSlice(unsigned int from, unsigned int to) : from_(from), to_(to) {
+        if (to < from || to == no_position) refuse();
+    }
 
     unsigned int from() const { return from_; }
     /// One past the last position.
@@ -17,7 +22,9 @@ public:
     unsigned int length() const { return to_ - from_; }
 
     /// Whether every position of `other` is one of this slice; false when either is empty.
-    bool has_subset(const StringSlice& other) const;
+    bool has_subset(const StringSlice& other) const {
+        return !empty() && !other.empty() && from_ <= other.from_ && other.to_ <= to_;
+    }
     /// has_subset() without equality.
     bool has_proper_subset(const StringSlice& other) const;
     bool contains(unsigned int pos) const { return from_ <= pos && pos < to_; }
@@ -29,7 +36,11 @@ public:
     bool partial_intersection(const StringSlice& other) const;
 
     /// The smallest slice over both, with the gap between them; an empty one adds nothing.
-    StringSlice combine(const StringSlice& other) const;
+    StringSlice combine(const StringSlice& other) const {
+        if (other.empty()) return *this;
+        if (empty()) return other;
+        return {std::min(from_, other.from_), std::max(to_, other.to_)};
+    }
 
     /// Writes from, a blank and to: "3 7".
     void print(std::ostream& os) const;
@@ -37,6 +48,9 @@ public:
     friend bool operator==(const StringSlice&, const StringSlice&) = default;
 
 private:
+    /// Throws what the constructor throws.
+    [[noreturn]] void refuse() const;
+
     unsigned int from_;
     unsigned int to_;
 };

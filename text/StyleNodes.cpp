@@ -4,11 +4,24 @@
 
 namespace {
 
-constexpr unsigned int block_size = 128;  // positions; searched node by node
+constexpr unsigned int block_size = 128;  // positions
 
 const StringSlice nothing(0, 0);
 
 }  // namespace
+
+void StyleNodes::reset(unsigned int text_length) {
+    text_length_ = text_length;
+    empty_ = true;
+    single_characters_.clear();
+}
+
+bool StyleNodes::any_inside(const StringSlice& slice) {
+    for (; !single_characters_.empty(); single_characters_.pop_back()) {
+        insert(single_characters_.back());
+    }
+    return !hull_inside(slice).empty();
+}
 
 bool StyleNodes::crosses(const StringSlice& slice) const {
     const StringSlice hull = hull_inside(slice);
@@ -16,11 +29,20 @@ bool StyleNodes::crosses(const StringSlice& slice) const {
 }
 
 void StyleNodes::add(const StringSlice& style) {
-    if (style.empty()) return;
-    if (blocks_.empty()) {
+    if (style.length() == 1) {
+        single_characters_.push_back(style);
+    } else if (!style.empty()) {
+        insert(style);
+    }
+}
+
+void StyleNodes::insert(const StringSlice& style) {
+    if (empty_) {
         const std::size_t blocks = text_length_ / block_size + 1;
         block_hulls_.assign(2 * blocks, nothing);
         blocks_.resize(blocks);
+        for (Block& block : blocks_) block.clear();
+        empty_ = false;
     }
     make_room(style.from());
     make_room(style.to());
@@ -29,15 +51,16 @@ void StyleNodes::add(const StringSlice& style) {
 }
 
 StringSlice StyleNodes::hull_inside(const StringSlice& slice) const {
-    if (blocks_.empty() || slice.length() < 2) return nothing;
+    if (empty_ || slice.length() < 2) return nothing;
     const unsigned int first = (slice.from() + 1) / block_size;
     const unsigned int last = (slice.to() - 1) / block_size;
     StringSlice hull = first == last ? nothing : hull_of_blocks(first + 1, last);
     const auto combine_nodes = [&](const Block& block) {
-        for (const Node& node : block) {
-            if (slice.from() < node.position && node.position < slice.to()) {
-                hull = hull.combine(node.hull);
-            }
+        auto node = std::upper_bound(
+            block.begin(), block.end(), slice.from(),
+            [](unsigned int wanted, const Node& a) { return wanted < a.position; });
+        for (; node != block.end() && node->position < slice.to(); ++node) {
+            hull = hull.combine(node->hull);
         }
     };
     combine_nodes(blocks_[first]);
@@ -64,10 +87,11 @@ void StyleNodes::make_room(unsigned int position) {
 
 void StyleNodes::include(unsigned int position, const StringSlice& style) {
     Block& block = blocks_[position / block_size];
-    const auto node = std::find_if(block.begin(), block.end(),
-                                   [&](const Node& n) { return n.position == position; });
-    if (node == block.end()) {
-        block.push_back({position, style});
+    const auto node =
+        std::lower_bound(block.begin(), block.end(), position,
+                         [](const Node& a, unsigned int wanted) { return a.position < wanted; });
+    if (node == block.end() || node->position != position) {
+        block.insert(node, {position, style});
     } else {
         node->hull = node->hull.combine(style);
     }

@@ -12,11 +12,11 @@
 /// one block costs one plain list.
 class StyleNodes {
 public:
-    /// For styles within [0, text_length).
-    explicit StyleNodes(unsigned int text_length) : text_length_(text_length) {}
+    /// Forgets all styles, for a text of that length. Keeps the memory for the next ones.
+    void reset(unsigned int text_length);
 
     /// Whether some style has a node between the ends of `slice`, the ends themselves left out.
-    bool any_inside(const StringSlice& slice) const { return !hull_inside(slice).empty(); }
+    bool any_inside(const StringSlice& slice);
     /// Whether `slice` and some style have a partial intersection.
     bool crosses(const StringSlice& slice) const;
 
@@ -28,14 +28,18 @@ private:
         unsigned int position;
         StringSlice hull;  // of all styles that begin or end here
     };
-    using Block = std::vector<Node>;  // one node a position, in no order
+    using Block = std::vector<Node>;  // one node a position, ascending
 
+    void insert(const StringSlice& style);
     StringSlice hull_inside(const StringSlice& slice) const;
     StringSlice hull_of_blocks(unsigned int first, unsigned int last) const;
     void make_room(unsigned int position);
     void include(unsigned int position, const StringSlice& style);
 
-    unsigned int text_length_;
-    std::vector<Block> blocks_;             // none until the first style comes
+    unsigned int text_length_ = 0;
+    bool empty_ = true;  // no style has come yet, and what stands below counts for nothing
+    // Styles of one character cross nothing: they wait here until it is asked what lies inside.
+    std::vector<StringSlice> single_characters_;
+    std::vector<Block> blocks_;
     std::vector<StringSlice> block_hulls_;  // of block b at blocks + b, of nodes 2i and 2i + 1 at i
 };

@@ -100,7 +100,7 @@ void TextItem::set_text(const std::string& text) {
     color_styles_.clear();
     greek_styles_.clear();
     replacement_text_styles_.clear();
-    nodes_ = StyleNodes(length_of(text_));
+    nodes_.reset(length_of(text_));
     replacement_texts_.clear();
     colors_begin_.clear();
     create_input_text_styles();
@@ -111,6 +111,7 @@ void TextItem::create_input_text_styles() {
     finder_->set_text(text_);
 
     std::vector<StringSlice> slices;
+    slices.reserve(16);  // for one usual text
     const auto create_plain = [&](void (Finder::*query)(std::vector<StringSlice>&) const,
                                   void (TextItem::*create)(unsigned int, unsigned int)) {
         slices.clear();
@@ -267,8 +268,7 @@ void TextItem::check_no_replacement_text_style_nesting(unsigned int from, unsign
     }
 }
 
-void TextItem::check_no_style_enclosed_by_replacement_text(unsigned int from,
-                                                           unsigned int to) const {
+void TextItem::check_no_style_enclosed_by_replacement_text(unsigned int from, unsigned int to) {
     // Nothing crosses the slice, so a style with an end inside lies inside as a whole.
     if (nodes_.any_inside(StringSlice(from, to))) throw std::range_error(enclosing_replacement);
 }

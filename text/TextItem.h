@@ -136,7 +136,7 @@ private:
     void check_not_within_replacement_text_style(unsigned int from, unsigned int to) const;
     void check_no_replacement_text_style_nesting(unsigned int from, unsigned int to) const;
     /// Only for a slice that crosses no style.
-    void check_no_style_enclosed_by_replacement_text(unsigned int from, unsigned int to) const;
+    void check_no_style_enclosed_by_replacement_text(unsigned int from, unsigned int to);
     void color_at_same_from(unsigned int from) const;
     /// The checks that all styles but replacement texts share.
     void check_overlay(unsigned int from, unsigned int to) const;
@@ -156,7 +156,7 @@ private:
     THandle<InputTextStyleFinder> finder_;
 
     // What the checks look up, so that none of them walks the styles.
-    StyleNodes nodes_{0};
+    StyleNodes nodes_;
     std::map<unsigned int, StringSlice> replacement_texts_;  // not empty, by their from
     std::vector<bool> colors_begin_;                         // by position; empty without colours
 };
