@@ -48,12 +48,16 @@ void TevoChemicalNameStyleFinder::superscripts(std::vector<StringSlice>& out) co
 }
 
 void TevoChemicalNameStyleFinder::invisible(std::vector<StringSlice>& out) const {
-    std::vector<StringSlice> scripts;
-    subscripts(scripts);
-    superscripts(scripts);
-    for (const StringSlice& script : scripts) {
-        out.emplace_back(script.from() - 1, script.from());
-        out.emplace_back(script.to(), script.to() + 1);
+    const std::size_t first = out.size();
+    subscripts(out);
+    superscripts(out);
+    // Each script makes room for its two markers, from the last to the first.
+    std::size_t script = out.size();
+    out.resize(2 * script - first, StringSlice(0, 0));
+    for (std::size_t marker = out.size(); script > first; marker -= 2) {
+        const StringSlice slice = out[--script];
+        out[marker - 1] = StringSlice(slice.to(), slice.to() + 1);
+        out[marker - 2] = StringSlice(slice.from() - 1, slice.from());
     }
 }
 
@@ -62,17 +66,17 @@ void TevoChemicalNameStyleFinder::greek(std::vector<GreekSlice>& out) const {
         unsigned int name, from, to;
     };
     const std::string_view name_text = text();
-    const unsigned int n = length_of(name_text);
     const std::vector<std::string>& names = names_.tevo_chemical_name_greek();
     std::vector<Hit> hits;
     // A name is not looked for inside its own last occurrence, whether that was a letter or not.
     std::array<unsigned int, TextItem::clambda> next_allowed{};
-    for (unsigned int pos = 0; pos + 1 < n; ++pos) {
+    for (std::size_t at = names_.next_candidate(name_text, 0); at < name_text.size();
+         at = names_.next_candidate(name_text, at + 1)) {
+        const unsigned int pos = to_position(at);
         const auto [first, last] = names_.names_beginning_with(name_text[pos]);
         for (unsigned int i = first; i < last; ++i) {
             const std::string& name = names[i];
-            if (name[1] != name_text[pos + 1] || pos < next_allowed[i]) continue;
-            if (!name_text.substr(pos).starts_with(name)) continue;
+            if (pos < next_allowed[i] || !name_text.substr(pos).starts_with(name)) continue;
             const unsigned int end = pos + length_of(name);
             next_allowed[i] = end;
             const std::string prior_char(name_text.substr(pos > 0 ? pos - 1 : 0, pos > 0 ? 1 : 0));
@@ -82,11 +86,11 @@ void TevoChemicalNameStyleFinder::greek(std::vector<GreekSlice>& out) const {
             hits.push_back({i, pos, end});
         }
     }
-    std::stable_sort(hits.begin(), hits.end(),
-                     [](const Hit& a, const Hit& b) { return a.name < b.name; });
-    for (const Hit& hit : hits) {
-        out.emplace_back(hit.from, hit.to, names_.greek_symbol(names[hit.name]));
-    }
+    std::sort(hits.begin(), hits.end(), [](const Hit& a, const Hit& b) {
+        return a.name != b.name ? a.name < b.name : a.from < b.from;
+    });
+    out.reserve(out.size() + hits.size());
+    for (const Hit& hit : hits) out.emplace_back(hit.from, hit.to, names_.symbol_of(hit.name));
 }
 
 bool TevoChemicalNameStyleFinder::greek_fragment(const std::string& name,

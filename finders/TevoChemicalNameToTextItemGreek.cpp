@@ -75,9 +75,22 @@ TevoChemicalNameToTextItemGreek::TevoChemicalNameToTextItemGreek() {
     names_.reserve(std::size(name_rows));
     for (const NameRow& row : name_rows) names_.push_back(*row.name);
     std::sort(names_.begin(), names_.end());
-    for (const std::string& name : names_)
+    for (std::size_t i = 0; i < names_.size(); ++i) {
+        const std::string& name = names_[i];
+        symbols_[i] = greek_symbol(name);
         ++first_name_[static_cast<unsigned int>(name[0] - 'a') + 1];
+        second_letters_[static_cast<unsigned char>(name[0])] |= 1U << (name[1] & 31);
+    }
     std::partial_sum(first_name_.begin(), first_name_.end(), first_name_.begin());
+}
+
+std::size_t TevoChemicalNameToTextItemGreek::next_candidate(std::string_view text,
+                                                            std::size_t position) const {
+    for (; position + 1 < text.size(); ++position) {
+        const auto first = static_cast<unsigned char>(text[position]);
+        if ((second_letters_[first] >> (text[position + 1] & 31) & 1) != 0) return position;
+    }
+    return text.size();
 }
 
 TextItem::GreekSymbol TevoChemicalNameToTextItemGreek::greek_symbol(const std::string& name) const {

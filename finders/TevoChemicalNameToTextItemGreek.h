@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -47,10 +49,17 @@ public:
         const auto index = static_cast<unsigned int>(letter - 'a');
         return {first_name_[index], first_name_[index + 1]};
     }
+    /// The first position from `position` on where the first two characters of some name may stand,
+    /// or the end of the text; passes over none where a name stands.
+    std::size_t next_candidate(std::string_view text, std::size_t position) const;
+    /// The symbol of the name of that index.
+    TextItem::GreekSymbol symbol_of(unsigned int index) const { return symbols_[index]; }
     /// The symbol of exactly that name, or no_symbol.
     TextItem::GreekSymbol greek_symbol(const std::string& name) const;
 
 private:
     std::vector<std::string> names_;
-    std::array<unsigned char, 27> first_name_{};  // of each letter from a to z, and the end
+    std::array<TextItem::GreekSymbol, TextItem::clambda> symbols_{};
+    std::array<unsigned char, 27> first_name_{};       // of each letter from a to z, and the end
+    std::array<std::uint32_t, 256> second_letters_{};  // by the first, each a bit of its low bits
 };
