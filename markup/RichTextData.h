@@ -24,6 +24,8 @@ public:
                  const ReplacementTextStyles& replacement_text);
 
     std::string text() const { return text_; }
+    /// The text itself, for those who do not outlive this.
+    const std::string& characters() const { return text_; }
     /// In characters of the output, tags not counted.
     unsigned int line_length() const { return line_length_; }
     const Styles& styles() const { return styles_; }

@@ -1,6 +1,8 @@
 #include "markup/RichTextGenerator.h"
 
 #include <algorithm>
+#include <functional>
+#include <stdexcept>
 #include <utility>
 
 #include "host/KOVRLog.h"
@@ -10,48 +12,36 @@
 #include "text/GreekStyle.h"
 #include "text/Position.h"
 #include "text/ReplacementTextStyle.h"
+#include "text/sort_runs.h"
 
 namespace {
 
 constexpr int debug_level = 3;
 
-/// The styles of a list in groups that begin at one position, to be asked for in ascending order.
-template <class Style>
-class StylesByStart {
-public:
-    /// `styles` must live as long as this: only a list that is not in order yet is copied.
-    explicit StylesByStart(const std::vector<THandle<Style>>& styles) : sorted_(styles) {
-        // Dereferences every handle, so that a null one raises its error whatever the text.
-        if (styles.size() == 1) static_cast<void>(*styles.front());
-        if (std::is_sorted(styles.begin(), styles.end(), begins_before)) return;
-        copy_ = styles;
-        std::stable_sort(copy_.begin(), copy_.end(), begins_before);
-        sorted_ = copy_;
-    }
-    StylesByStart(const StylesByStart&) = delete;
-    StylesByStart& operator=(const StylesByStart&) = delete;
+// The lists of a text's styles, in the order in which they are asked at one position.
+enum List : unsigned int { tag_list, invisible_list, replacement_list, greek_list, lists };
 
-    /// Where the next group after those taken begins.
-    unsigned int next_start() const {
-        return taken_ < sorted_.size() ? sorted_[taken_]->from() : no_position;
-    }
+constexpr unsigned int index_bits = 30;
+constexpr std::size_t most_styles = std::size_t{1} << index_bits;  // in a list
 
-    /// The styles that begin at `position`, in list order.
-    std::span<const THandle<Style>> take(unsigned int position) {
-        const std::size_t first = taken_;
-        while (next_start() == position) ++taken_;
-        return sorted_.subspan(first, taken_ - first);
-    }
+/// Orders the begins of styles by position, list and index in the list.
+std::uint64_t start_key(unsigned int position, unsigned int list, unsigned int index) {
+    return (std::uint64_t{position} * lists + list) << index_bits | index;
+}
 
-private:
-    static bool begins_before(const THandle<Style>& a, const THandle<Style>& b) {
-        return a->from() < b->from();
-    }
+unsigned int position_of(std::uint64_t start_key) {
+    return static_cast<unsigned int>((start_key >> index_bits) / lists);
+}
 
-    std::span<const THandle<Style>> sorted_;
-    std::vector<THandle<Style>> copy_;
-    std::size_t taken_ = 0;
-};
+unsigned int list_of(std::uint64_t start_key) {
+    return static_cast<unsigned int>(start_key >> index_bits) % lists;
+}
+
+unsigned int index_of(std::uint64_t start_key) {
+    return static_cast<unsigned int>(start_key & (most_styles - 1));
+}
+
+unsigned int due_at(std::uint64_t pending) { return static_cast<unsigned int>(pending >> 32); }
 
 template <class Style>
 bool find_start(unsigned int position, std::span<const THandle<Style>> styles,
@@ -78,53 +68,78 @@ std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
             << "RichTextGenerator::mark_up_text all styles" << data.styles();
         KOVRLog::end_debug_line();
     }
+    end_tags_.clear();
     pending_.clear();
     current_invisible_ = {};
     current_greek_ = {};
     current_replacement_text_ = {};
+    starts_.clear();
+    note_starts(data.styles(), tag_list);
+    note_starts(data.invisible(), invisible_list);
+    note_starts(data.replacement_text(), replacement_list);
+    note_starts(data.greek(), greek_list);
+    sort_runs(starts_);
+    starts_.push_back(start_key(no_position, tag_list, 0));  // behind every position
 
-    const std::string text = data.text();
+    const std::string_view text = data.characters();
     const unsigned int n = length_of(text);
-    StylesByStart styles(data.styles());
-    StylesByStart invisible(data.invisible());
-    StylesByStart replacement_text(data.replacement_text());
-    StylesByStart greek(data.greek());
-
     std::string result;
     result.reserve(n + 16 * data.styles().size());
     unsigned int column = 0;
     unsigned int covered_until = 0;
+    auto start = starts_.cbegin();
     // Each turn stands where something begins or ends and goes on to the next such position.
-    for (unsigned int i = 0; i < n;) {
-        append_slice_tags(result, i, styles.take(i));
-        const Styles invisible_here = invisible.take(i);
-        const ReplacementTextStyles replacement_here = replacement_text.take(i);
-        const GreekStyles greek_here = greek.take(i);
-        unsigned int plain_from = i + 1;  // a covering style swallows at least one character
-        if (has_invisible_style(i, invisible_here)) {
-            covered_until = current_invisible_->to();
-        } else if (has_replacement_text_style(i, replacement_here)) {
-            covered_until = current_replacement_text_->to();
-            add_text_block(result, current_replacement_text_->replacement_text(), column,
-                           data.line_length());
-        } else if (has_greek_style(i, greek_here)) {
-            covered_until = current_greek_->to();
-            add_letter(result, greek_converter_->convert(current_greek_->symbol()), column,
-                       data.line_length());
-        } else {
-            plain_from = i;
+    for (unsigned int i = 0;;) {
+        append_closing_tags(result, i);
+        if (*start < start_key(i, tag_list + 1, 0)) {
+            beginning_.clear();
+            for (; *start < start_key(i, tag_list + 1, 0); ++start) {
+                const TextItemStyle& style = *data.styles()[index_of(*start)];
+                if (!style.slice().empty()) beginning_.push_back(&style);
+            }
+            open(result);
         }
-        const unsigned int next_end = pending_.empty() ? n : pending_.begin()->first;
-        i = std::min({n, next_end, styles.next_start(), invisible.next_start(),
-                      replacement_text.next_start(), greek.next_start()});
+        if (i == n) return result;
+        unsigned int plain_from = i;
+        if (*start < start_key(i, lists, 0)) {
+            plain_from = i + 1;  // what covers swallows at least one character
+            const unsigned int index = index_of(*start);
+            switch (list_of(*start)) {
+                case invisible_list:
+                    covered_until = data.invisible()[index]->to();
+                    break;
+                case replacement_list: {
+                    const ReplacementTextStyle& style = *data.replacement_text()[index];
+                    covered_until = style.to();
+                    add_text_block(result, style.replacement_text(), column, data.line_length());
+                    break;
+                }
+                default: {
+                    const GreekStyle& style = *data.greek()[index];
+                    covered_until = style.to();
+                    add_letter(result, greek_converter_->convert(style.symbol()), column,
+                               data.line_length());
+                }
+            }
+            while (*start < start_key(i, lists, 0)) ++start;
+        }
+        i = std::min({n, position_of(*start), pending_.empty() ? n : due_at(pending_.front())});
         plain_from = std::max(plain_from, covered_until);
         if (plain_from < i) {
-            add_text_block(result, std::string_view(text).substr(plain_from, i - plain_from),
-                           column, data.line_length());
+            add_text_block(result, text.substr(plain_from, i - plain_from), column,
+                           data.line_length());
         }
     }
-    append_slice_tags(result, n, styles.take(n));
-    return result;
+}
+
+template <class Style>
+void RichTextGenerator::note_starts(const std::vector<THandle<Style>>& styles,
+                                    unsigned int list) const {
+    if (styles.size() > most_styles) throw std::length_error("too many styles error");
+    unsigned int index = 0;
+    for (const THandle<Style>& style : styles) {
+        starts_.push_back(start_key(style->from(), list, index++));
+    }
 }
 
 unsigned int RichTextGenerator::write_characters(std::string& result, std::string_view& text,
@@ -146,9 +161,7 @@ void RichTextGenerator::write_tag(std::string& result, const std::string& tag,
 }
 
 std::string RichTextGenerator::get_slice_tags(unsigned int position, Styles styles) const {
-    std::string tags;
-    append_slice_tags(tags, position, styles);
-    return tags;
+    return closing_tags(position) + opening_tags(position, styles);
 }
 
 std::string RichTextGenerator::closing_tags(unsigned int position) const {
@@ -158,32 +171,37 @@ std::string RichTextGenerator::closing_tags(unsigned int position) const {
 }
 
 std::string RichTextGenerator::opening_tags(unsigned int position, Styles styles) const {
-    std::string tags;
-    append_opening_tags(tags, position, styles);
-    return tags;
-}
-
-void RichTextGenerator::append_slice_tags(std::string& result, unsigned int position,
-                                          Styles styles) const {
-    append_closing_tags(result, position);
-    append_opening_tags(result, position, styles);
-}
-
-void RichTextGenerator::append_closing_tags(std::string& result, unsigned int position) const {
-    const auto [first, last] = pending_.equal_range(position);
-    for (auto tag = last; tag != first;) {
-        --tag;
-        write_tag(result, tag->second, false);
-    }
-    pending_.erase(first, last);
-}
-
-void RichTextGenerator::append_opening_tags(std::string& result, unsigned int position,
-                                            Styles styles) const {
     beginning_.clear();
     for (const auto& style : styles) {
         if (style->from() == position && !style->slice().empty()) beginning_.push_back(style.get());
     }
+    std::string tags;
+    open(tags);
+    return tags;
+}
+
+void RichTextGenerator::append_closing_tags(std::string& result, unsigned int position) const {
+    const auto write = [&](std::uint64_t pending) {
+        write_tag(result, end_tags_[no_position - static_cast<unsigned int>(pending)], false);
+    };
+    if (!pending_.empty() && due_at(pending_.front()) < position) {
+        // Tags that a caller has passed over stay pending, but not in the way of those due here.
+        const auto due =
+            std::partition(pending_.begin(), pending_.end(),
+                           [&](std::uint64_t pending) { return due_at(pending) != position; });
+        std::sort(due, pending_.end());
+        std::for_each(due, pending_.end(), write);
+        pending_.erase(due, pending_.end());
+        std::make_heap(pending_.begin(), pending_.end(), std::greater());
+    }
+    while (!pending_.empty() && due_at(pending_.front()) == position) {
+        write(pending_.front());
+        std::pop_heap(pending_.begin(), pending_.end(), std::greater());
+        pending_.pop_back();
+    }
+}
+
+void RichTextGenerator::open(std::string& result) const {
     if (beginning_.size() > 1) {
         std::stable_sort(
             beginning_.begin(), beginning_.end(),
@@ -194,7 +212,10 @@ void RichTextGenerator::append_opening_tags(std::string& result, unsigned int po
         std::string end_tag = style->end_tag(*tag_factory_);
         if (start_tag.empty() && end_tag.empty()) continue;
         write_tag(result, start_tag, true);
-        pending_.emplace(style->to(), std::move(end_tag));
+        pending_.push_back(std::uint64_t{style->to()} << 32 |
+                           (no_position - to_position(end_tags_.size())));
+        end_tags_.push_back(std::move(end_tag));
+        std::push_heap(pending_.begin(), pending_.end(), std::greater());
     }
 }
 

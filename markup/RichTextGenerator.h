@@ -1,6 +1,6 @@
 #pragma once
 
-#include <map>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -75,19 +75,27 @@ protected:
                         unsigned int line_length) const;
 
 private:
-    /// What get_slice_tags(), closing_tags() and opening_tags() return, at the end of `result`.
-    void append_slice_tags(std::string& result, unsigned int position, Styles styles) const;
+    template <class Style>
+    void note_starts(const std::vector<THandle<Style>>& styles, unsigned int list) const;
+    /// What closing_tags() returns, at the end of `result`.
     void append_closing_tags(std::string& result, unsigned int position) const;
-    void append_opening_tags(std::string& result, unsigned int position, Styles styles) const;
+    /// Writes the opening tags of beginning_, which begin at one position and are not empty, and
+    /// remembers the closing ones.
+    void open(std::string& result) const;
 
     THandle<RichTextTagFactory> tag_factory_;
     THandle<TextItemToOtherGreek> greek_converter_;
 
-    // Closing tags by the position where they are due; of equal positions the last is written
-    // first.
-    mutable std::multimap<unsigned int, std::string> pending_;
+    // The closing tags in the order of opening, and a heap of those that are pending: the position
+    // where each is due before the complement of its index, so that of those due at one position
+    // the last opened comes first.
+    mutable std::vector<std::string> end_tags_;
+    mutable std::vector<std::uint64_t> pending_;
     mutable THandle<TextItemStyle> current_invisible_;
     mutable THandle<GreekStyle> current_greek_;
     mutable THandle<ReplacementTextStyle> current_replacement_text_;
-    mutable std::vector<const TextItemStyle*> beginning_;  // scratch of opening_tags()
+    // Scratch of mark_up_text(): where each style begins, before its list and its index there; and
+    // the styles that begin at one position.
+    mutable std::vector<std::uint64_t> starts_;
+    mutable std::vector<const TextItemStyle*> beginning_;
 };
