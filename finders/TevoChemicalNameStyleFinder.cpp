@@ -76,7 +76,8 @@ void TevoChemicalNameStyleFinder::greek(std::vector<GreekSlice>& out) const {
         const auto [first, last] = names_.names_beginning_with(name_text[pos]);
         for (unsigned int i = first; i < last; ++i) {
             const std::string& name = names[i];
-            if (pos < next_allowed[i] || !name_text.substr(pos).starts_with(name)) continue;
+            if (name[1] != name_text[pos + 1] || pos < next_allowed[i]) continue;
+            if (!name_text.substr(pos).starts_with(name)) continue;
             const unsigned int end = pos + length_of(name);
             next_allowed[i] = end;
             const std::string prior_char(name_text.substr(pos > 0 ? pos - 1 : 0, pos > 0 ? 1 : 0));

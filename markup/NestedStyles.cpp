@@ -1,11 +1,13 @@
 #include "markup/NestedStyles.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "markup/Utf8.h"
 #include "text/Position.h"
 #include "text/TextItemStyle.h"
+#include "text/sort_runs.h"
 
 namespace {
 
@@ -121,4 +123,28 @@ NestedStyles::NestedStyles(const RichTextData::Styles& styles, std::string_view 
         open.close(end->to, end, last);
         end = last;
     }
+}
+
+bool NestedStyles::are_nested(const RichTextData::Styles& styles, std::string_view text) {
+    std::vector<std::uint64_t> begins;  // of two at one position the one that ends last comes first
+    begins.reserve(styles.size());
+    for (const auto& style : styles) {
+        const unsigned int from = style->from();
+        const unsigned int to = style->to();
+        if (to > length_of(text) || start_of_character(text, from) != from ||
+            start_of_character(text, to) != to) {
+            return false;
+        }
+        if (from < to) begins.push_back(std::uint64_t{from} << 32 | (no_position - to));
+    }
+    sort_runs(begins);
+    std::vector<unsigned int> open_ends;
+    for (const std::uint64_t begin : begins) {
+        const auto from = static_cast<unsigned int>(begin >> 32);
+        const unsigned int to = no_position - static_cast<unsigned int>(begin);
+        while (!open_ends.empty() && open_ends.back() <= from) open_ends.pop_back();
+        if (!open_ends.empty() && open_ends.back() < to) return false;
+        open_ends.push_back(to);
+    }
+    return true;
 }

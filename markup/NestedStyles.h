@@ -12,6 +12,10 @@ public:
     /// O((m + p) log (m + p)) for m styles cut into p pieces.
     NestedStyles(const RichTextData::Styles& styles, std::string_view text);
 
+    /// Whether the styles need not be cut: none crosses another, ends beyond the text or has an end
+    /// inside a character. O(m log m).
+    static bool are_nested(const RichTextData::Styles& styles, std::string_view text);
+
     /// The pieces, each with the tags of its whole style. None is empty.
     const RichTextData::Styles& styles() const { return pieces_; }
 

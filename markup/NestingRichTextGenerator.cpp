@@ -11,13 +11,20 @@
 NestingRichTextGenerator::~NestingRichTextGenerator() = default;
 
 std::string NestingRichTextGenerator::mark_up_text(const RichTextData& data) const {
-    const std::string text = data.text();
-    const NestedStyles nested(data.styles(), text);
+    const auto has_no_letter = [](const auto& style) {
+        return style->symbol() == TextItem::no_symbol;
+    };
+    const bool all_letters = std::none_of(data.greek().begin(), data.greek().end(), has_no_letter);
+    // So are all styles of a text item.
+    if (all_letters && NestedStyles::are_nested(data.styles(), data.characters())) {
+        return RichTextGenerator::mark_up_text(data);
+    }
+    const NestedStyles nested(data.styles(), data.characters());
     RichTextData::GreekStyles letters;
-    std::copy_if(data.greek().begin(), data.greek().end(), std::back_inserter(letters),
-                 [](const auto& style) { return style->symbol() != TextItem::no_symbol; });
-    return RichTextGenerator::mark_up_text(RichTextData(text, data.line_length(), nested.styles(),
-                                                        data.invisible(), letters,
+    std::remove_copy_if(data.greek().begin(), data.greek().end(), std::back_inserter(letters),
+                        has_no_letter);
+    return RichTextGenerator::mark_up_text(RichTextData(data.characters(), data.line_length(),
+                                                        nested.styles(), data.invisible(), letters,
                                                         data.replacement_text()));
 }
 

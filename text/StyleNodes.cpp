@@ -13,12 +13,18 @@ const StringSlice nothing(0, 0);
 void StyleNodes::reset(unsigned int text_length) {
     text_length_ = text_length;
     empty_ = true;
-    single_characters_.clear();
+    waiting_.clear();
 }
 
 bool StyleNodes::any_inside(const StringSlice& slice) {
-    for (; !single_characters_.empty(); single_characters_.pop_back()) {
-        insert(single_characters_.back());
+    for (; !waiting_.empty(); waiting_.pop_back()) {
+        const StringSlice style = waiting_.back();
+        prepare();
+        for (const unsigned int position : {style.from(), style.to()}) {
+            make_room(position);
+            include_node(position, style);
+            include_in_hulls(position, style);
+        }
     }
     return !hull_inside(slice).empty();
 }
@@ -29,25 +35,28 @@ bool StyleNodes::crosses(const StringSlice& slice) const {
 }
 
 void StyleNodes::add(const StringSlice& style) {
-    if (style.length() == 1) {
-        single_characters_.push_back(style);
-    } else if (!style.empty()) {
-        insert(style);
+    if (style.length() < 2) {
+        if (!style.empty()) waiting_.push_back(style);
+        return;
+    }
+    prepare();
+    make_room(style.from());
+    make_room(style.to());
+    const bool spans_blocks = style.from() / block_size != style.to() / block_size;
+    if (!spans_blocks) waiting_.push_back(style);
+    for (const unsigned int position : {style.from(), style.to()}) {
+        include_node(position, style);
+        if (spans_blocks) include_in_hulls(position, style);
     }
 }
 
-void StyleNodes::insert(const StringSlice& style) {
-    if (empty_) {
-        const std::size_t blocks = text_length_ / block_size + 1;
-        block_hulls_.assign(2 * blocks, nothing);
-        blocks_.resize(blocks);
-        for (Block& block : blocks_) block.clear();
-        empty_ = false;
-    }
-    make_room(style.from());
-    make_room(style.to());
-    include(style.from(), style);
-    include(style.to(), style);
+void StyleNodes::prepare() {
+    if (!empty_) return;
+    const std::size_t blocks = text_length_ / block_size + 1;
+    block_hulls_.assign(2 * blocks, nothing);
+    blocks_.resize(blocks);
+    for (Block& block : blocks_) block.clear();
+    empty_ = false;
 }
 
 StringSlice StyleNodes::hull_inside(const StringSlice& slice) const {
@@ -85,7 +94,7 @@ void StyleNodes::make_room(unsigned int position) {
     if (block.capacity() < block.size() + 2) block.reserve(2 * block.size() + 16);
 }
 
-void StyleNodes::include(unsigned int position, const StringSlice& style) {
+void StyleNodes::include_node(unsigned int position, const StringSlice& style) {
     Block& block = blocks_[position / block_size];
     const auto node =
         std::lower_bound(block.begin(), block.end(), position,
@@ -95,6 +104,9 @@ void StyleNodes::include(unsigned int position, const StringSlice& style) {
     } else {
         node->hull = node->hull.combine(style);
     }
+}
+
+void StyleNodes::include_in_hulls(unsigned int position, const StringSlice& style) {
     auto i = static_cast<unsigned int>(blocks_.size()) + position / block_size;
     for (; i > 0 && !block_hulls_[i].has_subset(style); i /= 2) {
         block_hulls_[i] = block_hulls_[i].combine(style);

@@ -30,16 +30,18 @@ private:
     };
     using Block = std::vector<Node>;  // one node a position, ascending
 
-    void insert(const StringSlice& style);
+    void prepare();
     StringSlice hull_inside(const StringSlice& slice) const;
     StringSlice hull_of_blocks(unsigned int first, unsigned int last) const;
     void make_room(unsigned int position);
-    void include(unsigned int position, const StringSlice& style);
+    void include_node(unsigned int position, const StringSlice& style);
+    void include_in_hulls(unsigned int position, const StringSlice& style);
 
     unsigned int text_length_ = 0;
     bool empty_ = true;  // no style has come yet, and what stands below counts for nothing
-    // Styles of one character cross nothing: they wait here until it is asked what lies inside.
-    std::vector<StringSlice> single_characters_;
+    // Styles of one character cross nothing, and those within one block nothing that spans it: the
+    // nodes of those, and the hulls of both, wait here until it is asked what lies inside.
+    std::vector<StringSlice> waiting_;
     std::vector<Block> blocks_;
     std::vector<StringSlice> block_hulls_;  // of block b at blocks + b, of nodes 2i and 2i + 1 at i
 };
