@@ -21,6 +21,7 @@ struct Regex::Program {
     };
     std::unique_ptr<pcre2_code, Free> code;
     std::uint32_t numbers = 0;  // of the parenthesised groups and the whole match
+    decltype(&pcre2_match) match = pcre2_match;
 };
 
 Regex::Regex(const std::string& pattern, unsigned int options)
@@ -40,20 +41,22 @@ Regex::Regex(const std::string& pattern, unsigned int options)
     pcre2_pattern_info(program_->code.get(), PCRE2_INFO_CAPTURECOUNT, &program_->numbers);
     ++program_->numbers;
     // Where the machine has no just-in-time compiler the interpreter gives the same matches.
-    pcre2_jit_compile(program_->code.get(), PCRE2_JIT_COMPLETE);
+    if (pcre2_jit_compile(program_->code.get(), PCRE2_JIT_COMPLETE) == 0) {
+        program_->match = pcre2_jit_match;
+    }
 }
 
 Regex::~Regex() = default;
 
 bool Regex::search_from_position(const std::string& text, unsigned int position,
                                  RegexResults& results, unsigned int /*flags*/) const {
-    const pcre2_code* code = program_->code.get();
     if (!results.match_) results.match_ = std::make_unique<RegexResults::Match>();
     RegexResults::Match& match = *results.match_;
     match.prepare(program_->numbers);
     if (position > text.size()) return false;
-    const int found = pcre2_match(code, reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(),
-                                  position, 0, match.data.get(), nullptr);
+    const int found =
+        program_->match(program_->code.get(), reinterpret_cast<PCRE2_SPTR>(text.data()),
+                        text.size(), position, 0, match.data.get(), nullptr);
     if (found == PCRE2_ERROR_NOMATCH) return false;
     if (found < 0) throw std::runtime_error("Regex: " + message(found));
     match.text = &text;

@@ -15,6 +15,8 @@ struct RegexResults::Match {
     };
 
     std::unique_ptr<pcre2_match_data, Free> data;
+    unsigned int capacity = 0;         // of data
+    const PCRE2_SIZE* ends = nullptr;  // where each number begins and ends, in data
     const std::string* text = nullptr;
     unsigned int size = 0;
 

@@ -5,19 +5,14 @@
 
 #include "default_host/RegexMatch.h"
 
-namespace {
-
-const PCRE2_SIZE* ends(pcre2_match_data* data, unsigned int number) {
-    return pcre2_get_ovector_pointer(data) + 2 * static_cast<std::size_t>(number);
-}
-
-}  // namespace
-
 void RegexResults::Match::prepare(unsigned int numbers) {
     size = 0;
-    if (data && pcre2_get_ovector_count(data.get()) >= numbers) return;
+    if (capacity >= numbers) return;
+    capacity = 0;
     data.reset(pcre2_match_data_create(numbers, nullptr));
     if (!data) throw std::bad_alloc();
+    ends = pcre2_get_ovector_pointer(data.get());
+    capacity = numbers;
 }
 
 RegexResults::RegexResults() = default;
@@ -28,17 +23,17 @@ RegexResults::~RegexResults() = default;
 unsigned int RegexResults::size() const { return match_ ? match_->size : 0; }
 
 bool RegexResults::matched(unsigned int number) const {
-    return number < size() && ends(match_->data.get(), number)[0] != PCRE2_UNSET;
+    return number < size() && match_->ends[2 * std::size_t{number}] != PCRE2_UNSET;
 }
 
 unsigned int RegexResults::start(unsigned int number) const {
     if (!matched(number)) throw std::out_of_range("RegexResults: no such match");
-    return static_cast<unsigned int>(ends(match_->data.get(), number)[0]);
+    return static_cast<unsigned int>(match_->ends[2 * std::size_t{number}]);
 }
 
 unsigned int RegexResults::end(unsigned int number) const {
     if (!matched(number)) throw std::out_of_range("RegexResults: no such match");
-    return static_cast<unsigned int>(ends(match_->data.get(), number)[1]);
+    return static_cast<unsigned int>(match_->ends[2 * std::size_t{number} + 1]);
 }
 
 std::string RegexResults::text(unsigned int number) const {

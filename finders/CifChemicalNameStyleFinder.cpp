@@ -51,12 +51,10 @@ struct ProcessSubSuperscript {
     std::vector<StringSlice>& enclosed;
     std::vector<StringSlice>& invisible;
 
-    void operator()(const RegexResults& match) const {
-        const unsigned int start = match.start();
-        const unsigned int end = match.end();
-        enclosed.emplace_back(start + 1, end - 1);
-        invisible.emplace_back(start, start + 1);
-        invisible.emplace_back(end - 1, end);
+    void operator()(const StringSlice& match) const {
+        enclosed.emplace_back(match.from() + 1, match.to() - 1);
+        invisible.emplace_back(match.from(), match.from() + 1);
+        invisible.emplace_back(match.to() - 1, match.to());
     }
 };
 
@@ -64,8 +62,8 @@ struct ProcessGreek {
     const std::string& text;
     std::vector<GreekSlice>& greek;
 
-    void operator()(const RegexResults& match) const {
-        greek.emplace_back(match.start(), match.end(), to_greek(text[match.start() + 1]));
+    void operator()(const StringSlice& match) const {
+        greek.emplace_back(match.from(), match.to(), to_greek(text[match.from() + 1]));
     }
 };
 
@@ -94,7 +92,8 @@ void CifChemicalNameStyleFinder::calc_tag_positions() {
     subscripts_.clear();
     superscripts_.clear();
     invisible_.clear();
-    regex_grep(subscript_regex, text(), ProcessSubSuperscript{subscripts_, invisible_});
-    regex_grep(superscript_regex, text(), ProcessSubSuperscript{superscripts_, invisible_});
-    regex_grep(greek_regex, text(), ProcessGreek{text(), greek_});
+    RegexResults match;
+    regex_grep(subscript_regex, text(), match, ProcessSubSuperscript{subscripts_, invisible_});
+    regex_grep(superscript_regex, text(), match, ProcessSubSuperscript{superscripts_, invisible_});
+    regex_grep(greek_regex, text(), match, ProcessGreek{text(), greek_});
 }

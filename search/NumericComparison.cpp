@@ -38,13 +38,13 @@ double value_of(std::string_view number) {
     return negative ? -value : value;
 }
 
-std::vector<NumberMatch> find_numbers(const std::string& text) {
+std::vector<NumberMatch> find_numbers(const std::string& text, RegexResults& match) {
     std::vector<NumberMatch> numbers;
+    numbers.reserve(text.size() / 6 + 2);  // as many as in usual texts of numbers
     const std::string_view whole = text;
     regex_grep(
-        number_regex, text,
-        [&](const RegexResults& match) {
-            const StringSlice slice(match.start(), match.end());
+        number_regex, text, match,
+        [&](const StringSlice& slice) {
             numbers.push_back({slice, value_of(whole.substr(slice.from(), slice.length()))});
         },
         search_flags);
@@ -57,8 +57,9 @@ NumericComparison::~NumericComparison() = default;
 
 bool NumericComparison::comparison_search(const std::string& term, const std::string& text,
                                           std::vector<StringSlice>& slices) const {
-    const std::vector<NumberMatch> text_numbers = find_numbers(text);
-    const std::vector<NumberMatch> term_numbers = find_numbers(term);
+    RegexResults match;
+    const std::vector<NumberMatch> text_numbers = find_numbers(text, match);
+    const std::vector<NumberMatch> term_numbers = find_numbers(term, match);
     // Wider than a double where the platform can: at the very bound its rounding must not decide.
     const long double tolerance = tolerance_;
     for (std::size_t i = 0; i < std::min(text_numbers.size(), term_numbers.size()); ++i) {

@@ -5,17 +5,18 @@
 #include "host/Regex.h"
 #include "host/RegexResults.h"
 #include "text/Position.h"
+#include "text/StringSlice.h"
 
-/// Calls process(match) for each match of `regex` in `text`, in order; each search begins at the
-/// end of the match before it, or one character further when that was empty. Throws what Regex
-/// throws.
+/// Calls process(slice) for each match of `regex` in `text`, in order; each search begins at the
+/// end of the match before it, or one character further when that was empty. `match` is scratch,
+/// which callers keep from one call to the next. Throws what Regex throws.
 template <class Process>
-void regex_grep(const Regex& regex, const std::string& text, Process process,
+void regex_grep(const Regex& regex, const std::string& text, RegexResults& match, Process process,
                 unsigned int flags = 0) {
-    RegexResults match;
     unsigned int position = 0;
     while (position < length_of(text) && regex.search_from_position(text, position, match, flags)) {
-        process(match);
-        position = match.end() > match.start() ? match.end() : position + 1;
+        const StringSlice slice(match.start(), match.end());
+        process(slice);
+        position = slice.empty() ? position + 1 : slice.to();
     }
 }
