@@ -73,11 +73,11 @@ void TevoChemicalNameStyleFinder::greek(std::vector<GreekSlice>& out) const {
     for (std::size_t at = names_.next_candidate(name_text, 0); at < name_text.size();
          at = names_.next_candidate(name_text, at + 1)) {
         const unsigned int pos = to_position(at);
+        const std::uint64_t characters = Names::characters_at(name_text, pos);
         const auto [first, last] = names_.names_beginning_with(name_text[pos]);
         for (unsigned int i = first; i < last; ++i) {
+            if (!names_.begins(i, characters) || pos < next_allowed[i]) continue;
             const std::string& name = names[i];
-            if (name[1] != name_text[pos + 1] || pos < next_allowed[i]) continue;
-            if (!name_text.substr(pos).starts_with(name)) continue;
             const unsigned int end = pos + length_of(name);
             next_allowed[i] = end;
             const std::string prior_char(name_text.substr(pos > 0 ? pos - 1 : 0, pos > 0 ? 1 : 0));

@@ -78,6 +78,8 @@ TevoChemicalNameToTextItemGreek::TevoChemicalNameToTextItemGreek() {
     for (std::size_t i = 0; i < names_.size(); ++i) {
         const std::string& name = names_[i];
         symbols_[i] = greek_symbol(name);
+        packed_names_[i] = {characters_at(name, 0),
+                            characters_at(std::string(name.size(), '\xFF'), 0)};
         ++first_name_[static_cast<unsigned int>(name[0] - 'a') + 1];
         second_letters_[static_cast<unsigned char>(name[0])] |= 1U << (name[1] & 31);
     }
