@@ -2,7 +2,7 @@
 
 #include <gemmi/cif.hpp>
 
-#include "app/TextFile.h"
+#include "app/InputFile.h"
 
 namespace {
 

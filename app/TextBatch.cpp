@@ -1,48 +1,121 @@
 #include "app/TextBatch.h"
 
+#include <algorithm>
+#include <deque>
 #include <exception>
+#include <future>
+#include <string_view>
+#include <utility>
 
 #include "app/Diagnostics.h"
+#include "app/TextBlocks.h"
+#include "app/TextOutput.h"
 
 namespace {
 
-/// Returns whether no text of the file failed.
-bool process_file(const std::string& path, char separator, const std::optional<std::string>& failed,
-                  const TextProcess& process, TextOutput& output) {
+/// What became of a block of texts.
+struct Processed {
+    struct Report {
+        unsigned long number;  // of the text
+        std::string message;
+    };
+
+    std::string file;
+    std::string output;
+    std::vector<Report> reports;
     bool good = true;
-    TextFile file(path, separator);
-    for (std::string_view text; file.next(text);) {
-        std::optional<std::string> result;
+};
+
+Processed process_block(const TextBatch& batch, const std::optional<std::string>& failed,
+                        const MakeTextProcess& make_process, const TextBlock& block) {
+    Processed done;
+    done.file = block.file;
+    done.output.reserve(2 * block.bytes.size());
+    const std::unique_ptr<TextProcess> process = make_process();
+    std::vector<std::string> warnings;
+    std::string text;
+    unsigned long number = block.first;
+    std::string_view rest = block.bytes;
+    for (; !rest.empty(); ++number) {
+        const std::size_t end = std::min(rest.find(batch.separator), rest.size());
+        text = rest.substr(0, end);
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+        const std::size_t written = done.output.size();
+        warnings.clear();
         try {
-            result = process(file, text);
+            if (process->process(text, done.output, warnings)) {
+                done.output += batch.separator;
+            } else {
+                done.output.resize(written);
+            }
         } catch (const std::exception& error) {
-            report(file.name(), file.number(), error.what());
-            result = failed;
-            good = false;
+            done.output.resize(written);
+            if (failed) done.output += *failed + batch.separator;
+            done.reports.push_back({number, error.what()});
+            done.good = false;
         }
-        if (!result) continue;
-        *result += separator;
-        output.write(*result);
+        for (std::string& warning : warnings) done.reports.push_back({number, std::move(warning)});
     }
-    return good;
+    return done;
 }
+
+/// Takes the files in turn and keeps as many blocks in work as there are jobs.
+class Batch {
+public:
+    Batch(const TextBatch& batch, const std::optional<std::string>& failed,
+          const MakeTextProcess& make_process)
+        : batch_(batch), failed_(failed), make_process_(make_process) {}
+
+    bool run() {
+        if (batch_.files.empty()) add_file("-");
+        for (const std::string& file : batch_.files) add_file(file);
+        while (!in_work_.empty()) finish_first();
+        output_.close();
+        return good_;
+    }
+
+private:
+    void add_file(const std::string& path) {
+        try {
+            TextBlocks blocks(path, batch_.separator);
+            for (TextBlock block; blocks.next(block);) add(std::move(block));
+        } catch (const InputError& error) {
+            while (!in_work_.empty()) finish_first();
+            report(error.what());
+            good_ = false;
+        }
+    }
+
+    void add(TextBlock block) {
+        const auto policy = batch_.jobs > 1 ? std::launch::async : std::launch::deferred;
+        in_work_.push_back(std::async(policy, [this, block = std::move(block)] {
+            return process_block(batch_, failed_, make_process_, block);
+        }));
+        if (in_work_.size() >= batch_.jobs) finish_first();
+    }
+
+    void finish_first() {
+        const Processed done = in_work_.front().get();
+        in_work_.pop_front();
+        for (const Processed::Report& said : done.reports) {
+            report(done.file, said.number, said.message);
+        }
+        good_ = good_ && done.good;
+        output_.write(done.output);
+        output_.flush();
+    }
+
+    const TextBatch& batch_;
+    const std::optional<std::string>& failed_;
+    const MakeTextProcess& make_process_;
+    TextOutput output_;
+    bool good_ = true;
+    std::deque<std::future<Processed>> in_work_;  // in the order of the texts
+};
 
 }  // namespace
 
 bool process_texts(const TextBatch& batch, const std::optional<std::string>& failed,
-                   const TextProcess& process) {
-    TextOutput output;
-    bool good = true;
-    const auto process_path = [&](const std::string& path) {
-        try {
-            good = process_file(path, batch.separator, failed, process, output) && good;
-        } catch (const InputError& error) {
-            report(error.what());
-            good = false;
-        }
-    };
-    if (batch.files.empty()) process_path("-");
-    for (const std::string& path : batch.files) process_path(path);
-    output.close();
-    return good;
+                   const MakeTextProcess& make_process) {
+    return Batch(batch, failed, make_process).run();
 }

@@ -1,27 +1,38 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
-
-#include "app/TextFile.h"
-#include "app/TextOutput.h"
 
 /// The texts that a command works on.
 struct TextBatch {
     std::vector<std::string> files;  // none: standard input
     char separator = '\n';           // ends each text, read or written
+    unsigned int jobs = 1;           // threads that work on them, 1 or more
 };
 
-/// What becomes of one text of a file; nothing is written for std::nullopt.
-using TextProcess =
-    std::function<std::optional<std::string>(const TextFile& file, std::string_view)>;
+/// What a command makes of texts, one after the other in one thread.
+class TextProcess {
+public:
+    TextProcess() = default;
+    TextProcess(const TextProcess&) = delete;
+    TextProcess& operator=(const TextProcess&) = delete;
+    virtual ~TextProcess() = default;
 
-/// Hands text by text to `process` in constant memory and writes what it returns to standard
-/// output. A text for which it throws is reported and leaves what `failed` says in its place; a
-/// file that cannot be read is reported too, and the others go on. Returns whether nothing was.
-/// Throws std::system_error when the output cannot be written.
+    /// Appends what becomes of the text to `result` and what there is to say about it to
+    /// `warnings`. False: nothing shall be written for it. Throws what the text fails with.
+    virtual bool process(const std::string& text, std::string& result,
+                         std::vector<std::string>& warnings) = 0;
+};
+
+using MakeTextProcess = std::function<std::unique_ptr<TextProcess>()>;
+
+/// Hands block after block of the texts to a process of its own and writes what they return to
+/// standard output, in the order of the texts. A text for which a process throws is reported and
+/// leaves what `failed` says in its place; a file that cannot be read is reported too, and the
+/// others go on. Returns whether nothing failed. Throws std::system_error when the output cannot be
+/// written. Holds a few blocks for each job.
 bool process_texts(const TextBatch& batch, const std::optional<std::string>& failed,
-                   const TextProcess& process);
+                   const MakeTextProcess& make_process);

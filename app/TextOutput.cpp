@@ -25,6 +25,10 @@ void TextOutput::write(std::string_view text) {
     if (std::fwrite(text.data(), 1, text.size(), file_) != text.size()) fail(name_);
 }
 
+void TextOutput::flush() {
+    if (std::fflush(file_) != 0) fail(name_);
+}
+
 void TextOutput::close() {
     if (std::fclose(std::exchange(file_, nullptr)) != 0) fail(name_);
 }

@@ -15,8 +15,9 @@ public:
     TextOutput& operator=(const TextOutput&) = delete;
     ~TextOutput();
 
-    /// Both throw std::system_error; only after close() is everything written.
+    /// All throw std::system_error; only after close() is everything written for certain.
     void write(std::string_view text);
+    void flush();
     void close();
 
 private:

@@ -1,12 +1,10 @@
 #include "app/convert.h"
 
-#include "app/Diagnostics.h"
 #include "text/TextItem.h"
 
 namespace {
 
-/// Converts one text after the other.
-class Converter {
+class Converter : public TextProcess {
 public:
     explicit Converter(const ConvertOptions& options)
         : options_(options),
@@ -14,12 +12,18 @@ public:
           generator_(options.to->make_generator()),
           item_(finder_) {}
 
-    std::string convert(std::string_view text) {
-        item_.set_text(std::string(text));
+    bool process(const std::string& text, std::string& result,
+                 std::vector<std::string>& warnings) override {
+        item_.set_text(text);
         item_.set_line_length(options_.line_length);
-        return item_.mark_up_text(*generator_);
+        result += item_.mark_up_text(*generator_);
+        if (options_.from->may_lack_letters && has_unknown_letter()) {
+            warnings.emplace_back("warning: Greek code without a letter");
+        }
+        return true;
     }
 
+private:
     /// Whether the last text has a Greek letter that no target can name and most leave out.
     bool has_unknown_letter() {
         letters_.clear();
@@ -30,7 +34,6 @@ public:
         return false;
     }
 
-private:
     const ConvertOptions& options_;
     THandle<InputTextStyleFinder> finder_;
     THandle<RichTextGenerator> generator_;
@@ -41,12 +44,5 @@ private:
 }  // namespace
 
 bool convert(const ConvertOptions& options) {
-    Converter converter(options);
-    return process_texts(options.batch, "", [&](const TextFile& file, std::string_view text) {
-        std::string converted = converter.convert(text);
-        if (options.from->may_lack_letters && converter.has_unknown_letter()) {
-            report(file.name(), file.number(), "warning: Greek code without a letter");
-        }
-        return converted;
-    });
+    return process_texts(options.batch, "", [&] { return std::make_unique<Converter>(options); });
 }

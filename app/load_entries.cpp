@@ -2,7 +2,7 @@
 
 #include "app/CifFile.h"
 #include "app/Diagnostics.h"
-#include "app/TextFile.h"
+#include "app/InputFile.h"
 
 LoadedEntries load_entries(const std::string& file) {
     LoadedEntries loaded{{}, true};

@@ -24,6 +24,7 @@ constexpr int exit_no_match = 1;
 constexpr int exit_difference = 1;
 constexpr int exit_trouble = 2;  // wrong usage, and failures of searches, as with grep and diff
 constexpr unsigned int longest_line = 4294967294;
+constexpr unsigned int most_jobs = 1024;
 
 /// A table of named rows as a help text.
 template <class Row>
@@ -56,6 +57,10 @@ void add_batch_options(CLI::App* command, TextBatch& batch) {
     command->add_flag_callback(
         "-0,--null", [&batch] { batch.separator = '\0'; },
         "NUL instead of line feed ends each text, read and written");
+    command
+        ->add_option("-j,--jobs", batch.jobs,
+                     "Work in that many threads; the order of the texts stays")
+        ->check(CLI::Range(1U, most_jobs));
     command->add_option("FILE", batch.files, "Files to read; none or -: standard input");
 }
 

@@ -1,5 +1,6 @@
 #include "app/search.h"
 
+#include <atomic>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -10,11 +11,13 @@
 
 namespace {
 
-/// Searches one text after the other.
-class Searcher {
+class Searcher : public TextProcess {
 public:
-    explicit Searcher(const SearchOptions& options)
-        : search_(make_handle<OrderedSearch>(options.how->make_search(options.settings))) {
+    /// Sets `matched` when a text matches.
+    Searcher(const SearchOptions& options, std::atomic<bool>& matched)
+        : only_matching_(options.only_matching),
+          matched_(matched),
+          search_(make_handle<OrderedSearch>(options.how->make_search(options.settings))) {
         search_->set_search_term(options.term);
         if (!options.to->target) return;
         generator_ = options.to->target->make_generator();
@@ -22,15 +25,18 @@ public:
             make_handle<TextSearchStyleFinder>(search_, options.from->make_finder()));
     }
 
-    /// Searches the text and returns what is written for it.
-    std::string shown(const std::string& text) {
-        if (!highlighted_) return ranges_of(text);
-        highlighted_->set_text(text);
-        return highlighted_->mark_up_text(*generator_);
+    bool process(const std::string& text, std::string& result,
+                 std::vector<std::string>& /*warnings*/) override {
+        if (highlighted_) {
+            highlighted_->set_text(text);
+            result += highlighted_->mark_up_text(*generator_);
+        } else {
+            result += ranges_of(text);
+        }
+        const bool matched = search_->matched() || !search_->ranges().empty();
+        if (matched) matched_ = true;
+        return matched || !only_matching_;
     }
-
-    /// Whether the text searched last matched, as a whole or in some range.
-    bool matched() const { return search_->matched() || !search_->ranges().empty(); }
 
 private:
     std::string ranges_of(const std::string& text) const {
@@ -42,6 +48,8 @@ private:
         return line;
     }
 
+    bool only_matching_;
+    std::atomic<bool>& matched_;
     THandle<OrderedSearch> search_;
     THandle<RichTextGenerator> generator_;
     std::optional<TextItem> highlighted_;  // none when only the ranges are written
@@ -56,19 +64,9 @@ std::span<const Output> search_outputs() {
 }
 
 SearchOutcome search(const SearchOptions& options) {
-    Searcher searcher(options);
-    SearchOutcome outcome{false, true};
+    std::atomic<bool> matched = false;
     const auto failed = options.only_matching ? std::nullopt : std::make_optional<std::string>();
-    outcome.good = process_texts(
-        options.batch, failed,
-        [&](const TextFile& /*file*/, std::string_view text) -> std::optional<std::string> {
-            std::string shown = searcher.shown(std::string(text));
-            if (searcher.matched()) {
-                outcome.matched = true;
-            } else if (options.only_matching) {
-                return std::nullopt;
-            }
-            return shown;
-        });
-    return outcome;
+    const bool good = process_texts(options.batch, failed,
+                                    [&] { return std::make_unique<Searcher>(options, matched); });
+    return {matched, good};
 }

@@ -201,13 +201,30 @@ TEST_F(Program, LongLinesPass) {
     EXPECT_EQ(run("convert --from tevo-name --to tevo", line).out, line + "\n");
 }
 
+TEST_F(Program, JobsKeepTheOrderOfTextsAndReports) {
+    std::string names;
+    for (int i = 0; i < 400000; ++i) {
+        names += "C~" + std::to_string(i) + (i % 100000 == 7 ? "^b~c^\n" : "~\n");
+    }
+    const Result one = run("convert --from cif-name --to html5", names);
+    const Result more = run("convert --from cif-name --to html5 -j 3", names);
+    EXPECT_EQ(one.status, 1);
+    EXPECT_THAT(one.err, HasSubstr("<stdin>:300008: creating an overlapping style error\n"));
+    EXPECT_TRUE(more.out == one.out);
+    EXPECT_EQ(more.err, one.err);
+    EXPECT_EQ(more.status, 1);
+    EXPECT_EQ(run("search --how exact --term C~9~ --to slices --matching -j 2", names).out,
+              "true\t0-4\n");
+}
+
 TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
     for (const char* arguments :
          {"", "convert", "convert --from plain", "convert --from x --to html",
           "convert --from plain --to qt --line-length -1",
           "convert --from plain --to qt --line-length 4294967295", "show", "show --fields Nope x",
-          "compare a.cif", "fields --view all", "nonsense", "search --how exact",
-          "search --how x --term a", "search --how numeric --term 1 --tolerance x",
+          "convert --from plain --to qt -j 0", "compare a.cif", "fields --view all", "nonsense",
+          "search --how exact", "search --how x --term a",
+          "search --how numeric --term 1 --tolerance x",
           "search --how numeric --term 1 --tolerance -1",
           "search --how numeric --term 1 --tolerance 1e999",
           "search --how substring --term a --min-length -1"}) {
