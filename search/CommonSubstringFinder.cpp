@@ -49,21 +49,22 @@ private:
 class Starts {
 public:
     Starts(std::string_view b, unsigned int run_length)
-        : starts_(b.size() - run_length + 1), chains_(std::bit_ceil(starts_.size()), no_position) {
-        std::vector<unsigned int> chain_of(starts_.size());
+        : starts_(b.size() - run_length + 1),
+          chains_(std::bit_ceil(2 * starts_.size()), no_position) {
         RollingHash hash(b, run_length);
         for (unsigned int j = 0; j < starts_.size(); ++j) {
             if (j > 0) hash.slide();
-            chain_of[j] = chain(hash.value());
-        }
-        for (auto j = static_cast<unsigned int>(starts_.size()); j-- > 0;) {  // chains ascend
-            starts_[j].next = chains_[chain_of[j]];
-            chains_[chain_of[j]] = j;
+            starts_[j].hash = hash.value();
+            unsigned int& chain = chains_[slot_of(hash.value())];
+            if (chain == no_position) chain = j;
+            unsigned int& last = starts_[chain].behind;  // lent until the first match is noted
+            if (last != no_position) starts_[last].next = j;
+            last = j;
         }
     }
 
     /// The first start with that hash, and the one after `j`; no_position at the end.
-    unsigned int first(std::uint64_t hash) const { return chains_[chain(hash)]; }
+    unsigned int first(std::uint64_t hash) const { return chains_[slot_of(hash)]; }
     unsigned int next(unsigned int j) const { return starts_[j].next; }
 
     /// Whether some match covers the start (i, j).
@@ -93,6 +94,7 @@ public:
 
 private:
     struct Start {
+        std::uint64_t hash = 0;
         unsigned int next = no_position;
         unsigned int a_end = 0;             // the largest of the matches that cover this start,
         unsigned int b_end = 0;             // and the other end of that match
@@ -100,12 +102,19 @@ private:
         unsigned int behind_until = 0;
     };
 
-    unsigned int chain(std::uint64_t hash) const {
-        return static_cast<unsigned int>((hash * 0xD6E8FEB86659FD93 >> 32) & (chains_.size() - 1));
+    /// Where the chain of that hash stands or would stand. Each has a slot of its own: a long chain
+    /// must not lie in the way of others.
+    std::size_t slot_of(std::uint64_t hash) const {
+        auto slot = static_cast<std::size_t>(hash * 0xD6E8FEB86659FD93 >> 32);
+        while (true) {
+            slot &= chains_.size() - 1;
+            if (chains_[slot] == no_position || starts_[chains_[slot]].hash == hash) return slot;
+            ++slot;
+        }
     }
 
     std::vector<Start> starts_;
-    std::vector<unsigned int> chains_;  // the first start of each
+    std::vector<unsigned int> chains_;  // the first start of each, at most every second slot
 };
 
 unsigned int common_length(std::string_view a, std::string_view b) {
