@@ -14,5 +14,8 @@ public:
     void ReportRuns(const std::vector<Run>& runs) override;
 
 private:
-    std::map<std::string, double> times_;  // of the last size, in seconds, by benchmark
+    struct Size {
+        double size, time;  // as the benchmark has it, and seconds
+    };
+    std::map<std::string, Size> sizes_;  // the last of each benchmark
 };

@@ -1,42 +1,14 @@
-// The road of a text, from finder through item to generator: a usual name, and texts as large as
-// they come. For each of the large ones the time of twice its size stands below it.
+// The road of a text, from finder through item to generator, for texts as large as they come. The
+// time of twice its size stands below each.
 #include <benchmark/benchmark.h>
 
+#include "bench/texts.h"
 #include "finders/CifChemicalNameStyleFinder.h"
 #include "finders/TevoChemicalNameStyleFinder.h"
-#include "markup/Html5RichTextGenerator.h"
 #include "markup/HtmlRichTextGenerator.h"
 #include "text/TextItem.h"
 
 namespace {
-
-// 66 characters, a letter and two scripts.
-const std::string usual_name = "bis(mu-5-methyl-1H-pyrazole-3-carboxylato-N$2!)-diaqua-copper!2$-x";
-
-template <class Finder, class Generator>
-void usual_name_through(benchmark::State& state) {
-    TextItem item(make_handle<Finder>());
-    Generator generator;
-    for (auto _ : state) {
-        item.set_text(usual_name);
-        benchmark::DoNotOptimize(item.mark_up_text(generator));
-    }
-}
-BENCHMARK(usual_name_through<TevoChemicalNameStyleFinder, HtmlRichTextGenerator>);
-BENCHMARK(usual_name_through<TevoChemicalNameStyleFinder, Html5RichTextGenerator>);
-
-void usual_name_written(benchmark::State& state) {
-    const TextItem item(make_handle<TevoChemicalNameStyleFinder>(), usual_name);
-    HtmlRichTextGenerator generator;
-    for (auto _ : state) benchmark::DoNotOptimize(item.mark_up_text(generator));
-}
-BENCHMARK(usual_name_written);
-
-std::string repeated(const std::string& unit, std::size_t length) {
-    std::string text;
-    while (text.size() < length) text += unit;
-    return text;
-}
 
 void large_text(benchmark::State& state, const THandle<InputTextStyleFinder>& finder,
                 const std::string& unit) {

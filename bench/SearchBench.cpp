@@ -2,9 +2,7 @@
 // matches laid over styles.
 #include <benchmark/benchmark.h>
 
-#include <fstream>
-#include <stdexcept>
-
+#include "bench/texts.h"
 #include "finders/TextSearchStyleFinder.h"
 #include "search/CombinedPublicationComparisonSearch.h"
 #include "search/CommonSubstringFinder.h"
@@ -17,14 +15,6 @@
 namespace {
 
 constexpr unsigned int min_match_length = 3;
-
-std::vector<std::string> lines_of(const std::string& file) {
-    std::ifstream stream(DATA_FOLDER "/" + file);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) lines.push_back(line);
-    if (lines.empty()) throw std::runtime_error("no texts in " + file);
-    return lines;
-}
 
 /// `length` characters of every second piece from `first` on, then of those between.
 std::string joined(const std::vector<std::string>& pieces, std::size_t first,
@@ -116,41 +106,37 @@ void publication(benchmark::State& state) {
 }
 BENCHMARK(publication)->Apply(sizes);
 
-/// The unit again and again, then, when it is given, an end that occurs nowhere else.
-std::string repeated(const benchmark::State& state, const std::string& unit,
-                     const std::string& end = "") {
-    std::string text;
-    while (text.size() < static_cast<std::size_t>(state.range(0))) text += unit;
-    return text + end;
+std::string units_of(const benchmark::State& state, const std::string& unit) {
+    return repeated(unit, static_cast<std::size_t>(state.range(0)));
 }
 
 // One letter: a single match and all else covered by it.
 void hostile_substrings_one_letter(benchmark::State& state) {
-    run_finder(state, repeated(state, "a"), repeated(state, "a"));
+    run_finder(state, units_of(state, "a"), units_of(state, "a"));
 }
 BENCHMARK(hostile_substrings_one_letter)->Arg(10000)->Arg(20000);
 
 // Runs of the term that occur in every unit of the text: as many matches as units times units.
 void hostile_substrings_many_matches(benchmark::State& state) {
-    run_finder(state, repeated(state, "abc1"), repeated(state, "abc2"));
+    run_finder(state, units_of(state, "abc1"), units_of(state, "abc2"));
 }
 BENCHMARK(hostile_substrings_many_matches)->Arg(2000)->Arg(4000);
 
 void hostile_numbers(benchmark::State& state) {
     NumericComparison search(1);
-    run_search(state, search, "1", repeated(state, "9"));
+    run_search(state, search, "1", units_of(state, "9"));
 }
 BENCHMARK(hostile_numbers)->Arg(100000)->Arg(200000);
 
 void hostile_equal_surnames(benchmark::State& state) {
     SurnameComparison search;
-    run_search(state, search, repeated(state, "A.Smith,"), repeated(state, "B.Smith,"));
+    run_search(state, search, units_of(state, "A.Smith,"), units_of(state, "B.Smith,"));
 }
 BENCHMARK(hostile_equal_surnames)->Arg(100000)->Arg(200000);
 
 void hostile_equal_lines(benchmark::State& state) {
     MultipleLineTextComparison search(make_handle<EntireTextComparison>());
-    run_search(state, search, repeated(state, "a\n"), repeated(state, "a\n"));
+    run_search(state, search, units_of(state, "a\n"), units_of(state, "a\n"));
 }
 BENCHMARK(hostile_equal_lines)->Arg(100000)->Arg(200000);
 

@@ -100,7 +100,8 @@ void AnsiRichTextGenerator::append_invisible_tag(std::string& result,
 // The tags are all that begins with an escape character, and end with the letter m.
 std::string AnsiRichTextGenerator::compose(std::string_view text,
                                            const std::vector<Tag>& tags) const {
-    const std::string tagged = UnicodeRichTextGenerator::compose(text, tags);
+    std::string tagged = UnicodeRichTextGenerator::compose(text, tags);
+    if (tagged.find(escape) == std::string::npos) return tagged;
     std::string result;
     result.reserve(tagged.size());
     Terminal terminal(result, tag_factory());

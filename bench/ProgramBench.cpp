@@ -1,11 +1,15 @@
-// The program as a user runs it: entries of CIF files read, styled and written, from one to many.
+// The program as a user runs it: entries of CIF files read, styled and written, from one to many,
+// and 100 MB of names converted.
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
+
+#include "bench/texts.h"
 
 namespace {
 
@@ -51,6 +55,53 @@ BENCHMARK_CAPTURE(show, json, "json")
     ->Arg(1)
     ->Arg(1000)
     ->Arg(10000)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+
+/// A file with so many bytes of names, for as long as this lives.
+class NamesFile {
+public:
+    NamesFile(const std::string& source, std::size_t size) {
+        std::string names;
+        for (const std::string& name : lines_of(source)) names += name + '\n';
+        std::ofstream(path_, std::ios::binary) << repeated(names, size);
+    }
+    NamesFile(const NamesFile&) = delete;
+    NamesFile& operator=(const NamesFile&) = delete;
+    ~NamesFile() { std::filesystem::remove(path_); }
+
+    std::string path() const { return path_; }
+
+private:
+    std::filesystem::path path_ =
+        std::filesystem::temp_directory_path() / ("lmrtext_bench_" + std::to_string(getpid()));
+};
+
+void convert(benchmark::State& state, const std::string& from, const std::string& source) {
+    const NamesFile names(source, 100'000'000);
+    double memory = 0;
+    for (auto _ : state) {
+        memory = run_program({PROGRAM, "convert", "--from", from, "--to", "html", "--jobs",
+                              std::to_string(state.range(0)), names.path()});
+    }
+    state.counters["MB"] = memory;
+    state.counters["MB/s"] =
+        benchmark::Counter(static_cast<double>(std::filesystem::file_size(names.path())) / 1e6,
+                           benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK_CAPTURE(convert, tevo_names, "tevo-name", "tevo_names.txt")
+    ->Arg(1)
+    ->Arg(2)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(convert, names_as_tevo, "tevo-name", "names.txt")
+    ->Arg(1)
+    ->Arg(2)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(convert, cif_names, "cif-name", "names.txt")
+    ->Arg(1)
+    ->Arg(2)
     ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
 

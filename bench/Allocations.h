@@ -1,0 +1,4 @@
+#pragma once
+
+/// The allocations that the whole program has made so far.
+unsigned long allocations();
