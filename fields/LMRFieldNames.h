@@ -79,7 +79,7 @@ public:
     static const char* text(TextID id);
     static bool valid_id(TextID id);
     /// Stores in `id` the field of that label, to the byte; returns false, with `id` as it was,
-    /// when there is none.
+    /// when there is none. O(f) for the f fields of the catalogue.
     static bool find_id(const char* name, TextID& id);
     /// The group under which the field is listed. Throws std::invalid_argument "Internal Error:
     /// Invalid field name requested in LMRFieldNames::group" for fields without one: sohncke_group,

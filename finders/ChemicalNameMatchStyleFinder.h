@@ -3,7 +3,8 @@
 #include "finders/TextSearchStyleFinder.h"
 
 /// Highlights what a chemical name has in common with a queried one: runs of 3 characters and more,
-/// punctuation and white space left out.
+/// punctuation and white space left out. Costs what CommonSubstringFinder and TextSearchStyleFinder
+/// cost.
 class ChemicalNameMatchStyleFinder : public TextSearchStyleFinder {
 public:
     /// `finder` sees the name's own styles.

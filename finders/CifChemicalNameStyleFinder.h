@@ -16,7 +16,8 @@ public:
     /// Each covers a backslash and its letter. "\f" is delta; a letter that stands for nothing,
     /// such as that of "\d", gives a slice with no_symbol.
     void greek(std::vector<GreekSlice>& out) const override;
-    /// Finds everything once, for the queries to copy; throws what Regex throws.
+    /// Finds everything once, for the queries to copy: three passes of the host's Regex. Throws
+    /// what Regex throws.
     void calc_tag_positions() override;
 
 private:

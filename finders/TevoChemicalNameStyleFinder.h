@@ -15,7 +15,7 @@ public:
     void subscripts(std::vector<StringSlice>& out) const override;
     /// The texts between "$" and "!", likewise.
     void superscripts(std::vector<StringSlice>& out) const override;
-    /// The two markers of each subscript, then of each superscript.
+    /// The two markers of each subscript, then of each superscript. Finds the scripts once more.
     void invisible(std::vector<StringSlice>& out) const override;
     /// The spelled-out names that stand for letters, grouped by name in ascending order of the
     /// names. One pass, O(n) for n characters and O(k log k) for the k letters found.

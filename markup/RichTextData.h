@@ -19,6 +19,7 @@ public:
 
     /// `styles` are those whose tags are written; the other lists name those among them whose
     /// characters are left out or shown as something else. A line length of 0 breaks no lines.
+    /// Copies the text: O(n) for n characters, as is text().
     RichTextData(const std::string& text, unsigned int line_length, const Styles& styles,
                  const Styles& invisible, const GreekStyles& greek,
                  const ReplacementTextStyles& replacement_text);

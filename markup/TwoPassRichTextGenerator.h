@@ -19,6 +19,7 @@ public:
     using NestingRichTextGenerator::NestingRichTextGenerator;
     ~TwoPassRichTextGenerator() override;
 
+    /// O(t) for t tags and characters, beside what the base costs.
     std::string mark_up_text(const RichTextData& data) const override;
 
 protected:

@@ -3,6 +3,7 @@
 #include "search/TextComparisonSearch.h"
 
 /// Matches a text that equals the term, as a whole and to the byte. An empty term matches nothing.
+/// O(n) for n characters.
 class EntireTextComparison : public TextComparisonSearch {
 public:
     ~EntireTextComparison() override;

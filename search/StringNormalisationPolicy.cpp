@@ -11,13 +11,19 @@ int classified(char c) { return c == '\xFF' ? EOF : static_cast<unsigned char>(c
 
 }  // namespace
 
+StringNormalisationPolicy::StringNormalisationPolicy(unsigned int flags,
+                                                     const std::string& extra_characters)
+    : flags_(flags) {
+    for (const char c : extra_characters) extra_characters_.set(static_cast<unsigned char>(c));
+}
+
 bool StringNormalisationPolicy::drops(char c) const {
     const int character = classified(c);
     return (has(drop_alpha) && std::isalpha(character) != 0) ||
            (has(drop_digit) && std::isdigit(character) != 0) ||
            (has(drop_punct) && std::ispunct(character) != 0) ||
            (has(drop_space) && std::isspace(character) != 0) ||
-           extra_characters_.find(c) != std::string::npos;
+           extra_characters_.test(static_cast<unsigned char>(c));
 }
 
 char StringNormalisationPolicy::converted(char c) const {

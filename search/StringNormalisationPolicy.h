@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bitset>
 #include <string>
 
 /// What is dropped from a text before it is compared loosely, and whether case counts. The classes
@@ -16,8 +17,7 @@ public:
 
     /// `flags` is a set of Flag bits, others are ignored; each of `extra_characters` is dropped
     /// too.
-    StringNormalisationPolicy(unsigned int flags, const std::string& extra_characters)
-        : flags_(flags), extra_characters_(extra_characters) {}
+    StringNormalisationPolicy(unsigned int flags, const std::string& extra_characters);
 
     /// Whether the policy drops `c`.
     bool drops(char c) const;
@@ -28,5 +28,5 @@ private:
     bool has(Flag flag) const { return (flags_ & flag) != 0; }
 
     unsigned int flags_;
-    std::string extra_characters_;
+    std::bitset<256> extra_characters_;  // by their bytes
 };

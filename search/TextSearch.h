@@ -15,7 +15,7 @@ public:
     virtual ~TextSearch();
 
     /// Appends the ranges of `text`, in character positions, that match the term; returns whether
-    /// the text as a whole matched, in a sense that each search states.
+    /// the text as a whole matched, in a sense that each search states, with what it costs.
     virtual bool search(const std::string& text, std::vector<StringSlice>& slices) const = 0;
     /// Replaces the term of later searches.
     virtual void set_search_term(const std::string& term) = 0;

@@ -82,6 +82,7 @@ public:
     /// styles created until then stay, the others are missing. O(n + m log n) for n characters and
     /// m styles, and the finder's own work.
     void set_text(const std::string& text);
+    /// A copy, O(n).
     std::string text() const { return text_; }
 
     /// Wanted length of an output line in characters; a length that the text does not exceed means,
@@ -111,7 +112,8 @@ public:
     /// style error" besides, and never "style within replacement text style error".
     void create_replacement_text(unsigned int from, unsigned int to, const std::string& text);
 
-    /// What the generator writes for this item; throws what it throws.
+    /// What the generator writes for this item; throws and costs what it does, and a copy of the
+    /// text.
     std::string mark_up_text(RichTextGenerator& generator) const;
 
     /// Whether some style begins or ends at `pos`. O(m) for m styles.
@@ -125,7 +127,7 @@ public:
     /// is one atom that holds a NUL. O(n + m log m) for n characters and m styles.
     std::vector<TextAtom> atomize() const;
 
-    /// Writes one line for each style, in the order of creation.
+    /// Writes one line for each style, in the order of creation. O(m).
     void print(std::ostream& os) const;
 
 private:
