@@ -199,6 +199,7 @@ void RichTextGenerator::append_closing_tags(std::string& result, unsigned int po
         std::pop_heap(pending_.begin(), pending_.end(), std::greater());
         pending_.pop_back();
     }
+    if (pending_.empty()) end_tags_.clear();
 }
 
 void RichTextGenerator::open(std::string& result) const {
