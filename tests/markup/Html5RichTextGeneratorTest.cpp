@@ -4,34 +4,11 @@
 
 #include "tests/Random.h"
 #include "tests/markup/StyleLists.h"
+#include "tests/markup/html_text.h"
 
 namespace {
 
 const std::string green = "<span style=\"color:#008b00\">";
-
-/// The text without its tags, or a complaint where they do not nest.
-std::string text_between_tags(std::string html) {
-    std::vector<std::string> open;
-    std::string text;
-    while (!html.empty()) {
-        const std::size_t tag = html.find('<');
-        text += html.substr(0, tag);
-        html.erase(0, tag);
-        if (html.empty()) break;
-        const bool closes = html[1] == '/';
-        const std::string name =
-            html.substr(closes ? 2 : 1, html.find_first_of(" >") - (closes ? 2 : 1));
-        html.erase(0, html.find('>') + 1);
-        if (!closes) {
-            open.push_back(name);
-        } else if (open.empty() || open.back() != name) {
-            return "tags do not nest";
-        } else {
-            open.pop_back();
-        }
-    }
-    return open.empty() ? text : "tags left open";
-}
 
 }  // namespace
 
@@ -78,7 +55,8 @@ TEST(Html5RichTextGenerator, TagsNestForAnyLists) {
         StyleLists styles = StyleLists::random(random, 10);
         const std::string html = generator.mark_up_text(styles.data("abcdefgh"));
         styles.styles.clear();
-        ASSERT_EQ(text_between_tags(html), generator.mark_up_text(styles.data("abcdefgh"))) << html;
+        ASSERT_EQ(html_text(html), html_text(generator.mark_up_text(styles.data("abcdefgh"))))
+            << html;
     }
 }
 

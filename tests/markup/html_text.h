@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+/// The text of HTML without its tags and references, or a complaint where the tags do not nest.
+inline std::string html_text(std::string_view html) {
+    constexpr std::pair<std::string_view, char> references[] = {
+        {"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}};
+    std::vector<std::string_view> open;
+    std::string text;
+    while (!html.empty()) {
+        std::size_t size = 1;
+        if (html.front() == '<') {
+            size = html.find('>') + 1;
+            const bool closes = html[1] == '/';
+            std::string_view name = html.substr(closes ? 2 : 1);
+            name = name.substr(0, name.find_first_of(" >"));
+            if (!closes) {
+                open.push_back(name);
+            } else if (open.empty() || open.back() != name) {
+                return "tags do not nest";
+            } else {
+                open.pop_back();
+            }
+        } else {
+            char c = html.front();
+            for (const auto& [reference, character] : references) {
+                if (!html.starts_with(reference)) continue;
+                c = character;
+                size = reference.size();
+            }
+            text += c;
+        }
+        html.remove_prefix(size);
+    }
+    return open.empty() ? text : "tags left open";
+}
