@@ -3,7 +3,6 @@
 // allocation, copy and deallocation of each text that is written.
 #include <benchmark/benchmark.h>
 
-#include "bench/Allocations.h"
 #include "bench/texts.h"
 #include "finders/CifChemicalNameStyleFinder.h"
 #include "finders/TevoChemicalFormulaStyleFinder.h"
@@ -13,6 +12,7 @@
 #include "search/CombinedPublicationComparisonSearch.h"
 #include "search/CommonSubstringFinderAdapter.h"
 #include "search/EntireTextComparison.h"
+#include "tests/Allocations.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
 
