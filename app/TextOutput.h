@@ -4,12 +4,15 @@
 #include <string>
 #include <string_view>
 
-/// Standard output or a file to write to.
+/// Standard output or a file to write to. A file appears whole or not at all: it is written beside
+/// its place and moved there when it is closed, and removed otherwise, on signals too. One at a
+/// time.
 class TextOutput {
 public:
     /// Standard output.
     TextOutput() : name_("standard output"), file_(stdout) {}
-    /// Creates or empties the file; throws std::system_error.
+    /// Begins a file that will replace what is at `path`; what is no regular file, such as a
+    /// device, is written to as it is. Throws std::system_error.
     explicit TextOutput(const std::string& path);
     TextOutput(const TextOutput&) = delete;
     TextOutput& operator=(const TextOutput&) = delete;
@@ -22,5 +25,7 @@ public:
 
 private:
     std::string name_;
+    std::string place_;      // where the file will stand
+    std::string temporary_;  // where it is being written; empty: nowhere else
     std::FILE* file_;
 };

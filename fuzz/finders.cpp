@@ -55,7 +55,7 @@ std::string shown(const TextItem& item) {
 std::string written(const TextItem& item, const RichTextTarget& target) {
     const auto generator = target.make_generator();
     try {
-        const std::string once = item.mark_up_text(*generator);
+        std::string once = item.mark_up_text(*generator);
         require(item.mark_up_text(*generator) == once, "a generator used twice says the same");
         return once;
     } catch (const std::range_error&) {
@@ -86,7 +86,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 const TextItem again(make_finder(), whole);
                 const std::string twice = written(again, target);
                 require(written(TextItem(make_finder(), twice), target) == twice,
-                        "the database's mark-up comes back", whole + '\n' + twice);
+                        "the database's mark-up comes back", twice);
             } catch (const std::runtime_error&) {
             }
         }

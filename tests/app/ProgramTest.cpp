@@ -251,6 +251,32 @@ TEST_F(Program, OutputThatCannotBeWrittenIsReported) {
     std::signal(SIGPIPE, SIG_DFL);
 }
 
+TEST_F(Program, AFileAppearsWholeOrNotAtAll) {
+    const auto files = [&] {
+        std::vector<std::string> names;
+        for (const auto& file : std::filesystem::directory_iterator(folder_)) {
+            names.push_back(file.path().filename());
+        }
+        return names;
+    };
+    file("page.html", "before");
+    std::filesystem::create_symlink("page.html", folder_ / "link.html");
+    const std::string program = "'" PROGRAM "' show -o page.html ";
+    const Result ended = run("--version >/dev/null; mkfifo fifo; exec 3<>fifo; " + program +
+                             "- <fifo & sleep 0.3; kill $!; wait $!; echo $? >&2; rm fifo");
+    EXPECT_THAT(ended.err, EndsWith("143\n"));  // by SIGTERM
+    const Result full =
+        run("--version >/dev/null; trap '' XFSZ; ulimit -f 1; " + program + data + "/1008935.cif");
+    EXPECT_EQ(full.err, "lmrtext: page.html: File too large\n");
+    EXPECT_EQ(full.status, 1);
+    EXPECT_EQ(contents(folder_ / "page.html"), "before");
+    EXPECT_EQ(run("show -o link.html " + data + "/1008935.cif").status, 0);
+    EXPECT_THAT(contents(folder_ / "page.html"), EndsWith("</html>\n"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder_ / "link.html"));
+    EXPECT_THAT(files(),
+                testing::UnorderedElementsAre("in", "out", "err", "page.html", "link.html"));
+}
+
 TEST_F(Program, ShowPrintsTheFieldsOfEntries) {
     const Result done = run("show --to html5 " + data + "/2204347.cif " + data + "/1008935.cif");
     EXPECT_EQ(done.status, 0);

@@ -80,6 +80,7 @@ TEST(SharedUse, ThreadsSeeTheSame) {
     const std::string expected = use(shared);
     std::vector<std::string> seen(8);
     std::vector<std::thread> threads;
+    threads.reserve(seen.size());
     for (std::string& all : seen) {
         threads.emplace_back([&] {
             for (int round = 0; round < 50; ++round) all = use(shared);
