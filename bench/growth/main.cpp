@@ -149,8 +149,8 @@ std::function<THandle<TextSearch>()> made(Arguments... arguments) {
     return [=] { return make_handle<Search>(arguments...); };
 }
 
-auto units(const std::string& unit) {
-    return [=](unsigned int n) { return repeated(unit, n); };
+auto units(const std::string& unit, const std::string& end = "") {
+    return [=](unsigned int n) { return repeated(unit, n) + end; };
 }
 
 auto numbers(const std::string& unit, unsigned int factor = 1) {
@@ -204,8 +204,8 @@ std::vector<Case> all_cases() {
         found<TevoPublicationStyleFinder>("reference", 8000, "<j>A</j><v>1</v><y>2</y><p>3</p>",
                                           "<j>"),
         replaced(),
-        searched("substrings, one letter", 4000, substrings, units("a"), units("a")),
-        searched("substrings, one period", 2000, substrings, units("ab"), units("ab")),
+        searched("substrings, one letter", 4000, substrings, units("a"), units("a", "b")),
+        searched("substrings, one period", 2000, substrings, units("ab"), units("ab", "c")),
         searched("substrings, none alike", 2000, substrings, numbers("x#"), units("abcd")),
         searched("equal authors", 2500, made<SurnameComparison>(), units("A.Smith, "),
                  units("B.Smith, ")),
