@@ -9,18 +9,7 @@
 
 namespace {
 
-constexpr char32_t symbols_of_controls = 0x2400;
-constexpr char32_t symbol_of_delete = 0x2421;
 constexpr char escape = '\x1b';
-
-/// What a terminal shows safely in place of the character.
-char32_t safe(const Utf8Character& character) {
-    const char32_t code = character.code;  // the replacement character where the bytes are no UTF-8
-    if (code == '\n') return code;
-    if (code < ' ') return symbols_of_controls + code;
-    if (code == 0x7F) return symbol_of_delete;
-    return code >= 0x80 && code < 0xA0 ? U'\uFFFD' : code;
-}
 
 /// Writes text with the styles in force, each selected only where the text needs it.
 class Terminal {
@@ -87,7 +76,7 @@ AnsiRichTextGenerator::~AnsiRichTextGenerator() = default;
 void AnsiRichTextGenerator::write_text(std::string& result, std::string_view text) const {
     while (!text.empty()) {
         const Utf8Character character = first_character(text);
-        append_utf8(result, safe(character));
+        append_utf8(result, visible(character.code));  // U+FFFD for what is no UTF-8
         text.remove_prefix(character.size);
     }
 }

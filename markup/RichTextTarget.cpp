@@ -30,7 +30,7 @@ constexpr RichTextTarget target_rows[] = {
     {"markdown", "md", "Markdown (CommonMark), HTML's tags where it has none; the text is escaped",
      true, make<MarkdownRichTextGenerator>},
     {"unicode", "txt", "plain text: raised and lowered characters, otherwise _{...} and ^{...}",
-     false, make<UnicodeRichTextGenerator>},
+     true, make<UnicodeRichTextGenerator>},
     {"ansi", "ansi",
      "plain text with bold, italic, underlined and coloured characters of terminals", true,
      make<AnsiRichTextGenerator>},

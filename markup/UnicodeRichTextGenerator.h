@@ -4,8 +4,8 @@
 
 /// Writes plain text: Greek letters, the characters that Unicode has for scripts where it has them
 /// for a whole run, otherwise `_{...}` and `^{...}`, and a combining overline behind each character
-/// under a bar. Lines are broken where a reader counts, after or before braces too but not inside
-/// them.
+/// under a bar. Control characters but line feeds and tabs are shown by their symbols. Lines are
+/// broken where a reader counts, after or before braces too but not inside them.
 class UnicodeRichTextGenerator : public TwoPassRichTextGenerator {
 public:
     UnicodeRichTextGenerator();
@@ -17,6 +17,11 @@ protected:
     explicit UnicodeRichTextGenerator(THandle<RichTextTagFactory> tag_factory);
 
     void write_text(std::string& result, std::string_view text) const override;
+
+    /// What shows a control character, its Unicode symbol where it has one; line feeds and all
+    /// other characters stay.
+    static char32_t visible(char32_t code);
+
     std::string compose(std::string_view text, const std::vector<Tag>& tags) const override;
 
     /// Appends a tag that takes no room on the line; plain text shows none.

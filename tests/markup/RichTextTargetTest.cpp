@@ -124,7 +124,7 @@ TEST(RichTextTarget, UnicodeRaisesAndLowersWholeRuns) {
                       {"letter", "xmu", S().superscript(1, 3).greek(1, 3), "x^{μ}"},
                       {"script in script", "ab2", S().superscript(1, 3).subscript(2, 3), "a^{b₂}"},
                       {"bar", "-1a2", S().bar(0, 2).subscript(1, 2), "-̅₁̅a2"},
-                      {"other styles", "a$b\x1b", S().bold(0, 1).color(1, 3), "a$b\x1b"},
+                      {"other styles", "a$b\x1b\t\xff", S().bold(0, 1).color(1, 3), "a$b␛\t\xff"},
                       {"lines", "a2b,c\nd\u0301e", S().bar(0, 1).subscript(1, 2).subscript(2, 5),
                        "a̅₂\n_{\nb,\nc}\n\nd\u0301e\n", 2}});
 }
