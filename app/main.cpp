@@ -13,6 +13,7 @@
 #include "app/compare.h"
 #include "app/convert.h"
 #include "app/default_target.h"
+#include "app/interface_texts.h"
 #include "app/row_named.h"
 #include "app/search.h"
 #include "app/show.h"
@@ -38,6 +39,12 @@ std::string row_help(const std::string& purpose, std::span<const Row> rows) {
     return help;
 }
 
+/// The options that take the name of a row, for completion.
+Choices& choices() {
+    static Choices noted;
+    return noted;
+}
+
 /// Adds an option that takes the name of a row.
 template <class Row>
 CLI::Option* add_row_option(CLI::App* command, const char* flag, const Row*& chosen,
@@ -49,8 +56,11 @@ CLI::Option* add_row_option(CLI::App* command, const char* flag, const Row*& cho
         for (const Row& known : rows) expected += std::string(" ") + known.name;
         throw CLI::ValidationError(expected);
     };
-    return command->add_option_function<std::string>(flag, choose, row_help(purpose, rows))
-        ->type_name("KIND");
+    CLI::Option* const option =
+        command->add_option_function<std::string>(flag, choose, row_help(purpose, rows))
+            ->type_name("KIND");
+    for (const Row& row : rows) choices()[option].push_back(row.name);
+    return option;
 }
 
 void add_batch_options(CLI::App* command, TextBatch& batch) {
@@ -195,8 +205,8 @@ void add_compare(CLI::App& program, CompareArguments& arguments) {
     add_tolerance_option(command, options.settings);
     add_row_option(command, "--to", options.to, rich_text_targets(),
                    "What to write; unless given, ansi on a terminal and tevo elsewhere");
-    command->add_option("A.cif", options.left)->required();
-    command->add_option("B.cif", options.right)->required();
+    command->add_option("A.cif", options.left, "One side")->required();
+    command->add_option("B.cif", options.right, "The other side")->required();
 }
 
 void add_search(CLI::App& program, SearchOptions& options) {
@@ -253,6 +263,35 @@ int run_convert(ConvertOptions& options) {
         return exit_trouble;
     }
     return convert(options) ? 0 : exit_failure;
+}
+
+/// Adds the commands that tell of the program itself.
+void add_texts(CLI::App& program) {
+    program.add_subcommand("targets", "Lists what can be written: name, ending of files, content");
+    program.add_subcommand("manual", "Prints the manual page");
+    CLI::App* completion =
+        program.add_subcommand("completion", "Prints a script that completes commands in a shell");
+    completion->add_option("SHELL", "bash, zsh or fish")
+        ->required()
+        ->check(CLI::IsMember({"bash", "zsh", "fish"}));
+}
+
+int run_text(const CLI::App& program) {
+    std::string text;
+    if (program.got_subcommand("manual")) {
+        text = manual_page(program, LMRTEXT_VERSION);
+    } else {
+        const auto shell =
+            program.get_subcommand("completion")->get_option("SHELL")->as<std::string>();
+        const auto complete = shell == "bash"  ? bash_completion
+                              : shell == "zsh" ? zsh_completion
+                                               : fish_completion;
+        text = complete(program, choices());
+    }
+    TextOutput output;
+    output.write(text);
+    output.close();
+    return 0;
 }
 
 int run_targets() {
@@ -317,11 +356,11 @@ int run(int argc, char** argv) {
     SearchOptions search_options;
     CompareArguments compare_arguments;
     add_convert(program, convert_options);
-    program.add_subcommand("targets", "Lists what can be written: name, ending of files, content");
     add_show(program, show_arguments);
     add_fields(program, fields_options);
     add_search(program, search_options);
     add_compare(program, compare_arguments);
+    add_texts(program);
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -339,6 +378,9 @@ int run(int argc, char** argv) {
         if (program.got_subcommand("show")) return run_show(show_arguments);
         if (program.got_subcommand("fields")) return run_fields(fields_options);
         if (program.got_subcommand("targets")) return run_targets();
+        if (program.got_subcommand("manual") || program.got_subcommand("completion")) {
+            return run_text(program);
+        }
         return run_convert(convert_options);
     });
 }

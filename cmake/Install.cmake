@@ -1,4 +1,5 @@
-# Headers under include/lmrtext, the two libraries, the program, the CMake package and pkg-config.
+# Headers under include/lmrtext, the two libraries, the program with its manual page and completions, the
+# CMake package and pkg-config.
 include(CMakePackageConfigHelpers)
 
 set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/lmrtext)
@@ -9,6 +10,15 @@ install(TARGETS lmrtext kovrhost lmrtext_host_interface EXPORT lmrtextTargets
 install(EXPORT lmrtextTargets NAMESPACE lmrtext:: DESTINATION ${package_folder})
 if(LMRTEXT_BUILD_PROGRAM)
     install(TARGETS lmrtext_program)
+    if(NOT CMAKE_CROSSCOMPILING)
+        set(texts ${PROJECT_BINARY_DIR}/app)
+        install(FILES ${texts}/lmrtext.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+        install(FILES ${texts}/lmrtext.bash RENAME lmrtext
+                DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+        install(FILES ${texts}/_lmrtext DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
+        install(FILES ${texts}/lmrtext.fish
+                DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+    endif()
 endif()
 
 configure_package_config_file(cmake/lmrtextConfig.cmake.in lmrtextConfig.cmake

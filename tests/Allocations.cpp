@@ -37,12 +37,18 @@ bool stop_failing() {
     return failed;
 }
 
-void* operator new(std::size_t size) {
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
     void* const memory = fails_now() ? nullptr : std::malloc(size);
-    if (!memory) throw std::bad_alloc();
-    ++made;
-    ++live;
+    if (memory) {
+        ++made;
+        ++live;
+    }
     return memory;
+}
+
+void* operator new(std::size_t size) {
+    if (void* const memory = operator new(size, std::nothrow)) return memory;
+    throw std::bad_alloc();
 }
 
 void operator delete(void* memory) noexcept {

@@ -89,6 +89,25 @@ TEST_F(Program, TheManualListsTheTargets) {
     EXPECT_EQ(targets, 9);
 }
 
+TEST_F(Program, TellsShellsAndReadersOfItsCommands) {
+    const std::string manual = run("manual").out;
+    EXPECT_THAT(manual, StartsWith(".TH LMRTEXT 1 "));
+    EXPECT_THAT(manual, HasSubstr(".SS convert\n"));
+    EXPECT_THAT(manual, HasSubstr("\\fB\\-\\-term"));
+    EXPECT_THAT(manual, HasSubstr("printf '%s\\en' "));
+    const auto completed = [&](const std::string& words, int last) {
+        file("complete", run("completion bash").out + "COMP_WORDS=(lmrtext " + words +
+                             ") COMP_CWORD=" + std::to_string(last) +
+                             "\n_lmrtext\necho \"${COMPREPLY[@]}\"\n");
+        return run("--version >/dev/null; bash complete").out;
+    };
+    EXPECT_EQ(completed("com", 1), "compare completion\n");
+    EXPECT_EQ(completed("convert --to html", 3), "html html5\n");
+    EXPECT_EQ(completed("search --ma", 2), "--matching\n");
+    EXPECT_THAT(run("completion fish").out, HasSubstr("-l how -x -a 'exact lines numeric"));
+    EXPECT_THAT(run("completion zsh").out, HasSubstr("'*--view[Which fields]:value:(default "));
+}
+
 TEST_F(Program, WritesForTheTerminalThatItHas) {
     const auto shown = [&](const std::string& variables, const std::string& arguments) {
         const std::string command = "env TERM=xterm NO_COLOR= " + variables + " script -qec \"" +

@@ -1,0 +1,198 @@
+#include "app/interface_texts.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace {
+
+std::string joined(const std::vector<std::string>& words, const std::string& separator) {
+    std::string all;
+    for (const std::string& word : words) all += (all.empty() ? "" : separator) + word;
+    return all;
+}
+
+/// The names of an option as they are typed; none for a positional argument.
+std::vector<std::string> flags_of(const CLI::Option& option) {
+    std::vector<std::string> flags;
+    for (const std::string& name : option.get_snames()) flags.push_back('-' + name);
+    for (const std::string& name : option.get_lnames()) flags.push_back("--" + name);
+    return flags;
+}
+
+bool takes_value(const CLI::Option& option) { return option.get_items_expected_max() > 0; }
+
+std::vector<const CLI::App*> commands_of(const CLI::App& program) {
+    return program.get_subcommands([](const CLI::App* /*command*/) { return true; });
+}
+
+std::string names_of(const std::vector<const CLI::App*>& commands) {
+    std::string names;
+    for (const CLI::App* command : commands) names += command->get_name() + ' ';
+    return names;
+}
+
+/// The first clause of a description, which lists of completions have room for.
+std::string brief(const std::string& description) {
+    return description.substr(0, description.find_first_of(":;,"));
+}
+
+/// `text` with a backslash before each of `signs`.
+std::string escaped(const std::string& text, std::string_view signs) {
+    std::string result;
+    for (const char c : text) {
+        if (signs.find(c) != std::string_view::npos) result += '\\';
+        result += c;
+    }
+    return result;
+}
+
+/// Text for roff: its own signs written out, and none that begins a request.
+std::string roff(const std::string& text) {
+    std::string result;
+    for (const char c : text) {
+        const bool begins_line = result.empty() || result.back() == '\n';
+        if (begins_line && (c == '.' || c == '\'')) result += "\\&";
+        if (c == '\\') {
+            result += "\\e";
+        } else if (c == '-') {
+            result += "\\-";
+        } else {
+            result += c;
+        }
+    }
+    return result;
+}
+
+std::string manual_option(const CLI::Option& option) {
+    const std::vector<std::string> flags = flags_of(option);
+    std::string names = roff(flags.empty() ? option.get_name() : joined(flags, ", "));
+    if (!flags.empty() && takes_value(option)) {
+        names += " \\fI" + roff(option.get_type_name()) + "\\fB";
+    }
+    return ".TP\n\\fB" + names + "\\fR\n" + roff(option.get_description()) + '\n';
+}
+
+}  // namespace
+
+std::string manual_page(const CLI::App& program, const std::string& version) {
+    std::string page = ".TH LMRTEXT 1 \"\" \"lmrtext " + version +
+                       "\" \"User Commands\"\n.SH NAME\nlmrtext \\- " +
+                       roff(program.get_description()) +
+                       "\n.SH SYNOPSIS\n.B lmrtext\n.I COMMAND\n[\\fIOPTION\\fR]... "
+                       "[\\fIFILE\\fR]...\n.SH COMMANDS\n";
+    for (const CLI::App* command : commands_of(program)) {
+        page +=
+            ".SS " + roff(command->get_name()) + '\n' + roff(command->get_description()) + ".\n";
+        for (const CLI::Option* option : command->get_options()) page += manual_option(*option);
+        const std::string footer = command->get_footer();
+        if (!footer.empty()) page += ".PP\n.nf\n" + roff(footer) + "\n.fi\n";
+    }
+    return page;
+}
+
+std::string bash_completion(const CLI::App& program, const Choices& choices) {
+    const auto commands = commands_of(program);
+    std::string values, options;
+    for (const CLI::App* command : commands) {
+        const std::string& name = command->get_name();
+        std::vector<std::string> all;
+        for (const CLI::Option* option : command->get_options()) {
+            const std::vector<std::string> flags = flags_of(*option);
+            all.insert(all.end(), flags.begin(), flags.end());
+            const auto known = choices.find(option);
+            if (known == choices.end()) continue;
+            const std::string words = joined(known->second, " ");
+            for (const std::string& flag : flags) {
+                values.append("        '").append(name).append(" ").append(flag);
+                values.append("') words='").append(words).append("' ;;\n");
+            }
+        }
+        options += "        " + name + ") options='" + joined(all, " ") + "' ;;\n";
+    }
+    return "# bash completion of lmrtext\n"
+           "_lmrtext() {\n"
+           "    local current=${COMP_WORDS[COMP_CWORD]} words='' options=''\n"
+           "    COMPREPLY=()\n"
+           "    if ((COMP_CWORD == 1)); then\n"
+           "        COMPREPLY=($(compgen -W '" +
+           names_of(commands) +
+           "' -- \"$current\"))\n"
+           "        return\n"
+           "    fi\n"
+           "    case \"${COMP_WORDS[1]} ${COMP_WORDS[COMP_CWORD - 1]}\" in\n" +
+           values +
+           "    esac\n"
+           "    case ${COMP_WORDS[1]} in\n" +
+           options +
+           "    esac\n"
+           "    [[ -n $words || $current != -* ]] || words=$options\n"
+           "    [[ -z $words ]] || COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n"
+           "}\n"
+           "complete -o default -F _lmrtext lmrtext\n";
+}
+
+std::string zsh_completion(const CLI::App& program, const Choices& choices) {
+    const auto quoted = [](std::string text) {
+        std::replace(text.begin(), text.end(), '\'', '"');  // it stands between such marks
+        return escaped(text, "[]:\\");
+    };
+    std::string arguments;
+    const auto commands = commands_of(program);
+    for (const CLI::App* command : commands) {
+        arguments += "        " + command->get_name() + ") _arguments";
+        for (const CLI::Option* option : command->get_options()) {
+            const auto known = choices.find(option);
+            for (const std::string& flag : flags_of(*option)) {
+                arguments += " \\\n            '*" + flag + '[' +
+                             quoted(brief(option->get_description())) + ']';
+                if (known != choices.end()) {
+                    arguments += ":value:(" + joined(known->second, " ") + ')';
+                } else if (takes_value(*option)) {
+                    arguments += ":value:_default";
+                }
+                arguments += '\'';
+            }
+        }
+        arguments += " \\\n            '*:file:_files' ;;\n";
+    }
+    return "#compdef lmrtext\n"
+           "_lmrtext() {\n"
+           "    if ((CURRENT == 2)); then\n"
+           "        compadd " +
+           names_of(commands) +
+           "\n"
+           "        return\n"
+           "    fi\n"
+           "    local command=$words[2]\n"
+           "    shift words\n"
+           "    ((CURRENT--))\n"
+           "    case $command in\n" +
+           arguments +
+           "    esac\n"
+           "}\n"
+           "_lmrtext \"$@\"\n";
+}
+
+std::string fish_completion(const CLI::App& program, const Choices& choices) {
+    const auto quoted = [](const std::string& text) { return '\'' + escaped(text, "\\'") + '\''; };
+    std::string lines = "# fish completion of lmrtext\n";
+    for (const CLI::App* command : commands_of(program)) {
+        const std::string& name = command->get_name();
+        lines += "complete -c lmrtext -f -n __fish_use_subcommand -a " + name + " -d " +
+                 quoted(command->get_description()) + '\n';
+        for (const CLI::Option* option : command->get_options()) {
+            if (flags_of(*option).empty()) continue;
+            lines += "complete -c lmrtext -n '__fish_seen_subcommand_from " + name + '\'';
+            for (const std::string& flag : option->get_snames()) lines += " -s " + flag;
+            for (const std::string& flag : option->get_lnames()) lines += " -l " + flag;
+            const auto known = choices.find(option);
+            if (known != choices.end()) {
+                lines += " -x -a " + quoted(joined(known->second, " "));
+            } else if (takes_value(*option)) {
+                lines += " -r";
+            }
+            lines += " -d " + quoted(brief(option->get_description())) + '\n';
+        }
+    }
+    return lines;
+}
