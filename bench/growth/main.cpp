@@ -109,7 +109,7 @@ Case replaced() {
 
 Case written(const RichTextTarget& target, const char* name, Shape shape,
              StyleLists& (StyleLists::*add)(unsigned int, unsigned int)) {
-    return {std::string("write ") + target.name + ' ' + name, 2000,
+    return {std::string("write ") + target.name + ' ' + name, 1000,
             [=](unsigned int n) -> Operation {
                 const auto styles = std::make_shared<StyleLists>();
                 for (unsigned int i = 0; i < n; ++i) {
