@@ -51,7 +51,7 @@ TextOutput::TextOutput(const std::string& path) : name_(path), place_(path), fil
         return;
     }
     if (exists) place_ = std::filesystem::canonical(path);  // a link stays one
-    temporary_ = place_ + ".XXXXXX";
+    temporary_ = place_ + '.' + std::string(6, 'X');        // as mkstemp() wants it
     const int descriptor = mkstemp(temporary_.data());
     if (descriptor < 0) fail(name_);
     remove_on_signals(temporary_);
