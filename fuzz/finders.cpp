@@ -12,7 +12,7 @@
 #include "fuzz/Input.h"
 #include "markup/RichTextTarget.h"
 #include "markup/TextItemToUnicodeGreek.h"
-#include "tests/markup/html_text.h"
+#include "tests/markup/shown_text.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
 

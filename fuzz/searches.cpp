@@ -10,6 +10,7 @@
 #include "search/NormalisedString.h"
 #include "search/NumericComparison.h"
 #include "search/SurnameComparison.h"
+#include "tests/search/slow_matches.h"
 #include "text/Position.h"
 
 namespace {
@@ -32,23 +33,11 @@ void check_search(TextSearch& search, const std::string& term, const std::string
     check_slices(slices, text);
 }
 
-/// Every start in turn, and all matches before it.
 void check_substrings(const std::string& a, const std::string& b, unsigned int min_length) {
-    std::vector<StringSlice> slow_a, slow_b, in_a, in_b;
-    for (unsigned int i = 0; i < a.size(); ++i) {
-        for (unsigned int j = 0; j < b.size(); ++j) {
-            unsigned int k = 0;
-            while (i + k < a.size() && j + k < b.size() && a[i + k] == b[j + k]) ++k;
-            for (std::size_t n = 0; n < slow_a.size() && k >= min_length; ++n) {
-                if (slow_a[n].contains(i) && slow_b[n].contains(j)) k = 0;
-            }
-            if (k < min_length) continue;
-            slow_a.emplace_back(i, i + k);
-            slow_b.emplace_back(j, j + k);
-        }
-    }
+    std::vector<StringSlice> in_a, in_b;
     CommonSubstringFinder().search(a, b, in_a, in_b, min_length);
-    require(in_a == slow_a && in_b == slow_b, "the fast search equals the slow one", a + '\n' + b);
+    require(std::pair(in_a, in_b) == slow_matches(a, b, min_length),
+            "the fast search equals the slow one", a + '\n' + b);
 }
 
 void check_normalised(const StringNormalisationPolicy& policy, const std::string& raw) {

@@ -2,7 +2,7 @@
 #include "fuzz/Input.h"
 #include "markup/RichTextTarget.h"
 #include "tests/markup/StyleLists.h"
-#include "tests/markup/html_text.h"
+#include "tests/markup/shown_text.h"
 
 namespace {
 
@@ -11,18 +11,6 @@ constexpr Add adders[] = {
     &StyleLists::bold,        &StyleLists::italic,    &StyleLists::color,
     &StyleLists::superscript, &StyleLists::subscript, &StyleLists::bar,
     &StyleLists::invisible,   &StyleLists::greek,     &StyleLists::replacement};
-
-std::string without_sequences(std::string_view ansi) {
-    std::string text;
-    for (std::size_t i = 0; i < ansi.size(); ++i) {
-        if (ansi[i] == '\x1b') {
-            i = ansi.find('m', i);
-        } else {
-            text += ansi[i];
-        }
-    }
-    return text;
-}
 
 }  // namespace
 
@@ -52,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
         if (name == "unicode") unicode = once;
         if (name == "ansi") {
-            const std::string shown = without_sequences(once);
+            const std::string shown = terminal_text(once);
             for (const char c : shown) {
                 const auto byte = static_cast<unsigned char>(c);
                 require(byte == '\n' || (byte >= 0x20 && byte != 0x7F), "no controls pass", once);

@@ -4,7 +4,7 @@
 
 #include "tests/Random.h"
 #include "tests/markup/StyleLists.h"
-#include "tests/markup/html_text.h"
+#include "tests/markup/shown_text.h"
 
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include "tests/Random.h"
 #include "tests/markup/StyleLists.h"
+#include "tests/markup/shown_text.h"
 
 namespace {
 
@@ -40,18 +41,6 @@ std::string without_groups(std::string latex) {
         if (depth < 0) return "closed twice";
     }
     return depth == 0 ? replaced(replaced(latex, "{", ""), "}", "") : "left open";
-}
-
-std::string without_sequences(const std::string& ansi) {
-    std::string text;
-    for (std::size_t i = 0; i < ansi.size(); ++i) {
-        if (ansi[i] == '\x1b') {
-            i = ansi.find('m', i);
-        } else {
-            text += ansi[i];
-        }
-    }
-    return text;
 }
 
 struct Case {
@@ -149,7 +138,7 @@ TEST(RichTextTarget, NothingOfATextIsAControlForTheTerminal) {
         const char c = static_cast<char>(byte);
         const std::string text = {c, 'a', c, '\xC2', c, c};
         const std::string shown =
-            without_sequences(generator->mark_up_text(S().bold(1, 3).bar(4, 5).data(text)));
+            terminal_text(generator->mark_up_text(S().bold(1, 3).bar(4, 5).data(text)));
         for (std::size_t i = 0; i < shown.size(); ++i) {
             const bool c0 = static_cast<unsigned char>(shown[i]) < ' ' && shown[i] != '\n';
             const bool c1 = i > 0 && shown[i - 1] == '\xC2' && (shown[i] & 0x60) == 0;
@@ -167,7 +156,7 @@ TEST(RichTextTarget, TagsNestForAnyLists) {
     for (int round = 0; round < 5000; ++round) {
         StyleLists styles = StyleLists::random(random, 10);
         const unsigned int line_length = random() % 4;
-        ASSERT_EQ(without_sequences(ansi->mark_up_text(styles.data("abcdefgh", line_length))),
+        ASSERT_EQ(terminal_text(ansi->mark_up_text(styles.data("abcdefgh", line_length))),
                   unicode->mark_up_text(styles.data("abcdefgh", line_length)))
             << styles;
         const std::string tagged = latex->mark_up_text(styles.data("abcdefgh"));

@@ -6,29 +6,18 @@
 
 #include "search/CommonSubstringFinderAdapter.h"
 #include "tests/Random.h"
+#include "tests/search/slow_matches.h"
 #include "text/StringSliceReducer.h"
 
 using Matches = std::pair<std::vector<StringSlice>, std::vector<StringSlice>>;
 
-/// Holds the search against its definition: every start in turn, and all matches before it.
+/// Holds the search against its definition.
 static void compare_slowly(const std::string& a, const std::string& b, unsigned int min_length) {
-    Matches slow, matches{{{0, 9}}, {{3, 4}, {5, 5}}};
-    auto& [in_a, in_b] = slow;
-    for (unsigned int i = 0; i < a.size(); ++i) {
-        for (unsigned int j = 0; j < b.size(); ++j) {
-            unsigned int k = 0;
-            while (i + k < a.size() && j + k < b.size() && a[i + k] == b[j + k]) ++k;
-            for (std::size_t n = 0; n < in_a.size() && k >= min_length; ++n) {
-                if (in_a[n].contains(i) && in_b[n].contains(j)) k = 0;
-            }
-            if (k < min_length) continue;
-            in_a.emplace_back(i, i + k);
-            in_b.emplace_back(j, j + k);
-        }
-    }
+    const Matches slow = slow_matches(a, b, min_length);
+    Matches matches{{{0, 9}}, {{3, 4}, {5, 5}}};
     CommonSubstringFinder().search(a, b, matches.first, matches.second, min_length);
     ASSERT_EQ(matches, slow) << a << ' ' << b;
-    const StringSliceReducer merged(in_b.begin(), in_b.end());
+    const StringSliceReducer merged(slow.second.begin(), slow.second.end());
     ASSERT_THAT(CommonSubstringFinder().matched_stretches(a, b, min_length),
                 testing::UnorderedElementsAreArray(merged.slices()));
 }

@@ -38,3 +38,16 @@ inline std::string html_text(std::string_view html) {
     }
     return open.empty() ? text : "tags left open";
 }
+
+/// Text for a terminal without the sequences that select how it is drawn.
+inline std::string terminal_text(std::string_view ansi) {
+    std::string text;
+    for (std::size_t i = 0; i < ansi.size(); ++i) {
+        if (ansi[i] == '\x1b') {
+            i = ansi.find('m', i);
+        } else {
+            text += ansi[i];
+        }
+    }
+    return text;
+}
