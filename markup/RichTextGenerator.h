@@ -64,10 +64,17 @@ protected:
     /// last first and equal ones in list order; remembers their closing tags.
     std::string opening_tags(unsigned int position, Styles styles) const;
 
-    /// Whether a style of the list begins at `position`; the first one becomes the current style.
+    /// Whether a style of the list begins at `position`; the first one becomes the current style of
+    /// its kind, for a subclass that walks the text itself.
     bool has_invisible_style(unsigned int position, Styles styles) const;
     bool has_greek_style(unsigned int position, GreekStyles styles) const;
     bool has_replacement_text_style(unsigned int position, ReplacementTextStyles styles) const;
+    /// The current styles; null before the first.
+    const THandle<TextItemStyle>& current_invisible_style() const { return current_invisible_; }
+    const THandle<GreekStyle>& current_greek_style() const { return current_greek_; }
+    const THandle<ReplacementTextStyle>& current_replacement_text_style() const {
+        return current_replacement_text_;
+    }
 
     /// Appends `block` to `result`, with a line break wherever `column`, the number of characters
     /// written so far, becomes a multiple of `line_length`; 0 breaks no lines.

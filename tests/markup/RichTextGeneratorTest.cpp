@@ -35,22 +35,16 @@ public:
         unsigned int column = 0;
         unsigned int covered_until = 0;
         for (unsigned int p = 0; p < text.size(); ++p) closing_tags(p);
-        const auto end_of = [](const auto& list, unsigned int p) {
-            for (const auto& style : list) {
-                if (style->from() == p) return style->to();
-            }
-            return no_position;
-        };
         for (unsigned int i = 0; i < text.size(); ++i) {
             result += get_slice_tags(i, data.styles());
             std::string block;
             if (has_invisible_style(i, data.invisible())) {
-                covered_until = end_of(data.invisible(), i);
+                covered_until = current_invisible_style()->to();
             } else if (has_replacement_text_style(i, data.replacement_text())) {
-                covered_until = end_of(data.replacement_text(), i);
-                block = "R&S";
+                covered_until = current_replacement_text_style()->to();
+                block = current_replacement_text_style()->replacement_text();
             } else if (has_greek_style(i, data.greek())) {
-                covered_until = end_of(data.greek(), i);
+                covered_until = current_greek_style()->to();
                 block = "mu";
             } else if (covered_until <= i) {
                 block = text[i];
