@@ -9,6 +9,8 @@ trap 'rm -rf "$folder"' EXIT
 cd "$folder"
 export PARALLEL_HOME=$folder/settings
 mkdir "$PARALLEL_HOME"
+# Without a login shell GNU parallel asks its parent process, and then writes nothing.
+export SHELL=/bin/bash
 
 cat >remote_shell <<'END'
 #!/bin/sh
