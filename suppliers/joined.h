@@ -5,4 +5,5 @@
 #include <vector>
 
 /// The texts in order, with `separator` between neighbours.
-std::string joined(const std::vector<std::string>& texts, std::string_view separator);
+[[gnu::visibility("hidden")]] std::string joined(const std::vector<std::string>& texts,
+                                                 std::string_view separator);

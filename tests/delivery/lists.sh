@@ -10,7 +10,8 @@ trap 'rm -rf "$folder"' EXIT
 
 export LC_ALL=C
 cmake --install "$build" --prefix "$folder/installed" >"$folder/log"
-(cd "$folder/installed" && find . ! -type d | sort) >"$folder/installed_files.txt"
+(cd "$folder/installed" && find . ! -type d | sed 's|/lib/[^/]*-linux-[^/]*/|/lib/|' | sort) \
+    >"$folder/installed_files.txt"
 for library in liblmrtext default_host/libkovrhost; do
     echo "# $(basename $library)"
     nm -D -C --defined-only "$build/$library.so" | cut -c18- | sort -u
@@ -21,7 +22,7 @@ for list in installed_files exported_symbols; do
     if [[ ${2-} == --update ]]; then
         cp "$folder/$list.txt" "$lists/$list.txt"
     elif ! diff -u "$lists/$list.txt" "$folder/$list.txt"; then
-        echo "$list has changed: if that is meant, run tests/delivery/run.sh $build --update"
+        echo "$list has changed: if that is meant, run tests/delivery/lists.sh $build --update"
         status=1
     fi
 done

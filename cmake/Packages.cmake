@@ -1,0 +1,43 @@
+# Debian packages: `cpack` in a build for the prefix /usr, as the preset release is.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_VENDOR "${PROJECT_NAME} developers")
+set(CPACK_PACKAGE_CONTACT "${PROJECT_NAME} developers <lmrtext@localhost>")
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR} ${PROJECT_BINARY_DIR}/default_host)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+
+# The program and the headers fit the library of the same build.
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS library)
+set(CPACK_COMPONENT_PROGRAM_DEPENDS library)
+
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME liblmrtext${soname_version})
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_COMPONENT_LIBRARY_DESCRIPTION
+    "Holds the text fields of crystal-structure entries with their styles, converts
+them between mark-ups, and highlights what a search matches.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME liblmrtext-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
+    "What programs need to be built with the library: headers, CMake package and
+pkg-config file.")
+
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME lmrtext)
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION science)
+set(CPACK_COMPONENT_PROGRAM_DESCRIPTION
+    "The program that converts, shows, searches and compares the texts of
+crystal-structure entries.")
+
+set(CPACK_COMPONENTS_ALL library development program)
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} upper)
+    install(FILES LICENSE RENAME copyright COMPONENT ${component}
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
+endforeach()
+include(CPack)

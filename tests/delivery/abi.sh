@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Compares the binary interface of a build, which has debug information, with that of the last
+# release; --record makes it that of the release: abi.sh BUILD_FOLDER [--record]
+set -euo pipefail
+
+released=$(dirname "$(realpath "$0")")/released
+build=$1
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+
+mkdir -p "$released"
+status=0
+for library in liblmrtext default_host/libkovrhost; do
+    name=$(basename $library)
+    now=$folder/now.abi
+    abidw --exported-interfaces-only --no-corpus-path --no-comp-dir-path --no-show-locs \
+        --no-parameter-names --drop-undefined-syms --out-file "$now" "$build/$library.so"
+    grep -q '<class-decl' "$now" || {
+        echo "$library has no debug information, which tells its interface" >&2
+        exit 1
+    }
+    if [[ ${2-} == --record ]]; then
+        gzip -9n <"$now" >"$released/$name.abi.gz"
+        continue
+    fi
+    gzip -d <"$released/$name.abi.gz" >"$folder/released.abi"
+    if ! abidiff --no-added-syms "$folder/released.abi" "$now"; then
+        echo "programs built with the last release would break: raise the interface's number"
+        status=1
+    fi
+done
+exit $status
