@@ -46,13 +46,21 @@ THandle<TextSearch> make_substring_search(const SearchSettings& settings) {
 }
 
 constexpr SearchKind kind_rows[] = {
-    {"exact", "the text equals the term", make<EntireTextComparison>},
-    {"lines", "a line of the text equals one of the term", make_line_search},
-    {"numeric", "its numbers agree with those of the term, in order", make_numeric_search},
-    {"surnames", "an author stands in both lists of authors", make<SurnameComparison>},
-    {"publication", "journal, year, volume or page of a reference agree",
+    {"exact", "the text, when it equals the term", make<EntireTextComparison>},
+    {"lines", "lines that equal a line of the term; whole when it equals the term",
+     make_line_search},
+    {"numeric",
+     "each number within --tolerance of the term's number of the same place; whole when all agree",
+     make_numeric_search},
+    {"surnames", "authors of the term, or their surnames; whole when it equals the term",
+     make<SurnameComparison>},
+    {"publication",
+     "<j> journal, <y> year, <v> volume and <p> page that equal the term's; whole when all four "
+     "agree",
      make<CombinedPublicationComparisonSearch>},
-    {"substring", "a run of characters stands in both, blanks and punctuation left out",
+    {"substring",
+     "runs of --min-length characters or more that also stand in the term, blanks and punctuation "
+     "aside; whole when it equals the term",
      make_substring_search},
 };
 

@@ -1,7 +1,12 @@
 #include "app/interface_texts.h"
 
 #include <algorithm>
+#include <sstream>
 #include <string_view>
+
+#include "finders/InputTextStyleFinder.h"
+#include "markup/MarkdownRichTextGenerator.h"
+#include "text/TextItem.h"
 
 namespace {
 
@@ -29,6 +34,74 @@ std::string names_of(const std::vector<const CLI::App*>& commands) {
     std::string names;
     for (const CLI::App* command : commands) names += command->get_name() + ' ';
     return names;
+}
+
+/// What the option is for, without its values.
+std::string purpose_of(const CLI::Option& option, const Choices& choices) {
+    const auto known = choices.find(&option);
+    const std::string purpose =
+        known == choices.end() ? option.get_description() : known->second.purpose;
+    return option.get_required() && !flags_of(option).empty() ? purpose + " (required)" : purpose;
+}
+
+std::string names_of(const ChoiceOption& option) {
+    std::vector<std::string> names;
+    for (const Choice& value : option.values) names.push_back(value.name);
+    return joined(names, " ");
+}
+
+/// What the option takes, without the limits that CLI11 appends to the name.
+std::string type_of(const CLI::Option& option) {
+    const std::string type = option.get_type_name();
+    return type.substr(0, type.find(':'));
+}
+
+/// The values that options of one name take in all commands together.
+struct ValueTable {
+    std::string flag;
+    std::vector<std::string> commands;
+    struct Value {
+        Choice choice;
+        std::vector<std::string> commands;
+    };
+    std::vector<Value> values;
+
+    /// What a value means, and where it may be given if not everywhere.
+    std::string help(const Value& value) const {
+        if (value.commands == commands) return value.choice.help;
+        return value.choice.help + "; in " + joined(value.commands, " and ");
+    }
+};
+
+/// The element for which `is_it` holds, or a new one behind the others.
+template <class Element, class Condition>
+Element& found_or_added(std::vector<Element>& list, Condition is_it) {
+    const auto found = std::find_if(list.begin(), list.end(), is_it);
+    return found == list.end() ? list.emplace_back() : *found;
+}
+
+std::vector<ValueTable> value_tables(const CLI::App& program, const Choices& choices) {
+    std::vector<ValueTable> tables;
+    for (const CLI::App* command : commands_of(program)) {
+        for (const CLI::Option* option : command->get_options()) {
+            const auto known = choices.find(option);
+            if (known == choices.end()) continue;
+            const std::string flag = flags_of(*option).front();
+            ValueTable& table = found_or_added(
+                tables, [&](const ValueTable& candidate) { return candidate.flag == flag; });
+            table.flag = flag;
+            table.commands.push_back(command->get_name());
+            for (const Choice& choice : known->second.values) {
+                ValueTable::Value& value =
+                    found_or_added(table.values, [&](const ValueTable::Value& candidate) {
+                        return candidate.choice.name == choice.name;
+                    });
+                value.choice = choice;
+                value.commands.push_back(command->get_name());
+            }
+        }
+    }
+    return tables;
 }
 
 /// The first clause of a description, which lists of completions have room for.
@@ -63,18 +136,47 @@ std::string roff(const std::string& text) {
     return result;
 }
 
-std::string manual_option(const CLI::Option& option) {
+/// A term of a list of definitions in roff, and what it means.
+std::string roff_entry(const std::string& term, const std::string& meaning) {
+    return ".TP\n\\fB" + term + "\\fR\n" + roff(meaning) + '\n';
+}
+
+std::string manual_option(const CLI::Option& option, const Choices& choices) {
     const std::vector<std::string> flags = flags_of(option);
     std::string names = roff(flags.empty() ? option.get_name() : joined(flags, ", "));
-    if (!flags.empty() && takes_value(option)) {
-        names += " \\fI" + roff(option.get_type_name()) + "\\fB";
+    if (!flags.empty() && takes_value(option)) names += " \\fI" + roff(type_of(option)) + "\\fB";
+    return roff_entry(names, purpose_of(option, choices));
+}
+
+/// Text for Markdown, where a bar would end the cell of a table.
+std::string markdown(const std::string& text) {
+    MarkdownRichTextGenerator generator;
+    const TextItem item(make_handle<InputTextStyleFinder>(), text);
+    return item.mark_up_text(generator);
+}
+
+std::string markdown_option(const CLI::Option& option, const Choices& choices) {
+    std::vector<std::string> names = flags_of(option);
+    if (names.empty()) names.push_back(option.get_name());
+    if (takes_value(option) && !flags_of(option).empty()) names.back() += ' ' + type_of(option);
+    return "| `" + joined(names, "`, `") + "` | " + markdown(purpose_of(option, choices)) + " |\n";
+}
+
+/// The lines of a footer, of which those with blanks in front are shell commands.
+std::string markdown_footer(const std::string& footer) {
+    std::string result;
+    std::istringstream lines(footer);
+    for (std::string line; std::getline(lines, line);) {
+        result += line[0] == ' ' ? "\n    " + line.substr(2) : markdown(line);
+        result += '\n';
     }
-    return ".TP\n\\fB" + names + "\\fR\n" + roff(option.get_description()) + '\n';
+    return result;
 }
 
 }  // namespace
 
-std::string manual_page(const CLI::App& program, const std::string& version) {
+std::string manual_page(const CLI::App& program, const Choices& choices,
+                        const std::string& version) {
     std::string page = ".TH LMRTEXT 1 \"\" \"lmrtext " + version +
                        "\" \"User Commands\"\n.SH NAME\nlmrtext \\- " +
                        roff(program.get_description()) +
@@ -83,9 +185,41 @@ std::string manual_page(const CLI::App& program, const std::string& version) {
     for (const CLI::App* command : commands_of(program)) {
         page +=
             ".SS " + roff(command->get_name()) + '\n' + roff(command->get_description()) + ".\n";
-        for (const CLI::Option* option : command->get_options()) page += manual_option(*option);
+        for (const CLI::Option* option : command->get_options()) {
+            page += manual_option(*option, choices);
+        }
         const std::string footer = command->get_footer();
         if (!footer.empty()) page += ".PP\n.nf\n" + roff(footer) + "\n.fi\n";
+    }
+    page += ".SH VALUES\n";
+    for (const ValueTable& table : value_tables(program, choices)) {
+        page += ".SS " + roff(table.flag) + '\n';
+        for (const ValueTable::Value& value : table.values) {
+            page += roff_entry(roff(value.choice.name), table.help(value));
+        }
+    }
+    return page;
+}
+
+std::string manual_in_markdown(const CLI::App& program, const Choices& choices) {
+    std::string page;
+    for (const CLI::App* command : commands_of(program)) {
+        page += "### lmrtext " + command->get_name() + "\n\n" +
+                markdown(command->get_description()) + ".\n\n";
+        std::string rows;
+        for (const CLI::Option* option : command->get_options()) {
+            if (option != command->get_help_ptr()) rows += markdown_option(*option, choices);
+        }
+        if (!rows.empty()) page += "| option | |\n| --- | --- |\n" + rows + '\n';
+        const std::string footer = command->get_footer();
+        if (!footer.empty()) page += markdown_footer(footer) + '\n';
+    }
+    page += "### Values\n";
+    for (const ValueTable& table : value_tables(program, choices)) {
+        page += "\n| `" + table.flag + "` | |\n| --- | --- |\n";
+        for (const ValueTable::Value& value : table.values) {
+            page += "| `" + value.choice.name + "` | " + markdown(table.help(value)) + " |\n";
+        }
     }
     return page;
 }
@@ -101,7 +235,7 @@ std::string bash_completion(const CLI::App& program, const Choices& choices) {
             all.insert(all.end(), flags.begin(), flags.end());
             const auto known = choices.find(option);
             if (known == choices.end()) continue;
-            const std::string words = joined(known->second, " ");
+            const std::string words = names_of(known->second);
             for (const std::string& flag : flags) {
                 values.append("        '").append(name).append(" ").append(flag);
                 values.append("') words='").append(words).append("' ;;\n");
@@ -144,9 +278,9 @@ std::string zsh_completion(const CLI::App& program, const Choices& choices) {
             const auto known = choices.find(option);
             for (const std::string& flag : flags_of(*option)) {
                 arguments += " \\\n            '*" + flag + '[' +
-                             quoted(brief(option->get_description())) + ']';
+                             quoted(brief(purpose_of(*option, choices))) + ']';
                 if (known != choices.end()) {
-                    arguments += ":value:(" + joined(known->second, " ") + ')';
+                    arguments += ":value:(" + names_of(known->second) + ')';
                 } else if (takes_value(*option)) {
                     arguments += ":value:_default";
                 }
@@ -187,11 +321,11 @@ std::string fish_completion(const CLI::App& program, const Choices& choices) {
             for (const std::string& flag : option->get_lnames()) lines += " -l " + flag;
             const auto known = choices.find(option);
             if (known != choices.end()) {
-                lines += " -x -a " + quoted(joined(known->second, " "));
+                lines += " -x -a " + quoted(names_of(known->second));
             } else if (takes_value(*option)) {
                 lines += " -r";
             }
-            lines += " -d " + quoted(brief(option->get_description())) + '\n';
+            lines += " -d " + quoted(brief(purpose_of(*option, choices))) + '\n';
         }
     }
     return lines;

@@ -27,22 +27,35 @@ constexpr int exit_trouble = 2;  // wrong usage, and failures of searches, as wi
 constexpr unsigned int longest_line = 4294967294;
 constexpr unsigned int most_jobs = 1024;
 
-/// A table of named rows as a help text.
 template <class Row>
-std::string row_help(const std::string& purpose, std::span<const Row> rows) {
-    std::string help = purpose;
-    const char* separator = ": ";
-    for (const Row& row : rows) {
-        help += separator + std::string(row.name) + " (" + row.help + ")";
-        separator = ", ";
-    }
-    return help;
+std::string help_of(const Row& row) {
+    return row.help;
 }
 
-/// The options that take the name of a row, for completion.
+std::string help_of(const RichTextTarget& target) {
+    return std::string(target.help) + " (." + target.ending + ')';
+}
+
+std::string help_of(const Output& output) {
+    return output.target ? help_of(*output.target) : output.help;
+}
+
+/// The options that take the name of a row, for what is told of the program elsewhere.
 Choices& choices() {
     static Choices noted;
     return noted;
+}
+
+/// The purpose of an option, and a line for each of its values.
+std::string help_text(const ChoiceOption& option) {
+    std::size_t width = 0;
+    for (const Choice& value : option.values) width = std::max(width, value.name.size());
+    std::string help = option.purpose;
+    for (const Choice& value : option.values) {
+        const std::string blanks(width - value.name.size() + 2, ' ');
+        help.append("\n  ").append(value.name).append(blanks).append(value.help);
+    }
+    return help;
 }
 
 /// Adds an option that takes the name of a row.
@@ -56,10 +69,12 @@ CLI::Option* add_row_option(CLI::App* command, const char* flag, const Row*& cho
         for (const Row& known : rows) expected += std::string(" ") + known.name;
         throw CLI::ValidationError(expected);
     };
+    ChoiceOption noted{purpose, {}};
+    for (const Row& row : rows) noted.values.push_back({row.name, help_of(row)});
     CLI::Option* const option =
-        command->add_option_function<std::string>(flag, choose, row_help(purpose, rows))
+        command->add_option_function<std::string>(flag, choose, help_text(noted))
             ->type_name("KIND");
-    for (const Row& row : rows) choices()[option].push_back(row.name);
+    choices()[option] = std::move(noted);
     return option;
 }
 
@@ -139,14 +154,14 @@ void add_fields(CLI::App& program, FieldsOptions& options) {
     CLI::App* command =
         program.add_subcommand("fields", "Lists the labels and groups of an entry's fields");
     options.view = row_named(views(), "internal");
-    add_row_option(command, "--view", options.view, views(), "Which fields, internal unless given");
+    add_row_option(command, "--view", options.view, views(), "Which fields; internal unless given");
 }
 
 /// Adds the options that choose fields; the fields of the view stand unless others are named.
 void add_field_options(CLI::App* command, const View*& view,
                        std::vector<LMRFieldNames::TextID>& fields) {
     view = row_named(views(), "default");
-    add_row_option(command, "--view", view, views(), "Which fields, default unless given");
+    add_row_option(command, "--view", view, views(), "Which fields; default unless given");
     command
         ->add_option_function<std::string>(
             "--fields", [&fields](const std::string& labels) { fields = fields_named(labels); },
@@ -178,9 +193,10 @@ void add_show(CLI::App& program, ShowArguments& arguments) {
 
 void add_tolerance_option(CLI::App* command, SearchSettings& settings) {
     command
-        ->add_option("--tolerance", settings.tolerance,
-                     "How far numbers may differ; 0 unless given, whole numbers with "
-                     "1e-7 for rounding")
+        ->add_option(
+            "--tolerance", settings.tolerance,
+            "How far numbers may differ, 0 unless given; a whole number allows 1e-7 more, for "
+            "rounding")
         ->check([](const std::string& tolerance) {
             if (is_tolerance(tolerance)) return std::string();
             return "'" + tolerance + "' is no tolerance; expected a number of at least 0";
@@ -218,7 +234,8 @@ void add_search(CLI::App& program, SearchOptions& options) {
         "otherwise blue. The exit status is 0 when something matched, 1 when nothing did and 2 on\n"
         "trouble. A text that fails is reported as FILE:LINE; the others go on. Example:\n"
         "  lmrtext search --how numeric --term 1.54 --tolerance 0.01 --to slices lengths.txt");
-    add_row_option(command, "--how", options.how, search_kinds(), "What matches");
+    add_row_option(command, "--how", options.how, search_kinds(),
+                   "What is marked, and when a text matches as a whole");
     command
         ->add_option_function<std::string>(
             "--field",
@@ -231,10 +248,11 @@ void add_search(CLI::App& program, SearchOptions& options) {
         ->type_name("LABEL");
     command->add_option("--term", options.term, "What to search for")->required();
     add_tolerance_option(command, options.settings);
-    command->add_option("--min-length", options.settings.min_match_length,
-                        "Substring: the shortest run that matches, in characters; 3 unless given");
+    command->add_option(
+        "--min-length", options.settings.min_match_length,
+        "The shortest run that a substring search marks, in characters; 3 unless given");
     add_row_option(command, "--from", options.from, sources(),
-                   "What the texts are, plain unless given");
+                   "What the texts are; plain unless given");
     add_row_option(command, "--to", options.to, search_outputs(),
                    "What to write; unless given, ansi on a terminal and html5 elsewhere");
     command->add_flag("--matching", options.only_matching, "Write only the texts that match");
@@ -268,7 +286,9 @@ int run_convert(ConvertOptions& options) {
 /// Adds the commands that tell of the program itself.
 void add_texts(CLI::App& program) {
     program.add_subcommand("targets", "Lists what can be written: name, ending of files, content");
-    program.add_subcommand("manual", "Prints the manual page");
+    program.add_subcommand("manual", "Prints the manual page")
+        ->add_flag("--markdown")
+        ->description("In Markdown, as a part of a page");
     CLI::App* completion =
         program.add_subcommand("completion", "Prints a script that completes commands in a shell");
     completion->add_option("SHELL", "bash, zsh or fish")
@@ -279,7 +299,9 @@ void add_texts(CLI::App& program) {
 int run_text(const CLI::App& program) {
     std::string text;
     if (program.got_subcommand("manual")) {
-        text = manual_page(program, LMRTEXT_VERSION);
+        text = program.get_subcommand("manual")->count("--markdown") > 0
+                   ? manual_in_markdown(program, choices())
+                   : manual_page(program, choices(), LMRTEXT_VERSION);
     } else {
         const auto shell =
             program.get_subcommand("completion")->get_option("SHELL")->as<std::string>();

@@ -58,8 +58,8 @@ private:
 }  // namespace
 
 std::span<const Output> search_outputs() {
-    static const std::vector<Output> outputs =
-        outputs_with("slices", "true or false and the ranges, tab-separated");
+    static const std::vector<Output> outputs = outputs_with(
+        "slices", "true or false, a tab, and the ranges in bytes from 0: false<TAB>14-30");
     return outputs;
 }
 

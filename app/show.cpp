@@ -194,8 +194,8 @@ private:
 }  // namespace
 
 std::span<const Output> show_outputs() {
-    static const std::vector<Output> outputs =
-        outputs_with("json", "labels, groups, texts, mark-up and runs of each entry");
+    static const std::vector<Output> outputs = outputs_with(
+        "json", "labels, groups, texts, mark-up and runs of uniform style of each entry (.json)");
     return outputs;
 }
 
