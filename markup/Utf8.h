@@ -15,14 +15,13 @@ struct Utf8Character {
 };
 
 /// Decodes the front of `text`, which is not empty.
-[[gnu::visibility("hidden")]] Utf8Character first_character(std::string_view text);
+Utf8Character first_character(std::string_view text);
 
 /// One past the character at the front of `text`, which is not empty, with the accents, bars and
 /// the like that combine with it.
-[[gnu::visibility("hidden")]] std::size_t end_of_character(std::string_view text);
+std::size_t end_of_character(std::string_view text);
 
 /// The last position up to `position` that is not inside a UTF-8 character.
-[[gnu::visibility("hidden")]] unsigned int start_of_character(std::string_view text,
-                                                              unsigned int position);
+unsigned int start_of_character(std::string_view text, unsigned int position);
 
-[[gnu::visibility("hidden")]] void append_utf8(std::string& result, char32_t code);
+void append_utf8(std::string& result, char32_t code);
