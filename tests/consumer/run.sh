@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the build, and builds and runs the README's example against what was installed:
+# Installs the build, and builds the README's example, which it runs, and the tutorial's program
+# against what was installed:
 # run.sh SOURCE_FOLDER BUILD_FOLDER COMPILER
 set -euo pipefail
 
@@ -20,7 +21,8 @@ check() {
 }
 
 cmake -S "$source/tests/consumer" -B "$work/build" -G Ninja -DCMAKE_CXX_COMPILER="$compiler" \
-    -DCMAKE_PREFIX_PATH="$prefix" -DEXAMPLE="$work/example.cpp" >"$work/configure.log"
+    -DCMAKE_PREFIX_PATH="$prefix" -DEXAMPLE="$work/example.cpp" \
+    -DTUTORIALS="$source/docs/tutorials" >"$work/configure.log"
 cmake --build "$work/build"
 check "$work/build/by_package"
 

@@ -1,0 +1,36 @@
+#include <iostream>
+
+#include "TypstRichTextGenerator.h"
+#include "finders/InputTextStyleFinder.h"
+#include "finders/TevoChemicalNameStyleFinder.h"
+#include "text/BoldStyle.h"
+#include "text/ItalicStyle.h"
+#include "text/TextItem.h"
+
+namespace {
+
+template <class Style>
+THandle<TextItemStyle> laid_on(unsigned int from, unsigned int to) {
+    auto style = make_handle<Style>();
+    style->activate(from, to);
+    return style;
+}
+
+}  // namespace
+
+int main() {
+    TypstRichTextGenerator generator;
+
+    TextItem name(make_handle<TevoChemicalNameStyleFinder>(), "kappa$2!N-mu!3$-oxo");
+    name.create_color(16, 19, TextItem::green4);
+    std::cout << name.mark_up_text(generator) << '\n';
+
+    const TextItem plain(make_handle<InputTextStyleFinder>(), "#1: 50% *new*\xff\nsee [2]");
+    std::cout << plain.mark_up_text(generator) << '\n';
+
+    name.set_line_length(4);
+    std::cout << name.mark_up_text(generator) << '\n';
+
+    const RichTextData::Styles crossing = {laid_on<BoldStyle>(0, 6), laid_on<ItalicStyle>(3, 9)};
+    std::cout << generator.mark_up_text({"onetwosix", 0, crossing, {}, {}, {}}) << '\n';
+}
