@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the build, and builds the README's example, which it runs, and the tutorial's program
+# Installs the build, and builds the README's example, which it runs, and the tutorials' programs
 # against what was installed:
 # run.sh SOURCE_FOLDER BUILD_FOLDER COMPILER
 set -euo pipefail
