@@ -29,7 +29,7 @@ if(LMRTEXT_BUILD_PROGRAM)
 endif()
 if(LMRTEXT_BUILD_PROGRAM AND NOT CMAKE_CROSSCOMPILING)
     set(texts ${PROJECT_BINARY_DIR}/app)
-    install(FILES ${texts}/lmrtext.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    install(FILES ${texts}/lmrtext.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
     install(FILES ${texts}/lmrtext.bash RENAME lmrtext
             DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
     install(FILES ${texts}/_lmrtext DESTINATION ${LMRTEXT_ZSH_FOLDER})

@@ -8,8 +8,6 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR} ${PROJECT_BINARY_DIR}/default_host)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 
 # The program and the headers fit the library of the same build.
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
@@ -18,6 +16,15 @@ set(CPACK_COMPONENT_PROGRAM_DEPENDS library)
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME liblmrtext${soname_version})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+# Others' packages depend on the library by its sonames, and the cache of libraries is renewed.
+set(control ${PROJECT_BINARY_DIR}/debian)
+file(WRITE ${control}/triggers "activate-noawait ldconfig\n")
+file(WRITE ${control}/shlibs "")
+foreach(library lmrtext kovrhost)
+    file(APPEND ${control}/shlibs "lib${library} ${soname_version} ${CPACK_DEBIAN_LIBRARY_PACKAGE_NAME} "
+                                  "(>= ${PROJECT_VERSION})\n")
+endforeach()
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${control}/shlibs ${control}/triggers)
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION
     "Holds the text fields of crystal-structure entries with their styles, converts
 them between mark-ups, and highlights what a search matches.")
@@ -37,7 +44,7 @@ crystal-structure entries.")
 set(CPACK_COMPONENTS_ALL library development program)
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     string(TOUPPER ${component} upper)
-    install(FILES LICENSE RENAME copyright COMPONENT ${component}
+    install(FILES cmake/copyright COMPONENT ${component}
             DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
 endforeach()
 include(CPack)

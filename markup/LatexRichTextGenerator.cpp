@@ -115,7 +115,5 @@ void LatexRichTextGenerator::write_text(std::string& result, std::string_view te
 
 void LatexRichTextGenerator::add_letter(std::string& result, const std::string& letter,
                                         unsigned int& column, unsigned int line_length) const {
-    result += letter;
-    ++column;
-    if (line_length != 0 && column % line_length == 0) result += tag_factory().line_break();
+    add_letter_as_mark_up(result, letter, column, line_length);
 }

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "markup/NestedStyles.h"
+#include "markup/RichTextTagFactory.h"
 #include "markup/Utf8.h"
 #include "text/GreekStyle.h"
 #include "text/Position.h"
@@ -42,4 +43,12 @@ unsigned int NestingRichTextGenerator::write_characters(std::string& result, std
     write_text(result, text.substr(0, end));
     text.remove_prefix(end);
     return characters;
+}
+
+void NestingRichTextGenerator::add_letter_as_mark_up(std::string& result, const std::string& letter,
+                                                     unsigned int& column,
+                                                     unsigned int line_length) const {
+    result += letter;
+    ++column;
+    if (line_length != 0 && column % line_length == 0) result += tag_factory().line_break();
 }

@@ -16,8 +16,13 @@ public:
     std::string mark_up_text(const RichTextData& data) const override;
 
 protected:
-    /// Appends whole characters in the target's form.
+    /// Appends whole characters in the target's form; bytes that are no UTF-8 may be among them.
     virtual void write_text(std::string& result, std::string_view text) const = 0;
+
+    /// What add_letter() does where letters are mark-up: appends `letter` as it is, for one
+    /// character of its line.
+    void add_letter_as_mark_up(std::string& result, const std::string& letter, unsigned int& column,
+                               unsigned int line_length) const;
 
     unsigned int write_characters(std::string& result, std::string_view& text,
                                   unsigned int limit) const override;
