@@ -4,5 +4,5 @@
 
 /// An angle of a cell.
 struct Angle {
-    UncertainValue degrees;
+    UncertainValue degrees;  ///< Above 0 and below 180 in a cell that exists.
 };

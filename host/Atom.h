@@ -4,6 +4,9 @@
 
 /// An atom of the asymmetric unit.
 struct Atom {
-    std::string label;
-    double x, y, z;  // fractions of the cell's edges
+    std::string label;  ///< Of the atom's site: "C12".
+    /// Fractions of the cell's edges a, b and c; not only from 0 to 1.
+    /// @{
+    double x, y, z;
+    /// @}
 };

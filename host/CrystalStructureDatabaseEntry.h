@@ -12,9 +12,12 @@
 #include "host/THandle.h"
 
 /// An entry of the database: its records, each shared with whoever holds its handle. A new entry
-/// has an empty record of each kind.
+/// has an empty record of each kind. Where a handle is made null, texts of that record raise the
+/// null-handle error.
 struct CrystalStructureDatabaseEntry {
-    std::string identifier;
+    std::string identifier;  ///< The entry's name in the database, shown as it stands.
+    /// The record of that kind.
+    /// @{
     THandle<ChemicalInfo> chemical_info = make_handle<ChemicalInfo>();
     THandle<CrystalInfo> crystal_info = make_handle<CrystalInfo>();
     THandle<ExperimentalInfo> experimental_info = make_handle<ExperimentalInfo>();
@@ -22,4 +25,5 @@ struct CrystalStructureDatabaseEntry {
     THandle<Publication> publication = make_handle<Publication>();
     THandle<DepositionInfo> deposition_info = make_handle<DepositionInfo>();
     THandle<CrossReferenceInfo> cross_reference_info = make_handle<CrossReferenceInfo>();
+    /// @}
 };

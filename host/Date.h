@@ -4,10 +4,11 @@
 
 /// A day of the calendar, or none.
 struct Date {
-    int year = 0;
-    int month = 0;  // 1 to 12
-    int day = 0;    // 1 to 31
+    int year = 0;   ///< In full: 2004.
+    int month = 0;  ///< 1 to 12.
+    int day = 0;    ///< 1 to 31.
 
+    /// Whether it is no day: all three are 0.
     bool is_null() const { return year == 0 && month == 0 && day == 0; }
     /// Writes "2004-07-09".
     void print(std::ostream& os) const;

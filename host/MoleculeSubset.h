@@ -6,5 +6,5 @@
 
 /// The atoms of an entry that have coordinates.
 struct MoleculeSubset {
-    std::vector<Atom> atoms;
+    std::vector<Atom> atoms;  ///< Each once, those made by symmetry left out.
 };

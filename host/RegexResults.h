@@ -10,9 +10,13 @@
 /// One object may be used for any number of searches in turn, which saves their allocations.
 class RegexResults {
 public:
+    /// No match.
     RegexResults();
+    /// Takes the match, and leaves none in `other`.
+    /// @{
     RegexResults(RegexResults&& other) noexcept;
     RegexResults& operator=(RegexResults&& other) noexcept;
+    /// @}
     ~RegexResults();
 
     /// How many numbers there are: the groups and the whole match; 0 without a match.
@@ -21,9 +25,11 @@ public:
     bool matched(unsigned int number) const;
     /// First position, one past the last position, and the characters between. All throw
     /// std::out_of_range for a number that is not below size() or did not take part.
+    /// @{
     unsigned int start(unsigned int number = 0) const;
     unsigned int end(unsigned int number = 0) const;
     std::string text(unsigned int number = 0) const;
+    /// @}
 
 private:
     friend class Regex;

@@ -8,7 +8,8 @@
 
 #include "host/THandleCommon.h"
 
-/// A reference-counted handle: the object dies with its last handle.
+/// A reference-counted handle: the object dies with its last handle. Handles are equal when they
+/// hold the same object, or none.
 ///
 /// Handles to one object may be copied and destroyed in several threads at once; a single handle,
 /// like any value, belongs to one thread at a time. T may be incomplete where a handle is only
@@ -16,22 +17,30 @@
 template <class T>
 class THandle {
 public:
+    /// Holds no object.
+    /// @{
     THandle() = default;
     THandle(std::nullptr_t) {}
+    /// @}
     /// Takes ownership of `object`, which may be null.
     template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     explicit THandle(U* object) : object_(object) {}
+    /// Shares the object of a handle to a subclass, or takes it and leaves that handle null.
+    /// @{
     template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     THandle(const THandle<U>& other) : object_(other.object_) {}
     template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     THandle(THandle<U>&& other) noexcept : object_(std::move(other.object_)) {}
+    /// @}
 
-    /// Both raise THandleCommon::null_handle_error() when the handle is null.
+    /// Raises THandleCommon::null_handle_error() when the handle is null.
+    /// @{
     T* operator->() const { return checked(); }
     T& operator*() const { return *checked(); }
+    /// @}
 
-    bool is_null() const { return !object_; }
-    explicit operator bool() const { return !is_null(); }
+    bool is_null() const { return !object_; }              ///< Whether it holds no object.
+    explicit operator bool() const { return !is_null(); }  ///< Whether it holds an object.
     /// The object or nullptr; the handle keeps the ownership.
     T* get() const { return object_.get(); }
 
