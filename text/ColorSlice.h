@@ -12,10 +12,13 @@ public:
     ColorSlice(unsigned int from, unsigned int to, TextItem::ColorName color)
         : slice_(from, to), color_(color) {}
 
+    /// The run: its first position, one past its last, and both.
+    /// @{
     unsigned int from() const { return slice_.from(); }
     unsigned int to() const { return slice_.to(); }
     const StringSlice& slice() const { return slice_; }
-    TextItem::ColorName color() const { return color_; }
+    /// @}
+    TextItem::ColorName color() const { return color_; }  ///< As given, unchecked.
 
     /// Writes from, to and the colour's value with blanks between: "3 7 2".
     void print(std::ostream& os) const;

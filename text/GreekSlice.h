@@ -12,9 +12,13 @@ public:
     GreekSlice(unsigned int from, unsigned int to, TextItem::GreekSymbol symbol)
         : slice_(from, to), symbol_(symbol) {}
 
+    /// The run: its first position, one past its last, and both.
+    /// @{
     unsigned int from() const { return slice_.from(); }
     unsigned int to() const { return slice_.to(); }
     const StringSlice& slice() const { return slice_; }
+    /// @}
+    /// no_symbol where the run looks like a letter and stands for none.
     TextItem::GreekSymbol symbol() const { return symbol_; }
 
     /// Writes from, to and the symbol's value with blanks between: "0 5 1".

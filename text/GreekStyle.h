@@ -6,9 +6,11 @@
 /// Text that is shown as one Greek letter.
 class GreekStyle : public TextItemStyle {
 public:
+    /// Not yet on a slice.
     explicit GreekStyle(TextItem::GreekSymbol symbol) : symbol_(symbol) {}
     ~GreekStyle() override;
 
+    /// The letter; what no_symbol shows is each generator's affair.
     TextItem::GreekSymbol symbol() const { return symbol_; }
 
     std::string start_tag(const RichTextTagFactory& factory) const override;

@@ -5,9 +5,11 @@
 /// Text that is shown as another text.
 class ReplacementTextStyle : public TextItemStyle {
 public:
+    /// Not yet on a slice. An empty text shows nothing in the slice's place.
     explicit ReplacementTextStyle(const std::string& text) : replacement_text_(text) {}
     ~ReplacementTextStyle() override;
 
+    /// A copy of the text.
     std::string replacement_text() const { return replacement_text_; }
 
     std::string start_tag(const RichTextTagFactory& factory) const override;

@@ -15,11 +15,10 @@ public:
         if (to < from || to == no_position) refuse();
     }
 
-    unsigned int from() const { return from_; }
-    /// One past the last position.
-    unsigned int to() const { return to_; }
-    bool empty() const { return from_ == to_; }
-    unsigned int length() const { return to_ - from_; }
+    unsigned int from() const { return from_; }          ///< The first position.
+    unsigned int to() const { return to_; }              ///< One past the last position.
+    bool empty() const { return from_ == to_; }          ///< Whether it holds no position.
+    unsigned int length() const { return to_ - from_; }  ///< How many positions it holds.
 
     /// Whether every position of `other` is one of this slice; false when either is empty.
     bool has_subset(const StringSlice& other) const {
@@ -27,6 +26,7 @@ public:
     }
     /// has_subset() without equality.
     bool has_proper_subset(const StringSlice& other) const;
+    /// Whether `pos` is one of its positions; `to()` is not.
     bool contains(unsigned int pos) const { return from_ <= pos && pos < to_; }
     /// Whether the two share a position; slices that only touch do not.
     bool overlaps(const StringSlice& other) const;

@@ -10,6 +10,7 @@
 /// them: no two threads may read one reducer at a time.
 class StringSliceReducer {
 public:
+    /// Starts without slices.
     StringSliceReducer() = default;
     /// Starts with the slices of an iterator range.
     template <class Iterator>
@@ -17,7 +18,8 @@ public:
         add(first, last);
     }
 
-    /// The merged slices. Their order carries no meaning.
+    /// The merged slices, none of them empty. Their order carries no meaning. The list is the
+    /// reducer's own: the next add() changes it.
     const std::vector<StringSlice>& slices() const;
     /// The number of positions that all the slices added so far cover together.
     int total_length() const;

@@ -8,16 +8,18 @@
 ///
 /// A slice [f, t) crosses some style exactly when the hull of all styles that have a node between f
 /// and t reaches beyond f or t. The nodes stand in blocks of neighbouring positions under a binary
-/// tree of hulls, so that adding and asking are O(log n) for n positions, and a text as short as
-/// one block costs one plain list.
+/// tree of hulls, so that adding and asking are O(log n) for n positions, once the first addition
+/// to a text has laid them out in O(n), and a text as short as one block costs one plain list.
 class StyleNodes {
 public:
     /// Forgets all styles, for a text of that length. Keeps the memory for the next ones.
     void reset(unsigned int text_length);
 
     /// Whether some style has a node between the ends of `slice`, the ends themselves left out.
+    /// O(log n) for each style added since it was asked last, besides.
     bool any_inside(const StringSlice& slice);
-    /// Whether `slice` and some style have a partial intersection.
+    /// Whether `slice` and some style have a partial intersection. Like add(), for slices within
+    /// the text only.
     bool crosses(const StringSlice& slice) const;
 
     /// Adds the nodes of one style; leaves everything as it was when memory runs out.

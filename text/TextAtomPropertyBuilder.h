@@ -13,8 +13,12 @@ public:
     /// Starts from `initial`, whose colour is not among those that end_color() returns to.
     explicit TextAtomPropertyBuilder(const TextAtomProperty& initial) : property_(initial) {}
 
+    /// A copy of what is in force now.
     TextAtomProperty text_atom_property() const { return property_; }
 
+    /// A style of that kind begins; its property is set, and set back to the default where one
+    /// ends, whether or not one had begun.
+    /// @{
     void begin_bold() { property_.set_bold(true); }
     void end_bold() { property_.set_bold(false); }
     void begin_italic() { property_.set_italic(true); }
@@ -29,6 +33,8 @@ public:
     void end_greek() { property_.set_greek(TextItem::no_symbol); }
     void begin_replacement_text(const std::string& text) { property_.set_replacement_txt(text); }
     void end_replacement_text() { property_.set_replacement_txt(""); }
+    /// @}
+    /// Sets the colour, and remembers it until its end_color().
     void begin_color(TextItem::ColorName color);
     /// Returns to the colour begun before and not yet ended, or to black.
     void end_color();
