@@ -14,8 +14,8 @@ class EnumTextMapping {
 public:
     /// One row of the table.
     struct Initialiser {
-        T member;
-        const char* text;
+        T member;          ///< Any value of T.
+        const char* text;  ///< Not null; copied.
     };
 
     /// Throws std::invalid_argument, "Internal Error: in EnumTextMapping::EnumTextMapping, size
@@ -23,8 +23,8 @@ public:
     /// O(r log r) for r rows.
     EnumTextMapping(const Initialiser* rows, unsigned int size);
 
-    /// The text of `member`; throws std::invalid_argument "Internal Error: member N not in
-    /// EnumTextMapping" when there is none. Linear in the rows: the tables are small.
+    /// A copy of the text of `member`; throws std::invalid_argument "Internal Error: member N not
+    /// in EnumTextMapping" when there is none. Linear in the rows: the tables are small.
     std::string text(T member) const;
     /// Appends every member to `out`, in ascending order of the texts' bytes.
     void all_members(std::vector<T>& out) const;

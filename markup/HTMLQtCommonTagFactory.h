@@ -29,6 +29,7 @@ public:
     std::string end_replacement_text() const override { return {}; }
     std::string line_break() const override { return "<br>"; }
 
+    /// What ends colours and Greek letters alike.
     std::string end_font() const { return "</font>"; }
 
 private:

@@ -13,9 +13,12 @@ class TextItemStyle;
 /// Keeps references to the caller's lists: must not outlive the item that made it.
 class RichTextData {
 public:
+    /// A list of a text's styles; none of the handles is null.
+    /// @{
     using Styles = std::vector<THandle<TextItemStyle>>;
     using GreekStyles = std::vector<THandle<GreekStyle>>;
     using ReplacementTextStyles = std::vector<THandle<ReplacementTextStyle>>;
+    /// @}
 
     /// `styles` are those whose tags are written; the other lists name those among them whose
     /// characters are left out or shown as something else. A line length of 0 breaks no lines.
@@ -24,15 +27,19 @@ public:
                  const Styles& invisible, const GreekStyles& greek,
                  const ReplacementTextStyles& replacement_text);
 
+    /// A copy of the text.
     std::string text() const { return text_; }
     /// The text itself, for those who do not outlive this.
     const std::string& characters() const { return text_; }
-    /// In characters of the output, tags not counted.
+    /// In characters of the output, tags not counted; 0 breaks no lines.
     unsigned int line_length() const { return line_length_; }
+    /// The caller's list of that name.
+    /// @{
     const Styles& styles() const { return styles_; }
     const Styles& invisible() const { return invisible_; }
     const GreekStyles& greek() const { return greek_; }
     const ReplacementTextStyles& replacement_text() const { return replacement_text_; }
+    /// @}
 
 private:
     std::string text_;

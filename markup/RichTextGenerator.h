@@ -19,6 +19,7 @@ class TextItemToOtherGreek;
 /// one generator belongs to one thread at a time.
 class RichTextGenerator {
 public:
+    /// Shares both. Every later use of a null handle raises its error.
     RichTextGenerator(THandle<RichTextTagFactory> tag_factory,
                       THandle<TextItemToOtherGreek> greek_converter);
     RichTextGenerator(const RichTextGenerator&) = delete;
@@ -28,16 +29,18 @@ public:
     /// Writes every character, or what its style shows in its place, between the tags of the
     /// styles. Where a style that covers characters begins inside another such range, the covering
     /// ends with the inner one. A style that ends beyond the text is not closed, and styles that
-    /// cross give tags that cross. Throws what the converters throw, and the null-handle error for
-    /// a null handle in a list. O(n + m log m) for n characters, written ones included, and m
-    /// styles.
+    /// cross give tags that cross. Throws what factory and converter throw, the null-handle error
+    /// for a null handle in a list, and std::length_error "too many styles error" for a list of
+    /// more than 1073741824. O(n + m log m) for n characters, written ones included, and m styles.
     virtual std::string mark_up_text(const RichTextData& data) const;
 
 protected:
-    // A list of styles, or a part of one.
+    /// A list of styles, or a part of one, which the caller keeps.
+    /// @{
     using Styles = std::span<const THandle<TextItemStyle>>;
     using GreekStyles = std::span<const THandle<GreekStyle>>;
     using ReplacementTextStyles = std::span<const THandle<ReplacementTextStyle>>;
+    /// @}
 
     /// Writes at most `limit` characters (at least 1) from the front of `text` to `result` in the
     /// target's form, takes them off `text`, and returns their number. The base writes bytes as
@@ -54,6 +57,7 @@ protected:
     /// left out.
     virtual void write_tag(std::string& result, const std::string& tag, bool opens) const;
 
+    /// The factory, which lives as long as this; raises the null-handle error without one.
     const RichTextTagFactory& tag_factory() const { return *tag_factory_; }
 
     /// closing_tags() and then opening_tags().
@@ -65,16 +69,20 @@ protected:
     std::string opening_tags(unsigned int position, Styles styles) const;
 
     /// Whether a style of the list begins at `position`; the first one becomes the current style of
-    /// its kind, for a subclass that walks the text itself.
+    /// its kind, for a subclass that walks the text itself. Linear in the list.
+    /// @{
     bool has_invisible_style(unsigned int position, Styles styles) const;
     bool has_greek_style(unsigned int position, GreekStyles styles) const;
     bool has_replacement_text_style(unsigned int position, ReplacementTextStyles styles) const;
-    /// The current styles; null before the first.
+    /// @}
+    /// The current style of that kind; null before the first, as mark_up_text() leaves it.
+    /// @{
     const THandle<TextItemStyle>& current_invisible_style() const { return current_invisible_; }
     const THandle<GreekStyle>& current_greek_style() const { return current_greek_; }
     const THandle<ReplacementTextStyle>& current_replacement_text_style() const {
         return current_replacement_text_;
     }
+    /// @}
 
     /// Appends `block` to `result`, with a line break wherever `column`, the number of characters
     /// written so far, becomes a multiple of `line_length`; 0 breaks no lines.

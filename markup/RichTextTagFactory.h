@@ -13,11 +13,14 @@ public:
     RichTextTagFactory& operator=(const RichTextTagFactory&) = delete;
     virtual ~RichTextTagFactory();
 
+    /// What opens, or closes, that style; empty where the target has no tag for it.
+    /// @{
     virtual std::string start_bold() const = 0;
     virtual std::string end_bold() const = 0;
     virtual std::string start_italic() const = 0;
     virtual std::string end_italic() const = 0;
-    /// Throws std::invalid_argument where the target has no word for the colour.
+    /// What opens a colour, likewise; targets with colours throw std::invalid_argument, as
+    /// EnumTextMapping::text() does, for a value that is none.
     virtual std::string start_color(TextItem::ColorName color) const = 0;
     virtual std::string end_color() const = 0;
     virtual std::string start_superscript() const = 0;
@@ -32,5 +35,7 @@ public:
     virtual std::string end_invisible() const = 0;
     virtual std::string start_replacement_text() const = 0;
     virtual std::string end_replacement_text() const = 0;
+    /// @}
+    /// What ends a line that is broken at the wanted length; empty where the target breaks none.
     virtual std::string line_break() const = 0;
 };

@@ -10,16 +10,17 @@ class TwoPassRichTextGenerator : public NestingRichTextGenerator {
 public:
     /// A tag of the factory that has been noted. The tags nest.
     struct Tag {
-        std::size_t position;  // in the text of the first pass
-        std::string text;
-        bool opens;
-        std::size_t partner;  // the index of the tag that closes or opens the same style
+        std::size_t position;  ///< In bytes of the text of the first pass, where the tag belongs.
+        std::string text;      ///< The factory's; the text of the first pass does not hold it.
+        bool opens;            ///< Whether it opens its style, and does not close it.
+        std::size_t partner;   ///< The index of the tag that closes or opens the same style.
     };
 
     using NestingRichTextGenerator::NestingRichTextGenerator;
     ~TwoPassRichTextGenerator() override;
 
-    /// O(t) for t tags and characters, beside what the base costs.
+    /// Calls compose() on what the base writes. O(t) for t tags and characters, beside what the
+    /// base costs.
     std::string mark_up_text(const RichTextData& data) const override;
 
 protected:

@@ -14,12 +14,13 @@ public:
     std::string mark_up_text(const RichTextData& data) const override;
 
 protected:
+    /// For a subclass with tags of its own; shares the factory.
     explicit UnicodeRichTextGenerator(THandle<RichTextTagFactory> tag_factory);
 
     void write_text(std::string& result, std::string_view text) const override;
 
-    /// What shows a control character, its Unicode symbol where it has one; line feeds and all
-    /// other characters stay.
+    /// What shows a control character, its Unicode symbol or, above 0x7F, U+FFFD; line feeds and
+    /// all other characters stay.
     static char32_t visible(char32_t code);
 
     std::string compose(std::string_view text, const std::vector<Tag>& tags) const override;
