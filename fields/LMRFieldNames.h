@@ -6,6 +6,7 @@
 /// which they are shown. It only reads constant tables and may be used by any thread.
 class LMRFieldNames {
 public:
+    /// The fields, in the order of the lists but the default one.
     enum TextID : int {
         identifier,
         cell_lengths,
@@ -77,6 +78,7 @@ public:
     /// The label under which the field is shown and found. Throws std::invalid_argument "Internal
     /// Error: Invalid field name requested in LMRFieldNames::text " unless valid_id().
     static const char* text(TextID id);
+    /// Whether it is one of the enumerators.
     static bool valid_id(TextID id);
     /// Stores in `id` the field of that label, to the byte; returns false, with `id` as it was,
     /// when there is none. O(f) for the f fields of the catalogue.
@@ -87,9 +89,11 @@ public:
     static const char* group(TextID id);
 
     /// These replace what `out` held by the fields of a list, in the order in which they are shown.
+    /// @{
     static void default_fields(std::vector<TextID>& out);
     static void external_fields(std::vector<TextID>& out);
     static void internal_fields(std::vector<TextID>& out);
-    /// external_fields() or internal_fields().
+    /// @}
+    /// external_fields() for the public, else internal_fields().
     static void fields(FieldVisibility visibility, std::vector<TextID>& out);
 };

@@ -8,7 +8,9 @@ class CellAngleStyleFinder : public InputTextStyleFinder {
 public:
     ~CellAngleStyleFinder() override;
 
+    /// The first "a", "b" and "g" of the text.
     void bold(std::vector<StringSlice>& out) const override;
+    /// The same labels, as alpha, beta and gamma.
     void greek(std::vector<GreekSlice>& out) const override;
     /// Throws std::runtime_error "CellAngleStyleFinder empty text string error" and, when a label
     /// is missing, "CellAngleStyleFinder bad text string error".

@@ -7,6 +7,7 @@ class CombinedCellLengthsStyleFinder : public InputTextStyleFinder {
 public:
     ~CombinedCellLengthsStyleFinder() override;
 
+    /// The first "a", "b" and "c" of the text.
     void bold(std::vector<StringSlice>& out) const override;
     /// Throws std::runtime_error "CombinedCellLengthsStyleFinder bad text error" when a label is
     /// missing, as all are in an empty text.

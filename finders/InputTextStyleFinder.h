@@ -23,6 +23,8 @@ public:
     InputTextStyleFinder& operator=(const InputTextStyleFinder&) = delete;
     virtual ~InputTextStyleFinder();
 
+    /// Appends the runs of that style.
+    /// @{
     virtual void bold(std::vector<StringSlice>& out) const;
     virtual void italic(std::vector<StringSlice>& out) const;
     virtual void subscripts(std::vector<StringSlice>& out) const;
@@ -32,11 +34,14 @@ public:
     virtual void replacement_text(std::vector<ReplacementTextSlice>& out) const;
     virtual void greek(std::vector<GreekSlice>& out) const;
     virtual void color(std::vector<ColorSlice>& out) const;
+    /// @}
     /// Called once for each new text: the place to parse it.
     virtual void calc_tag_positions();
 
-    /// Stores a copy of `text` and calls calc_tag_positions(); throws what that throws.
+    /// Stores a copy of `text` and calls calc_tag_positions(); throws what that throws, with the
+    /// new text stored.
     void set_text(const std::string& text);
+    /// The finder's copy, until the next set_text(); empty before the first.
     const std::string& text() const { return text_; }
 
 private:

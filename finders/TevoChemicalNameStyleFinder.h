@@ -21,11 +21,13 @@ public:
     /// names. One pass, O(n) for n characters and O(k log k) for the k letters found.
     void greek(std::vector<GreekSlice>& out) const override;
 
-    /// Whether a name after `prior_char` is the tail of a longer name or of a word. A character is
-    /// a string of length 0 or 1; longer ones throw std::runtime_error "illegal 'prior_char'
-    /// length".
+    /// Whether a name after `prior_char` is the tail of a longer name or of a word: pi after a
+    /// vowel, eta after b, h, m or z, each of either case, and delta and lambda after c. A
+    /// character is a string of length 0 or 1; longer ones throw std::runtime_error "illegal
+    /// 'prior_char' length".
     bool greek_fragment(const std::string& name, const std::string& prior_char) const;
-    /// Whether a name before `next_char` runs on into further letters of a word; throws
+    /// Whether a name before `next_char` is the head of a word, as before every character but those
+    /// of "-,$()'*!:HRS" and, for kappa, capitals. `prior_char` does not count. Throws
     /// std::runtime_error "illegal 'next_char' length" for more than one character.
     bool word_fragment(const std::string& name, const std::string& prior_char,
                        const std::string& next_char) const;

@@ -13,6 +13,8 @@
 /// The names by which the database's chemical names spell Greek letters.
 class TevoChemicalNameToTextItemGreek {
 public:
+    /// The name of that letter, in lower case; "cdelta" and "clambda" for the capitals.
+    /// @{
     static const std::string alpha_;
     static const std::string beta_;
     static const std::string gamma_;
@@ -39,6 +41,7 @@ public:
     static const std::string omega_;
     static const std::string capital_delta_;
     static const std::string capital_lambda_;
+    /// @}
 
     TevoChemicalNameToTextItemGreek();
 

@@ -15,11 +15,13 @@ public:
 
     /// The term of the texts to come; the matches of the present one stay.
     void set_search_term(const std::string& term);
-    /// Whether the search said that the present text matched.
+    /// Whether the search said that the present text matched; false before the first text.
     bool match_exact() const { return match_exact_; }
 
     /// The finder's bold slices and the matches, merged where they overlap.
     void bold(std::vector<StringSlice>& out) const override;
+    /// What the finder reports.
+    /// @{
     void italic(std::vector<StringSlice>& out) const override;
     void subscripts(std::vector<StringSlice>& out) const override;
     void superscripts(std::vector<StringSlice>& out) const override;
@@ -27,6 +29,7 @@ public:
     void invisible(std::vector<StringSlice>& out) const override;
     void replacement_text(std::vector<ReplacementTextSlice>& out) const override;
     void greek(std::vector<GreekSlice>& out) const override;
+    /// @}
     /// The finder's colours, then the matches.
     void color(std::vector<ColorSlice>& out) const override;
     /// Searches the text and trims each match until it crosses no style of the finder; one strictly

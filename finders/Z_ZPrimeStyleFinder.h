@@ -7,6 +7,7 @@ class Z_ZPrimeStyleFinder : public InputTextStyleFinder {
 public:
     ~Z_ZPrimeStyleFinder() override;
 
+    /// The first "Z" and the first "Z'" of the text.
     void bold(std::vector<StringSlice>& out) const override;
     /// Throws std::runtime_error "Z_ZPrimeStyleFinder empty text error" and, when a label is
     /// missing, "Z_ZPrimeStyleFinder bad text error".

@@ -22,8 +22,8 @@ public:
     std::vector<StringSlice> matched_stretches(const std::string& a, const std::string& b,
                                                unsigned int min_match_length) const;
 
-    /// Whether some match has `a_pos` on its one side and `b_pos` on its other. Linear in the
-    /// matches.
+    /// Whether some match has `a_pos` on its one side and `b_pos` on its other. The matches are as
+    /// search() fills them, and only read. Linear in the matches.
     bool contained_in_previous_match(unsigned int a_pos, unsigned int b_pos,
                                      std::vector<StringSlice>& a_matches,
                                      std::vector<StringSlice>& b_matches) const;

@@ -7,6 +7,7 @@
 /// at the last line of the term: one object, and one line search, for one thread at a time.
 class MultipleLineTextComparison : public TextComparisonSearch {
 public:
+    /// Shares the line search, whose own term is lost.
     explicit MultipleLineTextComparison(THandle<TextSearch> line_search);
     ~MultipleLineTextComparison() override;
 

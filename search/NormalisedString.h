@@ -13,6 +13,7 @@ public:
     /// One pass over `raw`.
     NormalisedString(const StringNormalisationPolicy& policy, const std::string& raw);
 
+    /// A copy of what the policy kept.
     std::string normalised() const { return normalised_; }
 
     /// The slice of the raw string from the first to the last character that was kept in `slice`,

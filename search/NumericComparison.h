@@ -15,7 +15,8 @@ public:
     /// Appends each number of the text that agrees with the number of the same place in the term,
     /// and removes every [0, 0) from `slices`. True when the text has numbers and `slices` now
     /// holds as many as those: slices that stood there before count too. A number beyond a double's
-    /// range counts as the largest double of its sign. O(n) for n characters.
+    /// range counts as the largest double of its sign. Throws what Regex throws. O(n) for n
+    /// characters.
     bool comparison_search(const std::string& term, const std::string& text,
                            std::vector<StringSlice>& slices) const override;
 

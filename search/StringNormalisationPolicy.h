@@ -7,6 +7,7 @@
 /// of characters are those of the process's current locale, byte by byte.
 class StringNormalisationPolicy {
 public:
+    /// Each bit drops a class of characters; the last changes those that are kept.
     enum Flag : unsigned int {
         drop_alpha = 0x01,
         drop_digit = 0x02,

@@ -7,6 +7,7 @@ class TextComparisonSearch : public TextSearch {
 public:
     /// The term is empty.
     TextComparisonSearch() = default;
+    /// Keeps a copy of the term.
     explicit TextComparisonSearch(const std::string& term) : term_(term) {}
     ~TextComparisonSearch() override;
 

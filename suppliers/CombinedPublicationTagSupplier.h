@@ -2,9 +2,12 @@
 
 #include <string>
 
-/// The tags that enclose the parts of a literature reference in its field text.
+/// The tags that enclose the parts of a literature reference in its field text: journal, volume,
+/// year and page. The texts of the parts are not escaped.
 class CombinedPublicationTagSupplier {
 public:
+    /// The tag before, and behind, that part.
+    /// @{
     std::string begin_jnl() const { return "<j>"; }
     std::string end_jnl() const { return "</j>"; }
     std::string begin_vol() const { return "<v>"; }
@@ -13,4 +16,5 @@ public:
     std::string end_year() const { return "</y>"; }
     std::string begin_page() const { return "<p>"; }
     std::string end_page() const { return "</p>"; }
+    /// @}
 };

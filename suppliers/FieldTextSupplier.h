@@ -4,7 +4,7 @@
 #include "suppliers/InputTextSupplier.h"
 
 /// The text of any field of the catalogue, in the layout that the field's style finder reads. What
-/// an entry does not know is an empty text.
+/// an entry does not know is an empty text, but for the "unknown" of SohnckeGroupSupplier.
 class FieldTextSupplier : public InputTextSupplier {
 public:
     /// Throws what LMRFieldNames::text() throws.

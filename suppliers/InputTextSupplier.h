@@ -13,7 +13,7 @@ public:
     InputTextSupplier& operator=(const InputTextSupplier&) = delete;
     virtual ~InputTextSupplier();
 
-    /// The field's text; raises the null-handle error without an entry. O(n) for the n characters
-    /// of the field, unless a supplier says more.
+    /// The field's text; raises the null-handle error without an entry or its record. O(n) for the
+    /// n characters of the field, unless a supplier says more.
     virtual std::string text(THandle<CrystalStructureDatabaseEntry> entry) const = 0;
 };

@@ -9,5 +9,6 @@ public:
     ~SohnckeGroupSupplier() override;
 
     std::string text(THandle<CrystalStructureDatabaseEntry> entry) const override;
+    /// The same for a space group by itself.
     std::string text(const Spacegroup& spacegroup) const;
 };
