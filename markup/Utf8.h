@@ -9,9 +9,9 @@
 
 /// What stands at the front of a text.
 struct Utf8Character {
-    char32_t code;     // U+FFFD where the bytes are no UTF-8
-    std::size_t size;  // in bytes
-    bool valid;
+    char32_t code;     ///< U+FFFD where the bytes are no UTF-8.
+    std::size_t size;  ///< In bytes.
+    bool valid;        ///< Whether the bytes are UTF-8.
 };
 
 /// Decodes the front of `text`, which is not empty.
@@ -24,4 +24,5 @@ std::size_t end_of_character(std::string_view text);
 /// The last position up to `position` that is not inside a UTF-8 character.
 unsigned int start_of_character(std::string_view text, unsigned int position);
 
+/// Appends the bytes of a character, which is none of the surrogates.
 void append_utf8(std::string& result, char32_t code);
