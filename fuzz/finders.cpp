@@ -78,7 +78,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const RichTextTarget& target : rich_text_targets()) {
         item.set_no_linebreak();
         const std::string whole = written(item, target);
-        if (std::string_view(target.name) == "html5") {
+        if (std::string_view(target.name) == "html5" && html5_keeps(item.text())) {
             require(html_text(whole) == shown(item), "html5 shows what the runs show", whole);
         }
         if (std::string_view(target.name) == "tevo" && make_finder == finders[0]) {

@@ -6,6 +6,7 @@
 
 #include "markup/AnsiTagFactory.h"
 #include "markup/Utf8.h"
+#include "markup/controls.h"
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include "markup/LatexTagFactory.h"
 #include "markup/TextItemToLatexGreek.h"
 #include "markup/Utf8.h"
+#include "markup/controls.h"
 
 namespace {
 
@@ -78,8 +79,6 @@ void append_ascii(std::string& result, char c) {
         result += c;
     }
 }
-
-bool is_control(char32_t code) { return code < 0x20 || (code >= 0x7F && code < 0xA0); }
 
 }  // namespace
 

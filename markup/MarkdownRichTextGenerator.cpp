@@ -5,6 +5,7 @@
 #include "markup/MarkdownTagFactory.h"
 #include "markup/TextItemToUnicodeGreek.h"
 #include "markup/Utf8.h"
+#include "markup/controls.h"
 
 namespace {
 
@@ -40,12 +41,14 @@ bool must_escape(std::string_view result, std::string_view text) {
     return (c == '.' || c == ')') && !goes_on && follows_item_number(result);
 }
 
-/// Whether the parser would take `c` for layout and drop or change it.
-bool is_layout(std::string_view result, char c) {
-    return (c >= '\t' && c <= '\r') || (c == ' ' && begins_line(result));
+/// Appends what may be a control character, which the parser would take for layout and drop or
+/// change, or a terminal for a command; returns its size.
+std::size_t append_control(std::string& result, std::string_view text) {
+    const Utf8Character character = first_character(text);
+    if (!is_control(character.code)) return append_shown(result, text);
+    append_reference(result, character.code);
+    return character.size;
 }
-
-void append_reference(std::string& result, char c) { result += "&#" + std::to_string(c) + ';'; }
 
 /// How a parser of Markdown classes what stands beside stars.
 enum class Neighbour { blank, punctuation, letter, unsafe };
@@ -87,14 +90,18 @@ MarkdownRichTextGenerator::MarkdownRichTextGenerator()
 MarkdownRichTextGenerator::~MarkdownRichTextGenerator() = default;
 
 void MarkdownRichTextGenerator::write_text(std::string& result, std::string_view text) const {
-    for (; !text.empty(); text.remove_prefix(1)) {
+    while (!text.empty()) {
         const char c = text.front();
-        if (is_layout(result, c)) {
-            append_reference(result, c);
-            continue;
+        std::size_t size = 1;
+        if (c == ' ' && begins_line(result)) {
+            append_reference(result, ' ');
+        } else if (may_begin_control(c)) {
+            size = append_control(result, text);
+        } else {
+            if (must_escape(result, text)) result += '\\';
+            result += c;
         }
-        if (must_escape(result, text)) result += '\\';
-        result += c;
+        text.remove_prefix(size);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "markup/TextItemToUnicodeGreek.h"
 #include "markup/UnicodeTagFactory.h"
 #include "markup/Utf8.h"
+#include "markup/controls.h"
 
 namespace {
 
@@ -153,23 +154,14 @@ std::string UnicodeRichTextGenerator::mark_up_text(const RichTextData& data) con
 
 void UnicodeRichTextGenerator::write_text(std::string& result, std::string_view text) const {
     while (!text.empty()) {
-        const Utf8Character character = first_character(text);
-        if (!character.valid || character.code == '\t') {
-            result += text.substr(0, character.size);
+        std::size_t size = 1;
+        if (text.front() == '\t') {
+            result += '\t';
         } else {
-            append_utf8(result, visible(character.code));
+            size = append_shown(result, text);
         }
-        text.remove_prefix(character.size);
+        text.remove_prefix(size);
     }
-}
-
-char32_t UnicodeRichTextGenerator::visible(char32_t code) {
-    constexpr char32_t symbols_of_controls = 0x2400;
-    constexpr char32_t symbol_of_delete = 0x2421;
-    if (code == '\n') return code;
-    if (code < ' ') return symbols_of_controls + code;
-    if (code == 0x7F) return symbol_of_delete;
-    return code >= 0x80 && code < 0xA0 ? U'\uFFFD' : code;
 }
 
 void UnicodeRichTextGenerator::append_invisible_tag(std::string& /*result*/,

@@ -19,10 +19,6 @@ protected:
 
     void write_text(std::string& result, std::string_view text) const override;
 
-    /// What shows a control character, its Unicode symbol or, above 0x7F, U+FFFD; line feeds and
-    /// all other characters stay.
-    static char32_t visible(char32_t code);
-
     std::string compose(std::string_view text, const std::vector<Tag>& tags) const override;
 
     /// Appends a tag that takes no room on the line; plain text shows none.

@@ -94,6 +94,7 @@ TEST(RichTextTarget, MarkdownIsEscapedAndItsStarsCount) {
          {"number of an item", "12. a", S(), "12\\. a"},
          {"no number of an item", "-12.5", S(), "-12.5"},
          {"layout", " a\n  b\t ", S(), "&#32;a&#10;  b&#9;&#32;"},
+         {"controls", "\x1b[1m\x7f\xc2\x9b°", S(), "&#27;\\[1m&#127;&#155;°"},
          {"stars", "ab cd", S().bold(0, 2).italic(3, 5), "**ab** *cd*"},
          {"stars in a word", "abc", S().bold(1, 2), "a**b**c"},
          {"stars that would not count", "a(b)c", S().bold(1, 4), "a<strong>(b)</strong>c"},
@@ -133,16 +134,22 @@ TEST(RichTextTarget, AnsiSelectsWhatALineNeedsAndResetsIt) {
 }
 
 TEST(RichTextTarget, NothingOfATextIsAControlForTheTerminal) {
-    const auto generator = generator_named("ansi");
-    for (int byte = 1; byte < 256; ++byte) {
-        const char c = static_cast<char>(byte);
-        const std::string text = {c, 'a', c, '\xC2', c, c};
-        const std::string shown =
-            terminal_text(generator->mark_up_text(S().bold(1, 3).bar(4, 5).data(text)));
-        for (std::size_t i = 0; i < shown.size(); ++i) {
-            const bool c0 = static_cast<unsigned char>(shown[i]) < ' ' && shown[i] != '\n';
-            const bool c1 = i > 0 && shown[i - 1] == '\xC2' && (shown[i] & 0x60) == 0;
-            ASSERT_FALSE(c0 || c1 || shown[i] == '\x7F') << "byte " << byte;
+    for (const std::string name : {"ansi", "unicode", "html5", "markdown", "latex"}) {
+        const auto generator = generator_named(name);
+        const std::string layout = name == "html5" ? "\t\n\f\r" : "\t\n";
+        for (int byte = 0; byte < 256; ++byte) {
+            const char c = static_cast<char>(byte);
+            // Two bytes make one character when what stands between them is hidden.
+            const std::string text = {c, 'a', c, '\xC2', c, c, '\xC2', 'x', c};
+            std::string shown =
+                generator->mark_up_text(S().bold(1, 3).bar(4, 5).invisible(7, 8).data(text));
+            if (name == "ansi") shown = terminal_text(shown);
+            for (std::size_t i = 0; i < shown.size(); ++i) {
+                const bool c0 = static_cast<unsigned char>(shown[i]) < ' ' &&
+                                layout.find(shown[i]) == std::string::npos;
+                const bool c1 = i > 0 && shown[i - 1] == '\xC2' && (shown[i] & 0xE0) == 0x80;
+                ASSERT_FALSE(c0 || c1 || shown[i] == '\x7F') << name << ", byte " << byte;
+            }
         }
     }
 }

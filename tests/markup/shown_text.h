@@ -32,11 +32,21 @@ inline std::string html_text(std::string_view html) {
                 c = character;
                 size = reference.size();
             }
+            if (html.starts_with("&#")) {
+                c = static_cast<char>(std::stoi(std::string(html.substr(2))));
+                size = html.find(';') + 1;
+            }
             text += c;
         }
         html.remove_prefix(size);
     }
     return open.empty() ? text : "tags left open";
+}
+
+/// Whether html5 has the text as it is: NUL and the control characters that begin so have no
+/// references.
+inline bool html5_keeps(const std::string& text) {
+    return text.find('\0') == std::string::npos && text.find('\xC2') == std::string::npos;
 }
 
 /// Text for a terminal without the sequences that select how it is drawn.
