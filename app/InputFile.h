@@ -1,13 +1,15 @@
 #pragma once
 
-#include <cstddef>
-#include <string>
-#include <system_error>
+#include <sys/types.h>
 
-/// A file cannot be opened or read; what() names it.
-class InputError : public std::system_error {
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+/// A file cannot be opened or read to its end; what() names it and says why.
+class InputError : public std::runtime_error {
 public:
-    using std::system_error::system_error;
+    using std::runtime_error::runtime_error;
 };
 
 /// A file, or standard input, that is read from its begin to its end.
@@ -22,13 +24,15 @@ public:
     /// The path, or "<stdin>".
     const std::string& name() const { return name_; }
 
-    /// Appends what is at hand, up to `size` bytes; waits for the first. Returns whether there was
-    /// any: the file has not ended. Throws InputError.
-    bool read(std::string& bytes, std::size_t size);
+    /// Appends what is at hand, up to a megabyte; waits for the first byte. Returns whether there
+    /// was any: the file has not ended. Throws InputError, also when the file has shrunk.
+    bool read(std::string& bytes);
 
 private:
     std::string name_;
+    std::unique_ptr<char[]> buffer_;
     int descriptor_;
+    off_t size_ = 0;  // when it was opened
 };
 
 /// All bytes of a file; throws InputError.

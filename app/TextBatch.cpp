@@ -77,6 +77,7 @@ public:
 private:
     void add_file(const std::string& path) {
         try {
+            if (output_.is_at(path)) throw InputError(path + ": input file is output file");
             TextBlocks blocks(path, batch_.separator);
             for (TextBlock block; blocks.next(block);) add(std::move(block));
         } catch (const InputError& error) {

@@ -4,14 +4,13 @@
 #include <utility>
 
 bool TextBlocks::next(TextBlock& block) {
-    constexpr std::size_t block_size = 1 << 20;
     block.file = file_.name();
     block.first = number_;
     block.bytes = std::exchange(rest_, {});
     std::size_t end = 0;  // of the last whole text
     while (end == 0) {
         const std::size_t searched = block.bytes.size();
-        if (!file_.read(block.bytes, block_size)) break;
+        if (!file_.read(block.bytes)) break;
         const std::size_t last = block.bytes.rfind(separator_);
         if (last != std::string::npos && last >= searched) end = last + 1;
     }

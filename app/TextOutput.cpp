@@ -70,6 +70,13 @@ TextOutput::~TextOutput() {
     if (!temporary_.empty()) unlink(temporary_.c_str());
 }
 
+bool TextOutput::is_at(const std::string& path) const {
+    const std::filesystem::path other = path == "-" ? "/dev/stdin" : path;
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(other, ignored) &&
+           std::filesystem::equivalent(other, place_.empty() ? "/dev/stdout" : place_, ignored);
+}
+
 void TextOutput::write(std::string_view text) {
     if (std::fwrite(text.data(), 1, text.size(), file_) != text.size()) fail(name_);
 }

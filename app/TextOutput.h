@@ -18,6 +18,9 @@ public:
     TextOutput& operator=(const TextOutput&) = delete;
     ~TextOutput();
 
+    /// Whether the file at `path`, or standard input for "-", is the one that is written.
+    bool is_at(const std::string& path) const;
+
     /// All throw std::system_error; only after close() is everything written for certain.
     void write(std::string_view text);
     void flush();

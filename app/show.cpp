@@ -7,6 +7,7 @@
 #include "app/Diagnostics.h"
 #include "app/EntryForm.h"
 #include "app/Field.h"
+#include "app/InputFile.h"
 #include "app/OrderedSearch.h"
 #include "app/Page.h"
 #include "app/TextOutput.h"
@@ -143,6 +144,9 @@ public:
                                        : std::make_unique<TextOutput>(options.path)) {}
 
     bool run() {
+        for (const std::string& file : options_.files) {
+            if (output_->is_at(file)) throw InputError(file + ": input file is output file");
+        }
         output_->write(form_->head());
         for (const std::string& file : options_.files) show_file(file);
         output_->write(form_->foot());

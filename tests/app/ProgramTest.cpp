@@ -163,6 +163,44 @@ TEST_F(Program, ATextThatFailsHoldsItsPlaceAndTheRestGoesOn) {
     EXPECT_EQ(unknown.status, 0);
 }
 
+TEST_F(Program, AFileThatFailsWhileItIsReadLosesNothingElse) {
+    const std::string first(1 << 20, 'x');
+    file("last", "a\n");
+    for (const char* jobs : {"1", "2"}) {
+        file("shrinks", first + std::string(1 << 22, '\n'));
+        file("goes", "x\n");
+        // When the first byte is out, the program waits until the pipe takes more.
+        const Result done =
+            run(std::string("--version >/dev/null; mkfifo pipe; '" PROGRAM "' convert --from plain "
+                            "--to tevo shrinks goes /proc/self/mem last >pipe -j ") +
+                jobs +
+                " & { dd bs=1 count=1 2>/dev/null; rm goes; : >shrinks; cat; } <pipe; rm pipe; "
+                "wait $!");
+        EXPECT_TRUE(done.out.starts_with(first + "\n"));
+        EXPECT_TRUE(done.out.ends_with("\n\na\n"));
+        EXPECT_EQ(done.err,
+                  "lmrtext: shrinks: truncated while it was read\n"
+                  "lmrtext: goes: No such file or directory\n"
+                  "lmrtext: /proc/self/mem: Input/output error\n");
+        EXPECT_EQ(done.status, 1);
+    }
+}
+
+TEST_F(Program, WhatIsReadIsNotOverwritten) {
+    file("same", "a\n");
+    file("other", "b\n");
+    const Result batch = run("convert --from plain --to tevo same other >>same; echo $? >status");
+    EXPECT_EQ(batch.err, "lmrtext: same: input file is output file\n");
+    EXPECT_EQ(contents(folder_ / "same"), "a\nb\n");
+    EXPECT_EQ(contents(folder_ / "status"), "1\n");
+    for (const char* arguments : {"show -o same other ./same", "show -o same - <same"}) {
+        const Result shown = run(arguments);
+        EXPECT_THAT(shown.err, MatchesRegex("lmrtext: (\\./same|-): input file is output file\n"));
+        EXPECT_EQ(shown.status, 1);
+        EXPECT_EQ(contents(folder_ / "same"), "a\nb\n");
+    }
+}
+
 TEST_F(Program, SearchWritesEachTextWithItsMatches) {
     const struct {
         const char* arguments;
