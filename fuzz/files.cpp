@@ -1,34 +1,12 @@
 // A file in pieces of whole texts, and as a CIF file.
-#include <sys/mman.h>
-#include <unistd.h>
-
-#include <stdexcept>
-
 #include "app/CifFile.h"
 #include "app/EntryReader.h"
 #include "app/TextBlocks.h"
 #include "fuzz/Input.h"
+#include "fuzz/MemoryFile.h"
 #include "suppliers/FieldTextSupplier.h"
 
 namespace {
-
-/// A file in memory that has a path.
-class MemoryFile {
-public:
-    explicit MemoryFile(const std::string& bytes) : descriptor_(memfd_create("fuzz", 0)) {
-        require(descriptor_ >= 0 && write(descriptor_, bytes.data(), bytes.size()) ==
-                                        static_cast<ssize_t>(bytes.size()),
-                "there is memory for a file");
-    }
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-    ~MemoryFile() { close(descriptor_); }
-
-    std::string path() const { return "/proc/self/fd/" + std::to_string(descriptor_); }
-
-private:
-    int descriptor_;
-};
 
 void check_blocks(const std::string& path, const std::string& bytes) {
     TextBlocks blocks(path, '\n');
