@@ -53,10 +53,9 @@ void match_pairs(TextSearch& line_search, const std::vector<OffsetLine>& text_li
     }
 }
 
-/// What match_pairs() does for a search that matches equal lines only.
+/// What match_pairs() does for a search that matches equal lines only and a term that has lines.
 void match_equal_lines(TextSearch& line_search, const std::vector<OffsetLine>& text_lines,
                        const std::vector<std::string>& term_lines, StringSliceReducer& matches) {
-    if (term_lines.empty()) return;
     const std::unordered_set<std::string_view> terms(term_lines.begin(), term_lines.end());
     for (const OffsetLine& line : text_lines) {
         if (!terms.contains(line.text)) continue;

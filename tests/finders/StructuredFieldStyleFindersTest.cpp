@@ -52,6 +52,22 @@ TEST(StructuredFieldStyleFinders, RefuseTextsWithoutTheirLabels) {
     }
 }
 
+TEST(StructuredFieldStyleFinders, ReportNothingOfARefusedEmptyText) {
+    CombinedCellLengthsStyleFinder lengths;
+    TevoPublicationStyleFinder reference;
+    std::vector<StringSlice> slices;
+    std::vector<ReplacementTextSlice> replacements;
+    for (InputTextStyleFinder* finder : {static_cast<InputTextStyleFinder*>(&lengths),
+                                         static_cast<InputTextStyleFinder*>(&reference)}) {
+        EXPECT_THROW(finder->set_text(""), std::runtime_error);
+        finder->bold(slices);
+        finder->italic(slices);
+        finder->invisible(slices);
+        finder->replacement_text(replacements);
+        EXPECT_TRUE(slices.empty() && replacements.empty());
+    }
+}
+
 TEST(SpaceGroupStyleFinder, LowersScrewAxesAndBarsTheFirstInversion) {
     EXPECT_EQ(html<SpaceGroupStyleFinder>("P2<sub>1</sub>2<sub>1</sub>2"),
               "P2<sub>1</sub>2<sub>1</sub>2");

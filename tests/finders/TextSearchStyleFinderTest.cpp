@@ -3,13 +3,20 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <iostream>
+#include <sstream>
 
 #include "finders/ChemicalNameMatchStyleFinder.h"
 #include "finders/TevoChemicalNameStyleFinder.h"
+#include "host/KOVRLog.h"
 #include "markup/HtmlRichTextGenerator.h"
+#include "search/EntireTextComparison.h"
+#include "search/MultipleLineTextComparison.h"
 #include "tests/Random.h"
 #include "text/StringSliceReducer.h"
 #include "text/TextItem.h"
+
+using testing::HasSubstr;
 
 namespace {
 
@@ -126,6 +133,22 @@ TEST(TextSearchStyleFinder, EqualsCombiningOneByOne) {
             ASSERT_EQ(forwarded, own) << round;
         }
     }
+}
+
+TEST(TextSearchStyleFinder, TellsTheDebugLogWhatItFound) {
+    TextSearchStyleFinder finder(
+        make_handle<MultipleLineTextComparison>(make_handle<EntireTextComparison>()),
+        make_handle<InputTextStyleFinder>());
+    finder.set_search_term("b");
+    std::ostringstream log;
+    std::streambuf* const before = std::clog.rdbuf(log.rdbuf());
+    KOVRLog::level_ = 3;
+    finder.set_text("a\nb");
+    KOVRLog::level_ = 0;
+    std::clog.rdbuf(before);
+    EXPECT_THAT(log.str(), HasSubstr("MultipleLineTextComparison search: b\ntext: a\nb"));
+    EXPECT_THAT(log.str(), HasSubstr("MultipleLineTextComparison matches: 0: "));
+    EXPECT_THAT(log.str(), HasSubstr("TextSearchStyleFinder::combined matches: "));
 }
 
 TEST(ChemicalNameMatchStyleFinder, HighlightsWhatNamesHaveInCommon) {

@@ -65,7 +65,24 @@ public:
         : RichTextGenerator(make_handle<HtmlTagFactory>(), make_handle<TextItemToTevoGreek>()) {}
 };
 
+/// Asks for the tags of some positions only.
+class SparseGenerator : public FastGenerator {
+public:
+    std::string mark_up_text(const RichTextData& data) const override {
+        std::string tags;
+        for (const unsigned int position : {0U, 2U, 1U}) {
+            tags += get_slice_tags(position, data.styles()) + '|';
+        }
+        return tags;
+    }
+};
+
 }  // namespace
+
+TEST(RichTextGenerator, KeepsTheTagsThatASubclassHasPassedOver) {
+    EXPECT_EQ(SparseGenerator().mark_up_text(StyleLists().bold(0, 1).italic(0, 2).data("ab")),
+              "<i><b>|</i>|</b>|");
+}
 
 TEST(RichTextGenerator, WritesTagsWhereStylesBeginAndEnd) {
     using S = StyleLists;

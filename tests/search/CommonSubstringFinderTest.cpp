@@ -63,6 +63,7 @@ TEST(CommonSubstringFinderAdapter, MarksWhatIsCommonOnceNormalised) {
     EXPECT_EQ(found("NaCl", "NaCl"), Result({{8, 9}, {0, 4}}, true));
     EXPECT_EQ(found("(", "("), Result({{8, 9}}, false));
     EXPECT_EQ(found("NaCl", ""), Result({{8, 9}}, false));
+    EXPECT_EQ(found("-", "NaCl"), Result({{8, 9}}, false));
 }
 
 TEST(CommonSubstringFinder, RefusesMatchesOfNoLengthBeforeItChangesAnything) {

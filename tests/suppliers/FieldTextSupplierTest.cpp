@@ -59,6 +59,7 @@ TEST(FieldTextSupplier, WritesTheLayoutsThatFindersRead) {
         {Names::cell_angles, "a 90.00 b 100.50(3) g 90"},
         {Names::reduced_cell_lengths, "a 5 b 6.25 c 7.12346"},
         {Names::reduced_cell_angles, "a 60 b 70 g 80.5"},
+        {Names::reduced_cell_volume, "200"},
         {Names::temperature, "293(2)"},
         {Names::average_sigma, "0.0035"},
         {Names::radiation_probe, "X-ray"},
@@ -70,6 +71,9 @@ TEST(FieldTextSupplier, WritesTheLayoutsThatFindersRead) {
         {Names::cross_references, "Superseded COD 7"},
     };
     for (const auto& c : cases) EXPECT_EQ(text(entry, c.field), c.text) << Names::text(c.field);
+    entry->publication->year = "";
+    entry->publication->journal = "Acta";
+    EXPECT_EQ(text(entry, Names::literature_reference), "<j>Acta</j><v></v><y></y><p></p>");
 }
 
 TEST(FieldTextSupplier, TagsScrewAndInversionAxes) {
@@ -77,7 +81,7 @@ TEST(FieldTextSupplier, TagsScrewAndInversionAxes) {
     const std::pair<const char*, const char*> cases[] = {
         {"P 1 21/c 1", "P2<sub>1</sub>/c"}, {"P 1 1 21/b", "P112<sub>1</sub>/b"},
         {"P -1", "P<bar>1</bar>"},          {"P 63/m m c", "P6<sub>3</sub>/mmc"},
-        {"F d -3 m", "Fd<bar>3</bar>m"},
+        {"F d -3 m", "Fd<bar>3</bar>m"},    {"P 1 1 1", "P111"},
     };
     for (const auto& [symbol, tagged] : cases) {
         entry->crystal_info->spacegroup.symbol = symbol;

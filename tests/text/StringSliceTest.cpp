@@ -35,6 +35,11 @@ TEST(StringSlice, RefusesAReversedRangeAndNoPosition) {
     EXPECT_THAT([] { ReplacementTextSlice(2, 1, "x"); }, bad_length);
 }
 
+TEST(StringSlice, PrintsItsRangeAndWhatStandsThere) {
+    EXPECT_EQ(printed(ColorSlice(3, 7, TextItem::blue)), "3 7 2");
+    EXPECT_EQ(printed(GreekSlice(0, 5, TextItem::alpha)), "0 5 1");
+}
+
 // Every relation against its definition by sets of positions, for all pairs of short slices.
 TEST(StringSlice, RelationsAreThoseOfPositionSets) {
     constexpr unsigned int n = 5;
