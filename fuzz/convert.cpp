@@ -29,7 +29,7 @@ Ran run(const ConvertOptions& options) {
     std::fclose(stderr);
     stdout = streams[0];
     stderr = streams[1];
-    const Ran ran{good, {texts[0], sizes[0]}, {texts[1], sizes[1]}};
+    Ran ran{good, {texts[0], sizes[0]}, {texts[1], sizes[1]}};
     for (char* text : texts) std::free(text);
     return ran;
 }

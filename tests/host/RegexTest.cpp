@@ -13,6 +13,7 @@ TEST(Regex, SearchesFromAPositionAndTellsTheGroups) {
     const Regex regex("(a+)|(b)");
     const std::string text = "xaay b";
     RegexResults results;
+    EXPECT_FALSE(results.matched(0));
     ASSERT_TRUE(regex.search_from_position(text, 0, results));
     EXPECT_EQ(results.size(), 3U);
     EXPECT_EQ(results.start(), 1U);

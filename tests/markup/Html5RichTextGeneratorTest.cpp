@@ -33,6 +33,7 @@ TEST(Html5RichTextGenerator, WritesWhatABrowserShows) {
          green + "a</span><span style=\"color:#8b8b00\">b</span>"},
         {"crossing", "abc", S().bold(0, 2).color(1, 3),
          "<b>a" + green + "b</span></b>" + green + "c</span>"},
+        {"inside characters", "aéb€", S().bold(0, 2).italic(1, 5), "<b>a</b><i>éb</i>€"},
         {"beyond the end", "ab", S().bold(1, 9).italic(2, 4), "a<b>b</b>"},
     };
     Html5RichTextGenerator generator;
