@@ -149,6 +149,8 @@ public:
         }
         output_->write(form_->head());
         for (const std::string& file : options_.files) show_file(file);
+        // A file in that place is worth more than one without any entry.
+        if (!good_ && !shown_any_ && !options_.path.empty()) return false;
         output_->write(form_->foot());
         output_->close();
         return good_;
@@ -165,6 +167,7 @@ private:
         std::vector<ShownField> fields;
         for (const LMRFieldNames::TextID id : options_.fields) add_field(file, entry, id, fields);
         output_->write(form_->entry(file, entry, fields));
+        shown_any_ = true;
     }
 
     /// Adds a field that has a text; one that cannot be styled is reported.
@@ -193,6 +196,7 @@ private:
     std::unique_ptr<Form> form_;
     std::unique_ptr<TextOutput> output_;
     bool good_ = true;
+    bool shown_any_ = false;
 };
 
 }  // namespace

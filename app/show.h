@@ -18,6 +18,7 @@ struct ShowOptions {
 };
 
 /// Shows the fields of the entries in CIF files, those that have a text. A file, item or field that
-/// fails is reported and the others are shown. Returns whether nothing was reported. Throws
-/// std::system_error when the output cannot be written.
+/// fails is reported and the others are shown; where no entry could be, a file in the output's
+/// place stays. Returns whether nothing was reported. Throws std::system_error when the output
+/// cannot be written and InputError when it is one of the inputs.
 bool show(const ShowOptions& options);

@@ -500,4 +500,6 @@ TEST_F(Program, ShowReportsWhatIsNoCifAndShowsTheOthers) {
     EXPECT_THAT(page, HasSubstr("<dd>ok</dd>"));
     EXPECT_THAT(page, HasSubstr("<dd>Platinum(IV) oxide - β</dd>"));
     EXPECT_THAT(page, EndsWith("</html>\n"));
+    EXPECT_EQ(run("show -o page.html missing.cif empty.cif").status, 1);
+    EXPECT_EQ(contents(folder_ / "page.html"), page);
 }
