@@ -51,10 +51,15 @@ CifBlock block_of(cif::Block& block, const std::vector<std::string>& tags) {
 std::vector<CifBlock> read_cif_blocks(const std::string& path,
                                       const std::vector<std::string>& tags) {
     const std::string contents = read_whole_file(path);
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";  // some editors write it
+    std::string_view text = contents;
+    if (text.substr(0, byte_order_mark.size()) == byte_order_mark) {
+        text.remove_prefix(byte_order_mark.size());
+    }
     cif::Document document;
     try {
         // Not gemmi's reading operations: they refuse a whole file for one tag without a value.
-        cif::parse_input(document, tao::pegtl::memory_input<>(contents, path));
+        cif::parse_input(document, tao::pegtl::memory_input<>(text.data(), text.size(), path));
     } catch (const tao::pegtl::parse_error& error) {
         const std::size_t line = error.positions().empty() ? 1 : error.positions().front().line;
         throw CifError(path + ":" + std::to_string(line) +

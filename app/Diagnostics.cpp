@@ -1,13 +1,22 @@
 #include "app/Diagnostics.h"
 
 #include <cstdio>
+#include <string_view>
+
+#include "markup/Utf8.h"
 
 namespace {
 
-void write_line(std::string line) {
-    for (char& c : line) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x20 || byte == 0x7F) c = '?';
+/// Shows control characters, and what is no UTF-8, as "?": names of files and texts that are quoted
+/// may hold any bytes, and terminals obey some.
+void write_line(std::string_view text) {
+    std::string line;
+    while (!text.empty()) {
+        const Utf8Character character = first_character(text);
+        const char32_t code = character.code;
+        const bool shows = character.valid && code >= 0x20 && (code < 0x7F || code > 0x9F);
+        line += shows ? text.substr(0, character.size) : "?";
+        text.remove_prefix(character.size);
     }
     line += '\n';
     std::fwrite(line.data(), 1, line.size(), stderr);

@@ -122,10 +122,26 @@ std::vector<std::string> all_tags() {
     return tags;
 }
 
+// No number of a crystal comes near; multiplied, it is still one.
+constexpr double beyond_use = 1e30;
+
 /// Items that say the same, those to be preferred first.
 using Tags = std::span<const char* const>;
 
 Tags just(const char* const& tag) { return {&tag, 1}; }
+
+/// Finds the styles of a name, but takes codes that stand for no letter for plain text, which the
+/// database's mark-up would leave out.
+class WholeNameStyleFinder : public CifChemicalNameStyleFinder {
+public:
+    void greek(std::vector<GreekSlice>& out) const override {
+        std::vector<GreekSlice> letters;
+        CifChemicalNameStyleFinder::greek(letters);
+        for (const GreekSlice& letter : letters) {
+            if (letter.symbol() != TextItem::no_symbol) out.push_back(letter);
+        }
+    }
+};
 
 /// Fills an entry from one block.
 class BlockReader {
@@ -178,8 +194,9 @@ private:
         const CifValue* const value = first_value(tags, tag);
         if (!value) return std::nullopt;
         const std::optional<UncertainValue> read = read_number(value->text);
-        if (!read) add_problem(*value, tag, "expected a number, not");
-        return read;
+        const bool is_usable = read && std::abs(read->value) < beyond_use;
+        if (!is_usable) add_problem(*value, tag, "expected a number, not");
+        return is_usable ? read : std::nullopt;
     }
 
     void read_texts() {
@@ -195,7 +212,7 @@ private:
     std::string name(const CifValue& value, const char* tag) {
         TevoRichTextGenerator generator;
         try {
-            return TextItem(make_handle<CifChemicalNameStyleFinder>(), one_line(value.text))
+            return TextItem(make_handle<WholeNameStyleFinder>(), one_line(value.text))
                 .mark_up_text(generator);
         } catch (const std::exception& error) {
             add_problem(value, tag, std::string(error.what()) + " in");
@@ -281,11 +298,20 @@ private:
 
     void read_cell() {
         UncertainValue parameters[6];
+        const char* lacking = nullptr;
         bool complete = true;
         for (std::size_t i = 0; i < 6; ++i) {
+            const char* tag = nullptr;
+            if (!lacking && !first_value(just(cell_tags[i]), tag)) lacking = cell_tags[i];
             const std::optional<UncertainValue> parameter = number(just(cell_tags[i]));
             complete = complete && parameter;
             if (parameter) parameters[i] = *parameter;
+        }
+        const char* tag = nullptr;
+        const CifValue* const some = first_value(cell_tags, tag);
+        if (some && lacking) {
+            problems_.push_back(
+                {some->line, "data_" + block_.name + ": the cell has no " + lacking});
         }
         if (!complete) return;
         const Cell cell{parameters[0],   parameters[1],   parameters[2],
@@ -303,7 +329,9 @@ private:
         const double gamma = cell ? cell->gamma.degrees.value : 0;
         const std::string symbol = first_text(symbol_tags);
         const gemmi::SpaceGroup* group = nullptr;
-        if (!symbol.empty()) group = gemmi::find_spacegroup_by_name(symbol, alpha, gamma);
+        // To gemmi some numbers are symbols too.
+        if (!symbol.empty() && (symbol[0] < '0' || symbol[0] > '9'))
+            group = gemmi::find_spacegroup_by_name(symbol, alpha, gamma);
         if (!group) group = find_by_hall_symbol();
         if (!group) group = find_by_operations();
         const std::optional<UncertainValue> number = read_number(first_text(number_tags));

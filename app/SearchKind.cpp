@@ -10,6 +10,7 @@
 #include "search/MultipleLineTextComparison.h"
 #include "search/NumericComparison.h"
 #include "search/SurnameComparison.h"
+#include "suppliers/CombinedPublicationTagSupplier.h"
 
 namespace {
 
@@ -45,23 +46,39 @@ THandle<TextSearch> make_substring_search(const SearchSettings& settings) {
                                                      std::string());
 }
 
+bool any(const std::string& /*term*/) { return true; }
+
+bool has_digit(const std::string& term) {
+    return term.find_first_of("0123456789") != std::string::npos;
+}
+
+/// Whether the term has a part of a reference.
+bool has_part(const std::string& term) {
+    const CombinedPublicationTagSupplier tags;
+    for (const std::string& tag :
+         {tags.begin_jnl(), tags.begin_vol(), tags.begin_year(), tags.begin_page()}) {
+        if (term.find(tag) != std::string::npos) return true;
+    }
+    return false;
+}
+
 constexpr SearchKind kind_rows[] = {
-    {"exact", "the text, when it equals the term", make<EntireTextComparison>},
+    {"exact", "the text, when it equals the term", make<EntireTextComparison>, any},
     {"lines", "lines that equal a line of the term; whole when it equals the term",
-     make_line_search},
+     make_line_search, any},
     {"numeric",
      "each number within --tolerance of the term's number of the same place; whole when all agree",
-     make_numeric_search},
+     make_numeric_search, has_digit},
     {"surnames", "authors of the term, or their surnames; whole when it equals the term",
-     make<SurnameComparison>},
+     make<SurnameComparison>, any},
     {"publication",
      "<j> journal, <y> year, <v> volume and <p> page that equal the term's; whole when all four "
      "agree",
-     make<CombinedPublicationComparisonSearch>},
+     make<CombinedPublicationComparisonSearch>, has_part},
     {"substring",
      "runs of --min-length characters or more that also stand in the term, blanks and punctuation "
      "aside; whole when it equals the term",
-     make_substring_search},
+     make_substring_search, any},
 };
 
 }  // namespace

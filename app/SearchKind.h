@@ -17,6 +17,8 @@ struct SearchKind {
     const char* name;
     const char* help;
     THandle<TextSearch> (*make_search)(const SearchSettings& settings);
+    /// Whether the term says anything to the search: without, all texts or none would match.
+    bool (*takes)(const std::string& term);
 };
 
 std::span<const SearchKind> search_kinds();

@@ -4,6 +4,7 @@
 #include <deque>
 #include <exception>
 #include <future>
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -81,10 +82,16 @@ private:
             TextBlocks blocks(path, batch_.separator);
             for (TextBlock block; blocks.next(block);) add(std::move(block));
         } catch (const InputError& error) {
-            while (!in_work_.empty()) finish_first();
-            report(error.what());
-            good_ = false;
+            refuse(error.what());
+        } catch (const std::bad_alloc&) {
+            refuse(path + ": out of memory");
         }
+    }
+
+    void refuse(const std::string& message) {
+        while (!in_work_.empty()) finish_first();
+        report(message);
+        good_ = false;
     }
 
     void add(TextBlock block) {

@@ -29,7 +29,8 @@ extern "C" void remove_unfinished(int signal) {
 void remove_on_signals(const std::string& path) {
     path.copy(unfinished, sizeof unfinished - 1);
     unfinished[std::min(path.size(), sizeof unfinished - 1)] = '\0';
-    for (const int signal : {SIGHUP, SIGINT, SIGTERM}) {
+    for (const int signal :
+         {SIGHUP, SIGINT, SIGQUIT, SIGPIPE, SIGALRM, SIGTERM, SIGUSR1, SIGUSR2, SIGXCPU}) {
         if (std::signal(signal, remove_unfinished) == SIG_IGN) std::signal(signal, SIG_IGN);
     }
 }

@@ -165,10 +165,13 @@ std::string markdown_option(const CLI::Option& option, const Choices& choices) {
 /// The lines of a footer, of which those with blanks in front are shell commands.
 std::string markdown_footer(const std::string& footer) {
     std::string result;
+    bool in_code = false;
     std::istringstream lines(footer);
     for (std::string line; std::getline(lines, line);) {
-        result += line[0] == ' ' ? "\n    " + line.substr(2) : markdown(line);
-        result += '\n';
+        const bool is_code = line.starts_with(' ');
+        if (is_code && !in_code) result += '\n';
+        in_code = is_code;
+        result += (is_code ? "  " + line : markdown(line)) + '\n';
     }
     return result;
 }

@@ -1,5 +1,7 @@
 #include "app/load_entries.h"
 
+#include <new>
+
 #include "app/CifFile.h"
 #include "app/Diagnostics.h"
 #include "app/InputFile.h"
@@ -13,6 +15,9 @@ LoadedEntries load_entries(const std::string& file) {
         loaded.good = false;
     } catch (const CifError& error) {
         report(error.what());
+        loaded.good = false;
+    } catch (const std::bad_alloc&) {
+        report(file + ": out of memory");
         loaded.good = false;
     }
     for (const CifEntry& entry : loaded.entries) {

@@ -1,10 +1,15 @@
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <functional>
 #include <span>
+#include <sstream>
 #include <system_error>
 
 #include "app/Diagnostics.h"
@@ -187,6 +192,9 @@ void add_show(CLI::App& program, ShowArguments& arguments) {
     command
         ->add_option("-o,--output", options.path,
                      "Write to this file; html5, also for unknown endings, is a page")
+        ->check([](const std::string& path) {
+            return path.empty() ? "expected the name of a file" : std::string();
+        })
         ->type_name("FILE");
     command->add_option("FILE", options.files, "CIF files; -: standard input")->required();
 }
@@ -248,9 +256,11 @@ void add_search(CLI::App& program, SearchOptions& options) {
         ->type_name("LABEL");
     command->add_option("--term", options.term, "What to search for")->required();
     add_tolerance_option(command, options.settings);
-    command->add_option(
-        "--min-length", options.settings.min_match_length,
-        "The shortest run that a substring search marks, in characters; 3 unless given");
+    command
+        ->add_option(
+            "--min-length", options.settings.min_match_length,
+            "The shortest run that a substring search marks, in characters; 3 unless given")
+        ->check(CLI::Range(1U, longest_line));
     add_row_option(command, "--from", options.from, sources(),
                    "What the texts are; plain unless given");
     add_row_option(command, "--to", options.to, search_outputs(),
@@ -327,6 +337,7 @@ int run_targets() {
 
 int run_show(ShowArguments& arguments) {
     ShowOptions& options = arguments.options;
+    if (options.path == "-") options.path.clear();
     if (!options.to) {
         const char* const other = options.path.ends_with(".json") ? "json" : "html5";
         options.to =
@@ -363,9 +374,33 @@ int run_search(SearchOptions& options) {
         report("search needs --how or --field (lmrtext search --help says more)");
         return exit_trouble;
     }
+    if (!options.how->takes(options.term)) {
+        report("'" + options.term + "' is no term for the search " + options.how->name +
+               " (lmrtext search --help says more)");
+        return exit_trouble;
+    }
     const SearchOutcome outcome = search(options);
     if (!outcome.good) return exit_trouble;
     return outcome.matched ? 0 : exit_no_match;
+}
+
+/// Writes what CLI11 takes for an error, help and version.
+int show_help(const CLI::App& program, const CLI::ParseError& error) {
+    std::ostringstream text;
+    program.exit(error, text);
+    TextOutput output;
+    output.write(text.str());
+    output.close();
+    return 0;
+}
+
+/// Makes the standard descriptors that are closed refuse reading or writing, as they do: a file
+/// that is opened would have their places otherwise, and get what is written to them.
+void occupy_standard_descriptors() {
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(descriptor, F_GETFD) != -1) continue;
+        open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
 }
 
 int run(int argc, char** argv) {
@@ -386,7 +421,11 @@ int run(int argc, char** argv) {
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        if (error.get_exit_code() == 0) return program.exit(error);
+        if (error.get_exit_code() == 0) return show_help(program, error);
+        if (argc > 1 && argv[1][0] != '-' && program.get_subcommands().empty()) {
+            report("no such command: '" + std::string(argv[1]) + "' (lmrtext --help says more)");
+            return exit_trouble;
+        }
         report(std::string(error.what()) + " (lmrtext --help says more)");
         return exit_trouble;
     }
@@ -410,5 +449,7 @@ int run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    occupy_standard_descriptors();
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that grows too large is an error to report
     return guarded(exit_failure, [&] { return run(argc, argv); });
 }

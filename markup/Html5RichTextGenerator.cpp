@@ -25,9 +25,7 @@ std::size_t append_escaped(std::string& result, std::string_view text) {
             return 1;
         case '\t':
         case '\n':
-        case '\f':
-        case '\r':
-            result += c;  // white space to HTML
+            result += c;
             return 1;
         case '\0':  // HTML has no references to it and to those above U+007F
         case '\xC2':

@@ -9,8 +9,8 @@ public:
     ~Html5RichTextGenerator() override;
 
     /// Appends `text` to `result` with "&", "<", ">" and the double quote as character references
-    /// and control characters that are no white space to HTML, of which NUL and those above U+007F
-    /// become what shows them.
+    /// and control characters but tabs and line feeds, of which NUL and those above U+007F become
+    /// what shows them.
     static void escape(std::string& result, std::string_view text);
 
 protected:

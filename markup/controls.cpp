@@ -14,7 +14,7 @@ char32_t visible(char32_t code) {
 
 std::size_t append_shown(std::string& result, std::string_view text) {
     const Utf8Character character = first_character(text);
-    if (may_begin_control(text.front())) {
+    if (!character.valid || may_begin_control(text.front())) {
         append_utf8(result, visible(character.code));
     } else {
         result += text.substr(0, character.size);

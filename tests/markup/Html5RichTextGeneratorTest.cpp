@@ -25,7 +25,7 @@ TEST(Html5RichTextGenerator, WritesWhatABrowserShows) {
     } cases[] = {
         {"escaped", "a<b>&\"'", S(), "a&lt;b&gt;&amp;&quot;'"},
         {"escaped replacement", "ab", S().replacement(0, 1), "R&amp;Sb"},
-        {"controls", "\x1b[1m\x7f\xc2\x9b\t\r\n°\xff", S(), "&#27;[1m&#127;\uFFFD\t\r\n°\xff"},
+        {"controls", "\x1b[1m\x7f\xc2\x9b\t\r\n°\xff", S(), "&#27;[1m&#127;\uFFFD\t&#13;\n°\xff"},
         {"letter", "mu!", S().greek(0, 2), "μ!"},
         {"unknown letter", "\\d-x", unknown_letter, "\\d-x"},
         {"UTF-8", "é€", S().bold(0, 2), "<b>é</b>€"},
