@@ -32,6 +32,6 @@ if(LMRTEXT_BUILD_PROGRAM AND NOT CMAKE_CROSSCOMPILING)
     install(FILES ${texts}/lmrtext.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
     install(FILES ${texts}/lmrtext.bash RENAME lmrtext
             DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
-    install(FILES ${texts}/_lmrtext DESTINATION ${LMRTEXT_ZSH_FOLDER})
+    install(FILES ${texts}/_lmrtext DESTINATION ${zsh_folder})
     install(FILES ${texts}/lmrtext.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 endif()

@@ -4,6 +4,10 @@ set(CPACK_PACKAGE_VENDOR "${PROJECT_NAME} developers")
 set(CPACK_PACKAGE_CONTACT "${PROJECT_NAME} developers <lmrtext@localhost>")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_STRIP_FILES ON)
+# Whatever the umask of who makes them.
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
@@ -41,7 +45,10 @@ set(CPACK_COMPONENT_PROGRAM_DESCRIPTION
     "The program that converts, shows, searches and compares the texts of
 crystal-structure entries.")
 
-set(CPACK_COMPONENTS_ALL library development program)
+set(CPACK_COMPONENTS_ALL library development)
+if(LMRTEXT_BUILD_PROGRAM)
+    list(APPEND CPACK_COMPONENTS_ALL program)
+endif()
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     string(TOUPPER ${component} upper)
     install(FILES cmake/copyright COMPONENT ${component}

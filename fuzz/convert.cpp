@@ -94,8 +94,7 @@ std::size_t own_sequence(const std::string& target, std::string_view text) {
 void check_harmless(const ConvertOptions& options, const std::string& output) {
     const std::string target = options.to->name;
     if (!options.to->escapes) return;
-    const std::string allowed =
-        std::string("\n\t\f\r", target == "html5" ? 4 : 2) + options.batch.separator;
+    const std::string allowed = std::string("\n\t") + options.batch.separator;
     for (std::size_t i = 0; i < output.size();) {
         const std::string_view rest = std::string_view(output).substr(i);
         const std::size_t size = own_sequence(target, rest);

@@ -8,7 +8,6 @@ build=$1
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
-mkdir -p "$released"
 status=0
 for library in liblmrtext default_host/libkovrhost; do
     name=$(basename $library)
@@ -19,13 +18,18 @@ for library in liblmrtext default_host/libkovrhost; do
         echo "$library has no debug information, which tells its interface" >&2
         exit 1
     }
+    if grep -q "path='/" "$now"; then
+        echo "$library tells where it was built" >&2
+        exit 1
+    fi
     if [[ ${2-} == --record ]]; then
         gzip -9n <"$now" >"$released/$name.abi.gz"
         continue
     fi
     gzip -d <"$released/$name.abi.gz" >"$folder/released.abi"
     if ! abidiff --no-added-syms "$folder/released.abi" "$now"; then
-        echo "programs built with the last release would break: raise the interface's number"
+        echo "$name differs from the last release: where programs built with that would break," \
+            "raise the first number of interface_version; then --record what is meant"
         status=1
     fi
 done

@@ -34,7 +34,7 @@ borrow_dependencies() {
 
 # Scripts of the packages run here, but not the cache of libraries of this machine.
 in_root() {
-    PATH=$folder/bin:$PATH fakeroot dpkg --root="$root" --log=/dev/null --force-not-root \
+    PATH=$folder/bin:$PATH:/usr/sbin:/sbin fakeroot dpkg --root="$root" --log=/dev/null --force-not-root \
         --force-script-chrootless "$@" >"$folder/log" 2>&1 || fail "$(<"$folder/log")"
 }
 
@@ -72,6 +72,7 @@ make_packages upgrade -R 99.0
 in_root --install upgrade/*.deb
 check "$html" "$program" convert --from tevo-name --to html5 <<<"$name"
 
-in_root --purge lmrtext liblmrtext-dev liblmrtext1
+mapfile -t names < <(for package in packages/*.deb; do dpkg-deb -f "$package" Package; done)
+in_root --purge "${names[@]}"
 left=$(find "$root" -path "$root/var/lib/dpkg" -prune -o ! -type d -print)
 [[ -z $left ]] || fail "left behind: $left"

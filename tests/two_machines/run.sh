@@ -14,16 +14,21 @@ export SHELL=/bin/bash
 
 cat >remote_shell <<'END'
 #!/bin/sh
-echo "$1" >>machines
+export MACHINE="$1"
 shift
 [ "$1" != -- ] || shift
 exec sh -c "$*"
 END
-chmod +x remote_shell
+cat >on_machine <<END
+#!/bin/sh
+echo "\$MACHINE" >>"$folder/machines"
+exec "$program" "\$@"
+END
+chmod +x remote_shell on_machine
 
 for _ in {1..200}; do cut -f1 "$names"; done >all
 parallel --will-cite --pipe --keep-order --block 20k \
     -S "$folder/remote_shell one" -S "$folder/remote_shell two" \
-    "$program" convert --from cif-name --to html5 <all >shared
+    "$folder/on_machine" convert --from cif-name --to html5 <all >shared
 "$program" convert --from cif-name --to html5 all | cmp - shared
-[[ $(sort -u machines) == $'one\ntwo' ]] || { echo "not both machines were asked"; exit 1; }
+[[ $(sort -u machines) == $'one\ntwo' ]] || { echo "not both machines converted"; exit 1; }

@@ -27,12 +27,14 @@ std::optional<MeltingPoint> find_melting_point(std::string_view text) {
     const auto from = read_number(text, end);
     if (!from) return std::nullopt;
     auto to = from;
+    std::optional<unsigned int> hyphen;
     if (text.substr(end).starts_with('-')) {
         std::size_t end_of_range = end + 1;
         if (const auto last = read_number(text, end_of_range)) {
             to = last;
+            hyphen = to_position(end);
             end = end_of_range;
         }
     }
-    return MeltingPoint{StringSlice(to_position(begin), to_position(end)), *from, *to};
+    return MeltingPoint{StringSlice(to_position(begin), to_position(end)), *from, *to, hyphen};
 }

@@ -7,8 +7,9 @@
 
 /// A temperature or a range of them, in K, and where a text says so.
 struct MeltingPoint {
-    StringSlice slice;  // in bytes of the text
-    double from, to;    // equal for one temperature
+    StringSlice slice;                   // in bytes of the text
+    double from, to;                     // equal for one temperature
+    std::optional<unsigned int> hyphen;  // of a range, a position in the text
 };
 
 /// The first number of `text` and, behind a hyphen, the number that ends the range: "411-413".

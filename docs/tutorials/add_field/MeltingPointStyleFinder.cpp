@@ -22,10 +22,9 @@ void MeltingPointStyleFinder::calc_tag_positions() {
     label_ = hyphen_ = decomposes_ = std::nullopt;
     const auto point = find_melting_point(text());
     if (!point) return;
-    const StringSlice& range = point->slice;
     if (text().starts_with(label)) label_ = 0;
-    hyphen_ = find(std::string_view(text()).substr(0, range.to()), "-", range.from());
-    decomposes_ = find(text(), decomposes, range.to());
+    hyphen_ = point->hyphen;
+    decomposes_ = find(text(), decomposes, point->slice.to());
 }
 
 void MeltingPointStyleFinder::italic(std::vector<StringSlice>& out) const {

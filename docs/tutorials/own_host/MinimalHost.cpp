@@ -30,20 +30,28 @@ struct RegexResults::Match {
     std::smatch groups;
     unsigned int offset = 0;  // where the search began
 
+    bool matched(unsigned int number) const {
+        return number < groups.size() && groups[number].matched;
+    }
     /// For a group that took part.
     const std::ssub_match& group(unsigned int number) const {
-        if (!groups[number].matched) throw std::out_of_range("own_host: no such group");
+        if (!matched(number)) throw std::out_of_range("own_host: no such group");
         return groups[number];
     }
 };
 
 RegexResults::RegexResults() : match_(std::make_unique<Match>()) {}
-RegexResults::RegexResults(RegexResults&&) noexcept = default;
-RegexResults& RegexResults::operator=(RegexResults&&) noexcept = default;
+RegexResults::RegexResults(RegexResults&& other) noexcept
+    : match_(std::exchange(other.match_, std::make_unique<Match>())) {}
+RegexResults& RegexResults::operator=(RegexResults&& other) noexcept {
+    std::swap(match_, other.match_);
+    other.match_->groups = {};
+    return *this;
+}
 RegexResults::~RegexResults() = default;
 
 unsigned int RegexResults::size() const { return static_cast<unsigned int>(match_->groups.size()); }
-bool RegexResults::matched(unsigned int number) const { return match_->groups[number].matched; }
+bool RegexResults::matched(unsigned int number) const { return match_->matched(number); }
 std::string RegexResults::text(unsigned int number) const { return match_->group(number).str(); }
 unsigned int RegexResults::start(unsigned int number) const {
     static_cast<void>(match_->group(number));
