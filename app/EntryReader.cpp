@@ -330,8 +330,9 @@ private:
         const std::string symbol = first_text(symbol_tags);
         const gemmi::SpaceGroup* group = nullptr;
         // To gemmi some numbers are symbols too.
-        if (!symbol.empty() && (symbol[0] < '0' || symbol[0] > '9'))
+        if (!symbol.empty() && (symbol[0] < '0' || symbol[0] > '9')) {
             group = gemmi::find_spacegroup_by_name(symbol, alpha, gamma);
+        }
         if (!group) group = find_by_hall_symbol();
         if (!group) group = find_by_operations();
         const std::optional<UncertainValue> number = read_number(first_text(number_tags));

@@ -8,17 +8,18 @@
 
 LoadedEntries load_entries(const std::string& file) {
     LoadedEntries loaded{{}, true};
+    const auto refuse = [&loaded](const std::string& message) {
+        report(message);
+        loaded.good = false;
+    };
     try {
         loaded.entries = read_cif_entries(file);
     } catch (const InputError& error) {
-        report(error.what());
-        loaded.good = false;
+        refuse(error.what());
     } catch (const CifError& error) {
-        report(error.what());
-        loaded.good = false;
+        refuse(error.what());
     } catch (const std::bad_alloc&) {
-        report(file + ": out of memory");
-        loaded.good = false;
+        refuse(file + ": out of memory");
     }
     for (const CifEntry& entry : loaded.entries) {
         for (const CifEntry::Problem& problem : entry.problems) {

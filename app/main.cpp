@@ -190,8 +190,9 @@ void add_show(CLI::App& program, ShowArguments& arguments) {
                    "What to write; unless given, as the ending of the file says, ansi on a "
                    "terminal and tevo elsewhere");
     command
-        ->add_option("-o,--output", options.path,
-                     "Write to this file; html5, also for unknown endings, is a page")
+        ->add_option(
+            "-o,--output", options.path,
+            "Write to this file, -: standard output; html5, also for unknown endings, is a page")
         ->check([](const std::string& path) {
             return path.empty() ? "expected the name of a file" : std::string();
         })
