@@ -1,6 +1,7 @@
 #include "app/CifFile.h"
 
 #include <gemmi/cif.hpp>
+#include <set>
 
 #include "app/InputFile.h"
 
@@ -25,12 +26,28 @@ void add_pairs(const cif::Block& block, const std::string& prefix, CifBlock& res
         const std::string tag = gemmi::to_lower(item.pair[0]);
         if (tag.compare(0, prefix.size(), prefix) != 0) continue;
         const auto line = static_cast<unsigned long>(item.line_number);
-        result.items[tag].push_back({text_of(item.pair[1]), line});
+        std::vector<CifValue>& read = result.items[tag];
+        if (read.empty()) read.push_back({text_of(item.pair[1]), line});
+    }
+}
+
+/// Notes the items of `result` that stand in the block again.
+void note_repetitions(const cif::Block& block, CifBlock& result) {
+    std::set<std::string> seen;
+    const auto see = [&](const std::string& name, const cif::Item& item) {
+        const std::string tag = gemmi::to_lower(name);
+        if (result.items.count(tag) == 0 || seen.insert(tag).second) return;
+        result.repetitions.push_back({tag, static_cast<unsigned long>(item.line_number)});
+    };
+    for (const cif::Item& item : block.items) {
+        if (item.type == cif::ItemType::Pair) see(item.pair[0], item);
+        if (item.type != cif::ItemType::Loop) continue;
+        for (const std::string& name : item.loop.tags) see(name, item);
     }
 }
 
 CifBlock block_of(cif::Block& block, const std::vector<std::string>& tags) {
-    CifBlock result{block.name, {}};
+    CifBlock result{block.name, {}, {}};
     for (const std::string& tag : tags) {
         if (tag.back() == '_') {
             add_pairs(block, tag, result);
@@ -43,6 +60,7 @@ CifBlock block_of(cif::Block& block, const std::vector<std::string>& tags) {
         read.reserve(static_cast<std::size_t>(values.length()));
         for (const std::string& value : values) read.push_back({text_of(value), line});
     }
+    note_repetitions(block, result);
     return result;
 }
 

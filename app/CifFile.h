@@ -19,8 +19,15 @@ struct CifValue {
 
 /// One data block: the values of its items by tag, a value a row for the items of loops.
 struct CifBlock {
+    /// An item that the block has already, which CIF forbids.
+    struct Repetition {
+        std::string tag;
+        unsigned long line;
+    };
+
     std::string name;
     std::map<std::string, std::vector<CifValue>> items;
+    std::vector<Repetition> repetitions;  // their values are left out
 };
 
 /// The data blocks of a CIF file with those of their items that are named in `tags`; a tag that

@@ -158,6 +158,10 @@ public:
         read_space_group();
         read_numbers();
         read_atoms();
+        for (const CifBlock::Repetition& repetition : block_.repetitions) {
+            problems_.push_back({repetition.line, "data_" + block_.name + ": " + repetition.tag +
+                                                      ": given again; the first value counts"});
+        }
         return {block_.name, entry_, std::move(problems_)};
     }
 

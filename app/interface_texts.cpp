@@ -85,7 +85,7 @@ std::vector<ValueTable> value_tables(const CLI::App& program, const Choices& cho
     for (const CLI::App* command : commands_of(program)) {
         for (const CLI::Option* option : command->get_options()) {
             const auto known = choices.find(option);
-            if (known == choices.end()) continue;
+            if (known == choices.end() || flags_of(*option).empty()) continue;
             const std::string flag = flags_of(*option).front();
             ValueTable& table = found_or_added(
                 tables, [&](const ValueTable& candidate) { return candidate.flag == flag; });
@@ -234,10 +234,11 @@ std::string bash_completion(const CLI::App& program, const Choices& choices) {
         const std::string& name = command->get_name();
         std::vector<std::string> all;
         for (const CLI::Option* option : command->get_options()) {
-            const std::vector<std::string> flags = flags_of(*option);
+            std::vector<std::string> flags = flags_of(*option);
             all.insert(all.end(), flags.begin(), flags.end());
             const auto known = choices.find(option);
             if (known == choices.end()) continue;
+            if (flags.empty()) flags.push_back(name);  // its value stands behind the command
             const std::string words = names_of(known->second);
             for (const std::string& flag : flags) {
                 values.append("        '").append(name).append(" ").append(flag);
@@ -276,9 +277,13 @@ std::string zsh_completion(const CLI::App& program, const Choices& choices) {
     std::string arguments;
     const auto commands = commands_of(program);
     for (const CLI::App* command : commands) {
+        std::string positional = "file:_files";
         arguments += "        " + command->get_name() + ") _arguments";
         for (const CLI::Option* option : command->get_options()) {
             const auto known = choices.find(option);
+            if (known != choices.end() && flags_of(*option).empty()) {
+                positional = "value:(" + names_of(known->second) + ')';
+            }
             for (const std::string& flag : flags_of(*option)) {
                 arguments += " \\\n            '*" + flag + '[' +
                              quoted(brief(purpose_of(*option, choices))) + ']';
@@ -290,7 +295,7 @@ std::string zsh_completion(const CLI::App& program, const Choices& choices) {
                 arguments += '\'';
             }
         }
-        arguments += " \\\n            '*:file:_files' ;;\n";
+        arguments += " \\\n            '*:" + positional + "' ;;\n";
     }
     return "#compdef lmrtext\n"
            "_lmrtext() {\n"
@@ -318,11 +323,11 @@ std::string fish_completion(const CLI::App& program, const Choices& choices) {
         lines += "complete -c lmrtext -f -n __fish_use_subcommand -a " + name + " -d " +
                  quoted(command->get_description()) + '\n';
         for (const CLI::Option* option : command->get_options()) {
-            if (flags_of(*option).empty()) continue;
+            const auto known = choices.find(option);
+            if (flags_of(*option).empty() && known == choices.end()) continue;
             lines += "complete -c lmrtext -n '__fish_seen_subcommand_from " + name + '\'';
             for (const std::string& flag : option->get_snames()) lines += " -s " + flag;
             for (const std::string& flag : option->get_lnames()) lines += " -l " + flag;
-            const auto known = choices.find(option);
             if (known != choices.end()) {
                 lines += " -x -a " + quoted(names_of(known->second));
             } else if (takes_value(*option)) {

@@ -302,9 +302,10 @@ void add_texts(CLI::App& program) {
         ->description("In Markdown, as a part of a page");
     CLI::App* completion =
         program.add_subcommand("completion", "Prints a script that completes commands in a shell");
-    completion->add_option("SHELL", "bash, zsh or fish")
-        ->required()
-        ->check(CLI::IsMember({"bash", "zsh", "fish"}));
+    CLI::Option* const shell = completion->add_option("SHELL", "bash, zsh or fish")
+                                   ->required()
+                                   ->check(CLI::IsMember({"bash", "zsh", "fish"}));
+    choices()[shell] = {shell->get_description(), {{"bash", ""}, {"zsh", ""}, {"fish", ""}}};
 }
 
 int run_text(const CLI::App& program) {
