@@ -357,7 +357,7 @@ TEST_F(Program, AFileAppearsWholeOrNotAtAll) {
     const Result ended = run("--version >/dev/null; mkfifo fifo; exec 3<>fifo; " + program +
                              "- <fifo & while ! ls page.html.*; do sleep 0.01; done >ls 2>&1; "
                              "kill $!; wait $!; echo $? >&2; rm fifo ls");
-    EXPECT_THAT(ended.err, EndsWith("143\n"));  // by SIGTERM
+    EXPECT_THAT(ended.err, EndsWith("143\n"));            // by SIGTERM
     run("show -o page.html none none none 2>&1 | true");  // SIGPIPE, unless it was faster
     const Result full =
         run("--version >/dev/null; ulimit -f 1; " + program + data + "/1008935.cif");
