@@ -50,7 +50,7 @@ protected:
                                     ("lmrtext_program_test_" + std::to_string(getpid()));
 };
 
-const std::string data = DATA_FOLDER;
+const std::string data = "'" DATA_FOLDER "'";  // for the shell
 
 }  // namespace
 
@@ -109,8 +109,8 @@ TEST_F(Program, TellsShellsAndReadersOfItsCommands) {
 
 TEST_F(Program, WritesForTheTerminalThatItHas) {
     const auto shown = [&](const std::string& variables, const std::string& arguments) {
-        const std::string command = "env TERM=xterm NO_COLOR= " + variables + " script -qec \"" +
-                                    PROGRAM + " " + arguments + " '" + file("text", "a&b\n") +
+        const std::string command = "env TERM=xterm NO_COLOR= " + variables + " script -qec \"'" +
+                                    PROGRAM + "' " + arguments + " '" + file("text", "a&b\n") +
                                     "'\" /dev/null";
         return run("--version >/dev/null; " + command).out;
     };
@@ -138,7 +138,7 @@ TEST_F(Program, ShowWritesPartsOfDocuments) {
 }
 
 TEST_F(Program, RealNamesComeBackUnchanged) {
-    std::istringstream rows(contents(data + "/names.tsv"));
+    std::istringstream rows(contents(DATA_FOLDER "/names.tsv"));
     std::string cif, source, tevo, all_cif, all_tevo;
     while (std::getline(std::getline(std::getline(rows, cif, '\t'), source, '\t'), tevo)) {
         all_cif += cif + "\n";

@@ -28,7 +28,7 @@ check "$work/build/by_package"
 
 libraries=$(dirname "$(find "$prefix" -name liblmrtext.so)")
 export PKG_CONFIG_PATH=$libraries/pkgconfig
-read -ra flags <<<"$(pkg-config --cflags --libs lmrtext)"
+eval "flags=($(pkg-config --cflags --libs lmrtext))" # it quotes blanks as a shell reads them
 "$compiler" -std=c++20 "$work/example.cpp" "${flags[@]}" -o "$work/by_pkg_config"
 LD_LIBRARY_PATH=$libraries check "$work/by_pkg_config"
 

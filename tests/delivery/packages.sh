@@ -64,7 +64,7 @@ cat >use.cpp <<'END'
 int main() { std::cout << StringSlice(2, 5) << '\n'; }
 END
 libraries=$(dirname "$(find "$root" -name lmrtext.pc)")
-read -ra flags <<<"$(PKG_CONFIG_PATH=$libraries pkg-config --cflags --libs lmrtext)"
+eval "flags=($(PKG_CONFIG_PATH=$libraries pkg-config --cflags --libs lmrtext))"
 "$compiler" -std=c++20 use.cpp "${flags[@]}" -Wl,-rpath,"${libraries%/*}" -o use
 check "2 5" ./use
 
