@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Checks that the program and the libraries of a release build are hardened: hardening.sh BUILD_FOLDER
+set -euo pipefail
+
+build=$1
+status=0
+
+# These leave no mark in a file that has nothing for them to protect.
+flags=(-D_FORTIFY_SOURCE=2 -fstack-protector-strong -fstack-clash-protection)
+[[ $(uname -m) != x86_64 ]] || flags+=(-fcf-protection)
+for flag in "${flags[@]}"; do
+    without=$(grep '"command":' "$build/compile_commands.json" | grep -cvF -e "$flag") || true
+    if ((without > 0)); then
+        echo "$without sources are compiled without $flag"
+        status=1
+    fi
+done
+
+for file in app/lmrtext liblmrtext.so default_host/libkovrhost.so; do
+    marks=$(readelf --wide --file-header --segments --dynamic --dyn-syms "$build/$file")
+    while IFS='|' read -r pattern meaning; do
+        line=$(grep -m 1 -E -e "$pattern" <<<"$marks") && printf '%s: %s\n' "$file" "$(xargs <<<"$line")" && continue
+        echo "$file: not $meaning"
+        status=1
+    done <<'END'
+^ *Type: +DYN |independent of its position
+ GNU_STACK .* RW +0x|free of code on the stack
+ GNU_RELRO |read-only where it has been relocated
+ \(FLAGS_1\) .*\bNOW\b|bound when it is loaded
+ __stack_chk_fail@|protected by canaries
+END
+done
+exit $status
