@@ -1,7 +1,8 @@
 # Debian packages: `cpack` in a build for the prefix /usr, as the preset release is.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "${PROJECT_NAME} developers")
-set(CPACK_PACKAGE_CONTACT "${PROJECT_NAME} developers <lmrtext@localhost>")
+# The project has no address of its own: no mail can ever reach this host.
+set(CPACK_PACKAGE_CONTACT "${PROJECT_NAME} developers <developers@lmrtext.invalid>")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_STRIP_FILES ON)
 # Whatever the umask of who makes them.
@@ -49,9 +50,15 @@ set(CPACK_COMPONENTS_ALL library development)
 if(LMRTEXT_BUILD_PROGRAM)
     list(APPEND CPACK_COMPONENTS_ALL program)
 endif()
+set(changelog ${PROJECT_BINARY_DIR}/changelog.gz)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS CHANGELOG.md)
+execute_process(COMMAND cmake/debian_changelog.sh CHANGELOG.md ${PROJECT_NAME} ${CPACK_PACKAGE_CONTACT}
+                COMMAND gzip -9n
+                WORKING_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_FILE ${changelog}
+                COMMAND_ERROR_IS_FATAL ANY)
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     string(TOUPPER ${component} upper)
-    install(FILES cmake/copyright COMPONENT ${component}
+    install(FILES cmake/copyright ${changelog} COMPONENT ${component}
             DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
 endforeach()
 include(CPack)

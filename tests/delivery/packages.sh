@@ -48,6 +48,7 @@ check() {
 mkdir bin
 ln -s /bin/true bin/ldconfig
 make_packages packages
+lintian --fail-on error packages/*.deb || fail "lintian finds errors in the packages"
 borrow_dependencies
 in_root --install packages/*.deb
 
