@@ -22,7 +22,7 @@ public:
 
     /// What stands before the next NUL, or the rest.
     std::string text() {
-        const std::string text = rest_.substr(0, rest_.find('\0'));
+        std::string text = rest_.substr(0, rest_.find('\0'));
         rest_.erase(0, text.size() + 1);
         return text;
     }
