@@ -205,9 +205,12 @@ std::string manual_page(const CLI::App& program, const Choices& choices,
 }
 
 std::string manual_in_markdown(const CLI::App& program, const Choices& choices) {
-    std::string page;
+    std::string page =
+        "# Commands\n\n"
+        "What the manual page and, command by command, `--help` say too. This page is what\n"
+        "`lmrtext manual --markdown` prints.\n\n";
     for (const CLI::App* command : commands_of(program)) {
-        page += "### lmrtext " + command->get_name() + "\n\n" +
+        page += "## lmrtext " + command->get_name() + "\n\n" +
                 markdown(command->get_description()) + ".\n\n";
         std::string rows;
         for (const CLI::Option* option : command->get_options()) {
@@ -217,7 +220,7 @@ std::string manual_in_markdown(const CLI::App& program, const Choices& choices) 
         const std::string footer = command->get_footer();
         if (!footer.empty()) page += markdown_footer(footer) + '\n';
     }
-    page += "### Values\n";
+    page += "## Values\n";
     for (const ValueTable& table : value_tables(program, choices)) {
         page += "\n| `" + table.flag + "` | |\n| --- | --- |\n";
         for (const ValueTable::Value& value : table.values) {

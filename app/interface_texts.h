@@ -25,7 +25,7 @@ using Choices = std::map<const CLI::Option*, ChoiceOption>;
 std::string manual_page(const CLI::App& program, const Choices& choices,
                         const std::string& version);
 
-/// The same in Markdown, as a part of a page: the commands with their options, and their values.
+/// The same in Markdown: the commands with their options, and their values.
 std::string manual_in_markdown(const CLI::App& program, const Choices& choices);
 
 /// Scripts that complete the program's commands, options and values.

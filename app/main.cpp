@@ -299,7 +299,7 @@ void add_texts(CLI::App& program) {
     program.add_subcommand("targets", "Lists what can be written: name, ending of files, content");
     program.add_subcommand("manual", "Prints the manual page")
         ->add_flag("--markdown")
-        ->description("In Markdown, as a part of a page");
+        ->description("In Markdown");
     CLI::App* completion =
         program.add_subcommand("completion", "Prints a script that completes commands in a shell");
     CLI::Option* const shell = completion->add_option("SHELL", "bash, zsh or fish")

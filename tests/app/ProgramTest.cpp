@@ -74,10 +74,8 @@ TEST_F(Program, ConvertsEachTextToEachTarget) {
     EXPECT_EQ(run("convert --from plain --to html5", "<alpha>").out, "&lt;alpha&gt;\n");
 }
 
-TEST_F(Program, TheReadmeHasTheCommandsOfTheManual) {
-    EXPECT_THAT(contents(README), HasSubstr("<!-- what follows is printed by lmrtext manual "
-                                            "--markdown -->\n" +
-                                            run("manual --markdown").out + "<!-- end -->\n"));
+TEST_F(Program, ThePageOfCommandsIsTheManual) {
+    EXPECT_EQ(contents(COMMANDS), run("manual --markdown").out);
     std::istringstream rows(run("targets").out);
     int targets = 0;
     for (std::string name, rest; std::getline(std::getline(rows, name, '\t'), rest); ++targets) {
