@@ -81,9 +81,9 @@ std::vector<CifBlock> read_cif_blocks(const std::string& path,
     } catch (const tao::pegtl::parse_error& error) {
         const std::size_t line = error.positions().empty() ? 1 : error.positions().front().line;
         throw CifError(path + ":" + std::to_string(line) +
-                       ": no CIF: " + std::string(error.message()));
+                       ": not a CIF file: " + std::string(error.message()));
     }
-    if (document.blocks.empty()) throw CifError(path + ":1: no CIF: expected a data block");
+    if (document.blocks.empty()) throw CifError(path + ":1: not a CIF file: expected a data block");
     std::vector<CifBlock> blocks;
     for (cif::Block& block : document.blocks) blocks.push_back(block_of(block, tags));
     return blocks;

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-/// A file is no CIF; what() names file, line and what was wrong.
+/// A file is not a CIF file; what() names it, the line and what was wrong.
 class CifError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

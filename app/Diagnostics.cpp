@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Shows control characters, and what is no UTF-8, as "?": names of files and texts that are quoted
-/// may hold any bytes, and terminals obey some.
+/// Shows control characters, and bytes that are not UTF-8, as "?": names of files and texts that
+/// are quoted may hold any bytes, and terminals obey some.
 void write_line(std::string_view text) {
     std::string line;
     while (!text.empty()) {

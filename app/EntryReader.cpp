@@ -346,7 +346,7 @@ private:
         return group;
     }
 
-    // Where gemmi refuses an item, these leave the word to the next.
+    // These two give no group where gemmi refuses the item, so that the next item is tried.
 
     const gemmi::SpaceGroup* find_by_hall_symbol() const {
         const std::string symbol = first_text(hall_tags);

@@ -49,7 +49,7 @@ constexpr Row rows[] = {
 }  // namespace
 
 Field field_of(Names::TextID id) {
-    static_cast<void>(Names::text(id));  // throws for what is no field
+    static_cast<void>(Names::text(id));  // throws for what is not a field
     const auto* const row = std::find_if(std::begin(rows), std::end(rows),
                                          [id](const Row& candidate) { return candidate.id == id; });
     const bool special = row != std::end(rows);

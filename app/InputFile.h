@@ -12,7 +12,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// A file, or standard input, that is read from its begin to its end.
+/// A file, or standard input, that is read from its beginning to its end.
 class InputFile {
 public:
     /// Opens `path`, or standard input for "-"; throws InputError.

@@ -17,7 +17,7 @@ struct SearchKind {
     const char* name;
     const char* help;
     THandle<TextSearch> (*make_search)(const SearchSettings& settings);
-    /// Whether the term says anything to the search: without, all texts or none would match.
+    /// Whether the term holds what the search looks for; otherwise all texts or none would match.
     bool (*takes)(const std::string& term);
 };
 

@@ -25,6 +25,6 @@ public:
 private:
     InputFile file_;
     char separator_;
-    std::string rest_;          // the begin of a text whose end has not been read
+    std::string rest_;          // the beginning of a text whose end has not been read
     unsigned long number_ = 1;  // of the next text
 };

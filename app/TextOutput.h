@@ -11,7 +11,7 @@ class TextOutput {
 public:
     /// Standard output.
     TextOutput() : name_("standard output"), file_(stdout) {}
-    /// Begins a file that will replace what is at `path`; what is no regular file, such as a
+    /// Begins a file that will replace what is at `path`; what is not a regular file, such as a
     /// device, is written to as it is. Throws std::system_error.
     explicit TextOutput(const std::string& path);
     TextOutput(const TextOutput&) = delete;

@@ -7,5 +7,5 @@ struct LoadedEntries {
     bool good;  // nothing was reported
 };
 
-/// The entries of a CIF file. Reports a file that is none, and the items that cannot be read.
+/// The entries of a CIF file. Reports a file that is not CIF, and the items that cannot be read.
 LoadedEntries load_entries(const std::string& file);

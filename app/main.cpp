@@ -134,8 +134,8 @@ LMRFieldNames::TextID field_named(const std::string& label) {
                                "'; lmrtext fields --view internal lists them");
 }
 
-/// The labels before each comma. One label holds a comma itself: where a part is no label, the next
-/// belongs to it.
+/// The labels before each comma. One label holds a comma itself: where a part is not a label, the
+/// next belongs to it.
 std::vector<LMRFieldNames::TextID> fields_named(const std::string& labels) {
     std::vector<LMRFieldNames::TextID> fields;
     std::size_t start = 0;
@@ -208,7 +208,7 @@ void add_tolerance_option(CLI::App* command, SearchSettings& settings) {
             "rounding")
         ->check([](const std::string& tolerance) {
             if (is_tolerance(tolerance)) return std::string();
-            return "'" + tolerance + "' is no tolerance; expected a number of at least 0";
+            return "'" + tolerance + "' is not a tolerance; expected a number of at least 0";
         });
 }
 
@@ -275,7 +275,7 @@ int guarded(int trouble, const std::function<int()>& command) {
     try {
         return command();
     } catch (const std::system_error& error) {
-        // A reader that has seen enough is no failure worth a word.
+        // That the reader has seen enough and gone is not reported.
         if (error.code().value() != EPIPE) report(error.what());
     } catch (const std::exception& error) {
         report(error.what());
@@ -377,7 +377,7 @@ int run_search(SearchOptions& options) {
         return exit_trouble;
     }
     if (!options.how->takes(options.term)) {
-        report("'" + options.term + "' is no term for the search " + options.how->name +
+        report("'" + options.term + "' is not a term for the search " + options.how->name +
                " (lmrtext search --help says more)");
         return exit_trouble;
     }
@@ -396,8 +396,8 @@ int show_help(const CLI::App& program, const CLI::ParseError& error) {
     return 0;
 }
 
-/// Makes the standard descriptors that are closed refuse reading or writing, as they do: a file
-/// that is opened would have their places otherwise, and get what is written to them.
+/// Occupies the standard descriptors that are closed with ones that refuse reading or writing.
+/// Otherwise a file opened later would take their numbers and get what is written to them.
 void occupy_standard_descriptors() {
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) != -1) continue;

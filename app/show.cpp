@@ -82,7 +82,7 @@ private:
     Html5RichTextGenerator generator_;
 };
 
-/// One array of entries; bytes that are no UTF-8 become replacement characters.
+/// One array of entries; bytes that are not UTF-8 become replacement characters.
 class JsonArray : public Form {
 public:
     std::string head() override { return "["; }

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Beyond these a number is no measurement; the buffer below holds any double with as many.
+// Beyond these a number is not a measurement; the buffer below holds any double with as many.
 constexpr int most_decimals = 30;
 
 /// As many as leave 2 to 19 in the last place.

@@ -47,7 +47,8 @@ public:
 
     /// The names in ascending byte order.
     const std::vector<std::string>& tevo_chemical_name_greek() const { return names_; }
-    /// The indices [first, last) of the names that begin with `letter`; none where it is no a to z.
+    /// The indices [first, last) of the names that begin with `letter`; none where it is not one of
+    /// a to z.
     std::pair<unsigned int, unsigned int> names_beginning_with(char letter) const {
         if (letter < 'a' || letter > 'z') return {0, 0};
         const auto index = static_cast<unsigned int>(letter - 'a');

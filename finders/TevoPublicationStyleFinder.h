@@ -12,11 +12,11 @@ public:
     ~TevoPublicationStyleFinder() override;
 
     /// The volume, unless it is empty. This and italic() throw std::range_error "length of
-    /// StringSlice error" for an end tag before its begin tag.
+    /// StringSlice error" for an end tag before its opening tag.
     void bold(std::vector<StringSlice>& out) const override;
     /// The journal.
     void italic(std::vector<StringSlice>& out) const override;
-    /// The begin tags and the end tag of the page.
+    /// The opening tags and the end tag of the page.
     void invisible(std::vector<StringSlice>& out) const override;
     /// The end tags of journal, volume and year, shown as the punctuation between the parts.
     void replacement_text(std::vector<ReplacementTextSlice>& out) const override;

@@ -8,7 +8,7 @@ struct Date {
     int month = 0;  ///< 1 to 12.
     int day = 0;    ///< 1 to 31.
 
-    /// Whether it is no day: all three are 0.
+    /// Whether no day is given: all three are 0.
     bool is_null() const { return year == 0 && month == 0 && day == 0; }
     /// Writes "2004-07-09".
     void print(std::ostream& os) const;

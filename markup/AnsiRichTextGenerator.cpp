@@ -77,7 +77,7 @@ AnsiRichTextGenerator::~AnsiRichTextGenerator() = default;
 void AnsiRichTextGenerator::write_text(std::string& result, std::string_view text) const {
     while (!text.empty()) {
         const Utf8Character character = first_character(text);
-        append_utf8(result, visible(character.code));  // U+FFFD for what is no UTF-8
+        append_utf8(result, visible(character.code));  // U+FFFD for what is not UTF-8
         text.remove_prefix(character.size);
     }
 }

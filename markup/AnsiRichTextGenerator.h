@@ -5,7 +5,7 @@
 /// Writes Unicode text for a terminal, with sequences that select bold, italic, underlined and
 /// coloured characters. Each line selects what it needs and is reset at its end. Nothing of the
 /// text reaches the terminal as a control: control characters are shown by their Unicode symbols,
-/// and what is no UTF-8 as replacement characters; only line feeds end lines.
+/// and what is not UTF-8 as replacement characters; only line feeds end lines.
 class AnsiRichTextGenerator : public UnicodeRichTextGenerator {
 public:
     AnsiRichTextGenerator();

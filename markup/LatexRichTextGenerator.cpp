@@ -51,7 +51,8 @@ const char* command_for(char c) {
 /// Whether two of them make a dash or a quotation mark.
 bool makes_ligature(char c) { return c == '-' || c == '\'' || c == ','; }
 
-/// Whether LaTeX would drop a space here: at the begin, behind another and behind what ends so.
+/// Whether LaTeX would drop a space here: at the beginning and behind another, closed groups
+/// between.
 bool swallows_space(const std::string& result) {
     const std::size_t last = result.find_last_not_of('}');
     return last == std::string::npos || result[last] == ' ' || result[last] == '{';

@@ -3,8 +3,8 @@
 #include "markup/NestingRichTextGenerator.h"
 
 /// Writes LaTeX for a paragraph, a table cell or an argument of a command. The text is escaped,
-/// ligatures of punctuation included; bytes that are no UTF-8, and control characters, are shown as
-/// their hexadecimal numbers between angle brackets. Letters beyond ASCII are for the document's
+/// ligatures of punctuation included; bytes that are not UTF-8, and control characters, are shown
+/// as their hexadecimal numbers between angle brackets. Letters beyond ASCII are for the document's
 /// input encoding and fonts.
 class LatexRichTextGenerator : public NestingRichTextGenerator {
 public:

@@ -34,7 +34,7 @@ bool must_escape(std::string_view result, std::string_view text) {
     constexpr std::string_view always = "\\`*_[]<>&~|$";
     const char c = text.front();
     if (always.find(c) != std::string_view::npos) return true;
-    // Lines of headings, rules and lists; "-1" and "2.5" are none.
+    // Lines of headings, rules and lists; "-1" and "2.5" are not among them.
     const bool goes_on = text.size() > 1 && (is_letter(text[1]) || is_digit(text[1]));
     if (c == '#' || c == '=') return begins_line(result);
     if (c == '-' || c == '+') return !goes_on && begins_line(result);

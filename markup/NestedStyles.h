@@ -6,7 +6,7 @@
 
 /// Styles cut where they cross, so that their tags nest: where one of two that cross ends, the one
 /// that began inside it is closed and opened again. What lies beyond the end of the text is left
-/// out, and ends inside a UTF-8 character move to its begin.
+/// out, and ends inside a UTF-8 character move to its beginning.
 class NestedStyles {
 public:
     /// O((m + p) log (m + p)) for m styles cut into p pieces.

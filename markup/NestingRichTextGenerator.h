@@ -16,7 +16,7 @@ public:
     std::string mark_up_text(const RichTextData& data) const override;
 
 protected:
-    /// Appends whole characters in the target's form; bytes that are no UTF-8 may be among them.
+    /// Appends whole characters in the target's form; bytes that are not UTF-8 may be among them.
     virtual void write_text(std::string& result, std::string_view text) const = 0;
 
     /// What add_letter() does where letters are mark-up: appends `letter` as it is, for one

@@ -24,7 +24,7 @@ enum List : unsigned int { tag_list, invisible_list, replacement_list, greek_lis
 constexpr unsigned int index_bits = 30;
 constexpr std::size_t most_styles = std::size_t{1} << index_bits;  // in a list
 
-/// Orders the begins of styles by position, list and index in the list.
+/// Orders the beginnings of styles by position, list and index in the list.
 std::uint64_t start_key(unsigned int position, unsigned int list, unsigned int index) {
     return (std::uint64_t{position} * lists + list) << index_bits | index;
 }

@@ -20,7 +20,7 @@ public:
     virtual std::string start_italic() const = 0;
     virtual std::string end_italic() const = 0;
     /// What opens a colour, likewise; targets with colours throw std::invalid_argument, as
-    /// EnumTextMapping::text() does, for a value that is none.
+    /// EnumTextMapping::text() does, for a value that is not a colour.
     virtual std::string start_color(TextItem::ColorName color) const = 0;
     virtual std::string end_color() const = 0;
     virtual std::string start_superscript() const = 0;

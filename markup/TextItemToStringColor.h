@@ -8,6 +8,6 @@
 class TextItemToStringColor {
 public:
     /// Throws std::invalid_argument "Internal Error: member N not in EnumTextMapping" for a value
-    /// that is no colour.
+    /// that is not a colour.
     std::string convert(TextItem::ColorName color) const;
 };

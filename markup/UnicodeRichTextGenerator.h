@@ -4,9 +4,9 @@
 
 /// Writes plain text: Greek letters, the characters that Unicode has for scripts where it has them
 /// for a whole run, otherwise `_{...}` and `^{...}`, and a combining overline behind each character
-/// under a bar. Control characters but line feeds and tabs are shown by their symbols, and what is
-/// no UTF-8 by U+FFFD. Lines are
-/// broken where a reader counts, after or before braces too but not inside them.
+/// under a bar. Control characters but line feeds and tabs are shown by their symbols, and bytes
+/// that are not UTF-8 by U+FFFD. Lines are broken where a reader counts, after or before braces too
+/// but not inside them.
 class UnicodeRichTextGenerator : public TwoPassRichTextGenerator {
 public:
     UnicodeRichTextGenerator();

@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
-// UTF-8 as a reader sees it. Bytes that are none count as one character each, or together as many
-// as a decoder would replace at once.
+// UTF-8 as a reader sees it. Bytes that are not UTF-8 count as one character each, or together as
+// many as a decoder would replace at once.
 
 /// What stands at the front of a text.
 struct Utf8Character {
-    char32_t code;     ///< U+FFFD where the bytes are no UTF-8.
+    char32_t code;     ///< U+FFFD where the bytes are not UTF-8.
     std::size_t size;  ///< In bytes.
     bool valid;        ///< Whether the bytes are UTF-8.
 };
@@ -24,5 +24,5 @@ std::size_t end_of_character(std::string_view text);
 /// The last position up to `position` that is not inside a UTF-8 character.
 unsigned int start_of_character(std::string_view text, unsigned int position);
 
-/// Appends the bytes of a character, which is none of the surrogates.
+/// Appends the bytes of a character, which is not a surrogate.
 void append_utf8(std::string& result, char32_t code);

@@ -18,7 +18,7 @@ constexpr bool may_begin_control(char byte) {
 [[gnu::visibility("hidden")]] char32_t visible(char32_t code);
 
 /// Appends the character at the front of `text`, which is not empty, so that no terminal takes it
-/// for a command: a control character by what shows it, and what is no UTF-8 by U+FFFD. Returns
+/// for a command: a control character by what shows it, and what is not UTF-8 by U+FFFD. Returns
 /// how many bytes of `text` these are.
 [[gnu::visibility("hidden")]] std::size_t append_shown(std::string& result, std::string_view text);
 

@@ -212,7 +212,7 @@ static_assert(rows_are_in_value_order(), "every field has one row");
 }  // namespace
 
 FieldTextSupplier::FieldTextSupplier(LMRFieldNames::TextID field) {
-    static_cast<void>(Names::text(field));  // throws for what is no field
+    static_cast<void>(Names::text(field));  // throws for what is not a field
     text_of_ = rows[static_cast<std::size_t>(field)].text_of;
 }
 

@@ -6,7 +6,7 @@
 /// Text in a colour.
 class ColorStyle : public TextItemStyle {
 public:
-    /// Not yet on a slice. A value that is no colour makes start_tag() throw what the factory
+    /// Not yet on a slice. A value that is not a colour makes start_tag() throw what the factory
     /// throws.
     explicit ColorStyle(TextItem::ColorName color) : color_(color) {}
     ~ColorStyle() override;

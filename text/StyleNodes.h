@@ -41,8 +41,8 @@ private:
 
     unsigned int text_length_ = 0;
     bool empty_ = true;  // no style has come yet, and what stands below counts for nothing
-    // Styles of one character cross nothing, and those within one block nothing that spans it: the
-    // nodes of those, and the hulls of both, wait here until it is asked what lies inside.
+    // Styles not entered below yet. One of a single character crosses no style, and one within a
+    // block crosses none that spans the block: they are entered when a question reaches inside it.
     std::vector<StringSlice> waiting_;
     std::vector<Block> blocks_;
     std::vector<StringSlice> block_hulls_;  // of block b at blocks + b, of nodes 2i and 2i + 1 at i

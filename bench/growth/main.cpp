@@ -192,7 +192,7 @@ std::vector<Case> all_cases() {
         found<Tevo>("tevo scripts", 2000, "", "!2$-$3!"),
         found<Tevo>("tevo begun letters", 8000, "", "alph"),
         found<Tevo>("tevo letters", 2000, "", "mu-eta-"),
-        found<Tevo>("tevo letters that are none", 2000, "", "epsilonomega"),
+        found<Tevo>("tevo letters within words", 2000, "", "epsilonomega"),
         found<Cif>("cif one mark", 20000, "~", "a"),
         found<Cif>("cif marks", 4000, "", "^~"),
         found<Cif>("cif letters", 2000, "", "\\a~2~"),

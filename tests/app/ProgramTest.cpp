@@ -199,8 +199,9 @@ TEST_F(Program, ClosedStreamsAndFullDevicesAreNoOthersFiles) {
 TEST_F(Program, WrongUsageIsNamed) {
     const std::pair<const char*, const char*> cases[] = {
         {"serach --term x", "no such command: 'serach'"},
-        {"search --how publication --term gluco", "'gluco' is no term for the search publication"},
-        {"search --how numeric --term gluco", "'gluco' is no term for the search numeric"},
+        {"search --how publication --term gluco",
+         "'gluco' is not a term for the search publication"},
+        {"search --how numeric --term gluco", "'gluco' is not a term for the search numeric"},
         {"search --how substring --term x --min-length 0", "--min-length: "},
         {"show -o '' x.cif", "--output: expected the name of a file"},
     };
@@ -333,7 +334,7 @@ TEST_F(Program, OutputThatCannotBeWrittenIsReported) {
     const Result page = run("show -o nowhere/page.html " + data + "/1008935.cif");
     EXPECT_EQ(page.err, "lmrtext: nowhere/page.html: No such file or directory\n");
     EXPECT_EQ(page.status, 1);
-    // A reader that has seen enough is none.
+    // A reader that has seen enough is not a failure.
     const std::string many(1000000, '\n');
     EXPECT_EQ(run("convert --from plain --to tevo | head -1; true", many).err, "");
     std::signal(SIGPIPE, SIG_IGN);
@@ -526,11 +527,11 @@ TEST_F(Program, ShowReportsWhatIsNoCifAndShowsTheOthers) {
     EXPECT_EQ(done.out, "");
     EXPECT_THAT(done.err, StartsWith("lmrtext: miss?ing.cif: No such file or directory\n"
                                      "lmrtext: .: Is a directory\n"
-                                     "lmrtext: unclosed.cif:2: no CIF: "));
-    EXPECT_THAT(done.err, HasSubstr("lmrtext: binary.cif:1: no CIF: "));
+                                     "lmrtext: unclosed.cif:2: not a CIF file: "));
+    EXPECT_THAT(done.err, HasSubstr("lmrtext: binary.cif:1: not a CIF file: "));
     EXPECT_THAT(
         done.err,
-        EndsWith("lmrtext: empty.cif:1: no CIF: expected a data block\n"
+        EndsWith("lmrtext: empty.cif:1: not a CIF file: expected a data block\n"
                  "crossing.cif:2: data_x: _chemical_name_common: creating an overlapping style "
                  "error in '~a^b~c^'\n"));
     const std::string page = contents(folder_ / "page.html");

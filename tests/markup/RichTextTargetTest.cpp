@@ -92,7 +92,7 @@ TEST(RichTextTarget, MarkdownIsEscapedAndItsStarsCount) {
          {"no punctuation", "(2-4).5'+#,-=!", S(), "(2-4).5'+#,-=!"},
          {"begin of a line", "- 1", S(), "\\- 1"},
          {"number of an item", "12. a", S(), "12\\. a"},
-         {"no number of an item", "-12.5", S(), "-12.5"},
+         {"not the number of an item", "-12.5", S(), "-12.5"},
          {"layout", " a\n  b\t ", S(), "&#32;a&#10;  b&#9;&#32;"},
          {"controls", "\x1b[1m\x7f\xc2\x9b°", S(), "&#27;\\[1m&#127;&#155;°"},
          {"stars", "ab cd", S().bold(0, 2).italic(3, 5), "**ab** *cd*"},

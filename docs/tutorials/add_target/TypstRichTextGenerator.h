@@ -3,7 +3,7 @@
 #include "markup/NestingRichTextGenerator.h"
 
 /// Writes Typst for a paragraph, a cell or an argument. All punctuation is escaped, line feeds
-/// break lines, and bytes that are no UTF-8 become U+FFFD.
+/// break lines, and bytes that are not UTF-8 become U+FFFD.
 class TypstRichTextGenerator : public NestingRichTextGenerator {
 public:
     TypstRichTextGenerator();
