@@ -8,8 +8,9 @@ status=0
 # These leave no mark in a file that has nothing for them to protect.
 flags=(-D_FORTIFY_SOURCE=2 -fstack-protector-strong -fstack-clash-protection)
 [[ $(uname -m) != x86_64 ]] || flags+=(-fcf-protection)
+commands=$(grep '"command":' "$build/compile_commands.json")
 for flag in "${flags[@]}"; do
-    without=$(grep '"command":' "$build/compile_commands.json" | grep -cvF -e "$flag") || true
+    without=$(grep -cvF -e "$flag" <<<"$commands") || true
     if ((without > 0)); then
         echo "$without sources are compiled without $flag"
         status=1
