@@ -5,21 +5,21 @@ set -euo pipefail
 
 released=$(dirname "$(realpath "$0")")/released
 build=$1
+libraries=$(dirname "$(find "$build/lib" -name liblmrtext.so)")
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
 status=0
-for library in liblmrtext default_host/libkovrhost; do
-    name=$(basename $library)
+for name in liblmrtext libkovrhost; do
     now=$folder/now.abi
     abidw --exported-interfaces-only --no-corpus-path --no-comp-dir-path --no-show-locs \
-        --no-parameter-names --drop-undefined-syms --out-file "$now" "$build/$library.so"
+        --no-parameter-names --drop-undefined-syms --out-file "$now" "$libraries/$name.so"
     grep -q '<class-decl' "$now" || {
-        echo "$library has no debug information, which tells its interface" >&2
+        echo "$name has no debug information, which tells its interface" >&2
         exit 1
     }
     if grep -q "path='/" "$now"; then
-        echo "$library tells where it was built" >&2
+        echo "$name tells where it was built" >&2
         exit 1
     fi
     if [[ ${2-} == --record ]]; then

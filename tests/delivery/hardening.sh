@@ -3,6 +3,7 @@
 set -euo pipefail
 
 build=$1
+libraries=$(dirname "$(find "$build/lib" -name liblmrtext.so)")
 status=0
 
 # These leave no mark in a file that has nothing for them to protect.
@@ -17,8 +18,9 @@ for flag in "${flags[@]}"; do
     fi
 done
 
-for file in app/lmrtext liblmrtext.so default_host/libkovrhost.so; do
-    marks=$(readelf --wide --file-header --segments --dynamic --dyn-syms "$build/$file")
+for path in "$build/app/lmrtext" "$libraries"/lib{lmrtext,kovrhost}.so; do
+    file=$(basename "$path")
+    marks=$(readelf --wide --file-header --segments --dynamic --dyn-syms "$path")
     while IFS='|' read -r pattern meaning; do
         line=$(grep -m 1 -E -e "$pattern" <<<"$marks") && printf '%s: %s\n' "$file" "$(xargs <<<"$line")" && continue
         echo "$file: not $meaning"
@@ -30,5 +32,8 @@ for file in app/lmrtext liblmrtext.so default_host/libkovrhost.so; do
  \(FLAGS_1\) .*\bNOW\b|bound when it is loaded
  __stack_chk_fail@|protected by canaries
 END
+    # An empty path among those of its libraries is the folder in which a program is started.
+    paths=$(grep -E '\((RPATH|RUNPATH)\)' <<<"$marks" | sed 's/.*\[\(.*\)\]/:\1:/') || true
+    [[ $paths != *::* ]] || { echo "$file: looks for libraries in the current folder: $paths" && status=1; }
 done
 exit $status

@@ -5,6 +5,7 @@ set -euo pipefail
 
 lists=$(dirname "$(realpath "$0")")
 build=$1
+libraries=$(dirname "$(find "$build/lib" -name liblmrtext.so)")
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
@@ -12,10 +13,10 @@ export LC_ALL=C
 cmake --install "$build" --prefix "$folder/installed" >"$folder/log"
 (cd "$folder/installed" && find . ! -type d | sed 's|/lib/[^/]*-linux-[^/]*/|/lib/|' | sort) \
     >"$folder/installed_files.txt"
-for library in liblmrtext default_host/libkovrhost; do
-    echo "# $(basename $library)"
+for library in liblmrtext libkovrhost; do
+    echo "# $library"
     # Weak ones are templates, of which a compiler leaves out what it has inlined.
-    nm -D -C --defined-only "$build/$library.so" | cut -c18- | grep -v ^W | sort -u
+    nm -D -C --defined-only "$libraries/$library.so" | cut -c18- | grep -v ^W | sort -u
 done >"$folder/exported_symbols.txt"
 
 status=0
