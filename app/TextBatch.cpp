@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr std::size_t long_block = 4 << 20;  // one text, for whose output no place is kept
+
 /// What became of a block of texts.
 struct Processed {
     struct Report {
@@ -21,38 +23,67 @@ struct Processed {
         std::string message;
     };
 
-    std::string file;
     std::string output;
     std::vector<Report> reports;
     bool good = true;
+
+    /// A long text, the first of its block, is not copied.
+    void add(std::string&& text, char separator) {
+        if (output.empty() && text.size() > output.capacity()) {
+            output = std::move(text);
+        } else {
+            output += text;
+        }
+        output += separator;
+    }
 };
 
+/// Takes the texts of a block one after the other.
+class Texts {
+public:
+    Texts(std::string bytes, char separator) : bytes_(std::move(bytes)), separator_(separator) {}
+
+    bool next(std::string& text) {
+        if (next_ >= bytes_.size()) return false;
+        const std::size_t end = std::min(bytes_.find(separator_, next_), bytes_.size());
+        if (next_ == 0 && end + 1 >= bytes_.size()) {  // the only one, perhaps long: not copied
+            bytes_.resize(end);
+            text = std::exchange(bytes_, {});
+            return true;
+        }
+        text.assign(bytes_, next_, end - next_);
+        next_ = end + 1;
+        return true;
+    }
+
+private:
+    std::string bytes_;
+    char separator_;
+    std::size_t next_ = 0;
+};
+
+std::string reason(const std::exception& error) {
+    return dynamic_cast<const std::bad_alloc*>(&error) ? "out of memory" : error.what();
+}
+
 Processed process_block(const TextBatch& batch, const std::optional<std::string>& failed,
-                        const MakeTextProcess& make_process, const TextBlock& block) {
+                        const MakeTextProcess& make_process, TextBlock& block) {
     Processed done;
-    done.file = block.file;
-    done.output.reserve(2 * block.bytes.size());
+    if (block.bytes.size() < long_block) done.output.reserve(2 * block.bytes.size());
     const std::unique_ptr<TextProcess> process = make_process();
     std::vector<std::string> warnings;
     std::string text;
     unsigned long number = block.first;
-    std::string_view rest = block.bytes;
-    for (; !rest.empty(); ++number) {
-        const std::size_t end = std::min(rest.find(batch.separator), rest.size());
-        text = rest.substr(0, end);
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+    for (Texts texts(std::move(block.bytes), batch.separator); texts.next(text); ++number) {
         const std::size_t written = done.output.size();
         warnings.clear();
         try {
-            if (process->process(text, done.output, warnings)) {
-                done.output += batch.separator;
-            } else {
-                done.output.resize(written);
-            }
+            std::optional<std::string> result = process->process(text, warnings);
+            if (result) done.add(std::move(*result), batch.separator);
         } catch (const std::exception& error) {
             done.output.resize(written);
             if (failed) done.output += *failed + batch.separator;
-            done.reports.push_back({number, error.what()});
+            done.reports.push_back({number, reason(error)});
             done.good = false;
         }
         for (std::string& warning : warnings) done.reports.push_back({number, std::move(warning)});
@@ -76,11 +107,20 @@ public:
     }
 
 private:
+    struct Work {
+        std::string file;
+        unsigned int file_number;
+        std::future<Processed> processed;
+    };
+
     void add_file(const std::string& path) {
+        ++file_number_;
         try {
             if (output_.is_at(path)) throw InputError(path + ": input file is output file");
             TextBlocks blocks(path, batch_.separator);
-            for (TextBlock block; blocks.next(block);) add(std::move(block));
+            for (TextBlock block; file_number_ != given_up_ && blocks.next(block);) {
+                add(std::move(block));
+            }
         } catch (const InputError& error) {
             refuse(error.what());
         } catch (const std::bad_alloc&) {
@@ -95,19 +135,33 @@ private:
     }
 
     void add(TextBlock block) {
-        const auto policy = batch_.jobs > 1 ? std::launch::async : std::launch::deferred;
-        in_work_.push_back(std::async(policy, [this, block = std::move(block)] {
-            return process_block(batch_, failed_, make_process_, block);
-        }));
+        // A block for which there is no thread is processed by the one who asks for it.
+        const auto policy =
+            batch_.jobs > 1 ? std::launch::async | std::launch::deferred : std::launch::deferred;
+        const std::string file = block.file;
+        const auto process = [this, block = std::make_shared<TextBlock>(std::move(block))] {
+            return process_block(batch_, failed_, make_process_, *block);
+        };
+        in_work_.push_back({file, file_number_, std::async(policy, process)});
         if (in_work_.size() >= batch_.jobs) finish_first();
     }
 
     void finish_first() {
-        const Processed done = in_work_.front().get();
+        Work work = std::move(in_work_.front());
         in_work_.pop_front();
-        for (const Processed::Report& said : done.reports) {
-            report(done.file, said.number, said.message);
+        if (work.file_number == given_up_) return;
+        try {
+            write(work.file, work.processed.get());
+        } catch (const std::bad_alloc&) {
+            // Without this block the texts behind it would be taken for others.
+            given_up_ = work.file_number;
+            report(work.file + ": out of memory");
+            good_ = false;
         }
+    }
+
+    void write(const std::string& file, const Processed& done) {
+        for (const Processed::Report& said : done.reports) report(file, said.number, said.message);
         good_ = good_ && done.good;
         output_.write(done.output);
         output_.flush();
@@ -118,7 +172,9 @@ private:
     const MakeTextProcess& make_process_;
     TextOutput output_;
     bool good_ = true;
-    std::deque<std::future<Processed>> in_work_;  // in the order of the texts
+    unsigned int file_number_ = 0;  // of the file that is read, from 1
+    unsigned int given_up_ = 0;     // the number of the file of which no more is written
+    std::deque<Work> in_work_;      // in the order of the texts
 };
 
 }  // namespace

@@ -12,8 +12,8 @@ struct TextBlock {
     std::string bytes;
 };
 
-/// The texts of a file, block by block. A block is what is at hand, in about a megabyte or in what
-/// one text needs.
+/// The texts of a file, block by block. A block is what is at hand, in about a megabyte, or one
+/// text that is longer. The cost grows with the length of the file.
 class TextBlocks {
 public:
     /// Opens `path`, or standard input for "-"; throws InputError.
@@ -25,6 +25,6 @@ public:
 private:
     InputFile file_;
     char separator_;
-    std::string rest_;          // the beginning of a text whose end has not been read
+    std::string rest_;          // what has been read behind the last block
     unsigned long number_ = 1;  // of the next text
 };

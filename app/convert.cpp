@@ -12,15 +12,15 @@ public:
           generator_(options.to->make_generator()),
           item_(finder_) {}
 
-    bool process(const std::string& text, std::string& result,
-                 std::vector<std::string>& warnings) override {
+    std::optional<std::string> process(const std::string& text,
+                                       std::vector<std::string>& warnings) override {
         item_.set_text(text);
         item_.set_line_length(options_.line_length);
-        result += item_.mark_up_text(*generator_);
+        std::string result = item_.mark_up_text(*generator_);
         if (options_.from->may_lack_letters && has_unknown_letter()) {
             warnings.emplace_back("warning: Greek code without a letter");
         }
-        return true;
+        return result;
     }
 
 private:

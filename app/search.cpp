@@ -25,20 +25,21 @@ public:
             make_handle<TextSearchStyleFinder>(search_, options.from->make_finder()));
     }
 
-    bool process(const std::string& text, std::string& result,
-                 std::vector<std::string>& /*warnings*/) override {
-        if (highlighted_) {
-            highlighted_->set_text(text);
-            result += highlighted_->mark_up_text(*generator_);
-        } else {
-            result += ranges_of(text);
-        }
+    std::optional<std::string> process(const std::string& text,
+                                       std::vector<std::string>& /*warnings*/) override {
+        std::string result = highlighted_ ? marked_up(text) : ranges_of(text);
         const bool matched = search_->matched() || !search_->ranges().empty();
         if (matched) matched_ = true;
-        return matched || !only_matching_;
+        if (!matched && only_matching_) return std::nullopt;
+        return result;
     }
 
 private:
+    std::string marked_up(const std::string& text) {
+        highlighted_->set_text(text);
+        return highlighted_->mark_up_text(*generator_);
+    }
+
     std::string ranges_of(const std::string& text) const {
         std::vector<StringSlice> ranges;
         std::string line = search_->search(text, ranges) ? "true" : "false";
