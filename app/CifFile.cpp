@@ -1,7 +1,9 @@
 #include "app/CifFile.h"
 
+#include <algorithm>
 #include <gemmi/cif.hpp>
 #include <set>
+#include <string_view>
 
 #include "app/InputFile.h"
 
@@ -64,16 +66,59 @@ CifBlock block_of(cif::Block& block, const std::vector<std::string>& tags) {
     return result;
 }
 
-}  // namespace
-
-std::vector<CifBlock> read_cif_blocks(const std::string& path,
-                                      const std::vector<std::string>& tags) {
-    const std::string contents = read_whole_file(path);
-    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";  // some editors write it
-    std::string_view text = contents;
-    if (text.substr(0, byte_order_mark.size()) == byte_order_mark) {
-        text.remove_prefix(byte_order_mark.size());
+/// Looks at the beginning of a file while it is read.
+class Beginning {
+public:
+    /// Whether `text`, to which more has been appended since the last call, may be that of a CIF
+    /// file: the first word behind blanks and comments opens a block, as far as it is there.
+    bool may_be_cif(std::string_view text) {
+        if (!skip_to_word(text)) return true;
+        const std::string word = gemmi::to_lower(std::string(text.substr(at_, longest_opening)));
+        if (word.size() < longest_opening) return true;
+        return word.compare(0, 5, "data_") == 0 || word == "global_";
     }
+
+private:
+    static constexpr std::size_t longest_opening = 7;
+
+    /// False where no word has begun yet.
+    bool skip_to_word(std::string_view text) {
+        while (at_ < text.size()) {
+            if (in_comment_ || text[at_] == '#') {
+                at_ = std::min(text.find('\n', at_), text.size());
+                in_comment_ = at_ == text.size();
+            } else if (std::string_view(" \t\r\n").find(text[at_]) != std::string_view::npos) {
+                ++at_;
+            } else {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    std::size_t at_ = 0;
+    bool in_comment_ = false;
+};
+
+std::string_view without_byte_order_mark(std::string_view text) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";  // some editors write it
+    if (text.substr(0, mark.size()) == mark) text.remove_prefix(mark.size());
+    return text;
+}
+
+/// The bytes of a CIF file; of another only as many from its beginning as it is to be refused for.
+std::string read_text(const std::string& path) {
+    InputFile file(path);
+    std::string text;
+    Beginning beginning;
+    while (beginning.may_be_cif(without_byte_order_mark(text)) && file.read(text)) {
+    }
+    return text;
+}
+
+cif::Document read_document(const std::string& path) {
+    const std::string contents = read_text(path);
+    const std::string_view text = without_byte_order_mark(contents);
     cif::Document document;
     try {
         // Not gemmi's reading operations: they refuse a whole file for one tag without a value.
@@ -84,7 +129,13 @@ std::vector<CifBlock> read_cif_blocks(const std::string& path,
                        ": not a CIF file: " + std::string(error.message()));
     }
     if (document.blocks.empty()) throw CifError(path + ":1: not a CIF file: expected a data block");
-    std::vector<CifBlock> blocks;
-    for (cif::Block& block : document.blocks) blocks.push_back(block_of(block, tags));
-    return blocks;
+    return document;
+}
+
+}  // namespace
+
+void for_each_cif_block(const std::string& path, const std::vector<std::string>& tags,
+                        const std::function<void(const CifBlock&)>& take) {
+    cif::Document document = read_document(path);
+    for (cif::Block& block : document.blocks) take(block_of(block, tags));
 }

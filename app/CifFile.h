@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -30,8 +31,9 @@ struct CifBlock {
     std::vector<Repetition> repetitions;  // their values are left out
 };
 
-/// The data blocks of a CIF file with those of their items that are named in `tags`; a tag that
-/// ends in "_" names all items that are not in loops and begin with it. Throws InputError and
-/// CifError.
-std::vector<CifBlock> read_cif_blocks(const std::string& path,
-                                      const std::vector<std::string>& tags);
+/// Hands over the data blocks of a CIF file one after the other, with those of their items that are
+/// named in `tags`; a tag that ends in "_" names all items that are not in loops and begin with it.
+/// Throws InputError and CifError before the first block, a file that does not begin as a CIF file
+/// does without reading the rest of it, and what `take` throws.
+void for_each_cif_block(const std::string& path, const std::vector<std::string>& tags,
+                        const std::function<void(const CifBlock& block)>& take);

@@ -8,6 +8,7 @@
 #include <optional>
 #include <span>
 #include <sstream>
+#include <stdexcept>
 
 #include "app/CifFile.h"
 #include "app/cif_text.h"
@@ -121,6 +122,10 @@ std::vector<std::string> all_tags() {
     add(bond_tags);
     return tags;
 }
+
+// No group has more; gemmi's search for a group costs their square.
+constexpr std::size_t most_operations = 192;
+constexpr std::size_t longest_operation = 100;  // in characters
 
 // No number of a crystal comes near; multiplied, it is still one.
 constexpr double beyond_use = 1e30;
@@ -327,7 +332,7 @@ private:
             {value.line, "data_" + block_.name + ": no cell has these edges and angles"});
     }
 
-    const gemmi::SpaceGroup* find_space_group() const {
+    const gemmi::SpaceGroup* find_space_group() {
         const std::optional<Cell>& cell = entry_->crystal_info->cell;
         const double alpha = cell ? cell->alpha.degrees.value : 0;
         const double gamma = cell ? cell->gamma.degrees.value : 0;
@@ -346,6 +351,19 @@ private:
         return group;
     }
 
+    /// An operation such as "-x,y+1/2,z"; throws where it is none. The sums that gemmi makes of
+    /// long numbers would overflow.
+    static gemmi::Op operation(const std::string& text) {
+        std::size_t digits = 0;
+        for (const char c : text) {
+            digits = c >= '0' && c <= '9' ? digits + 1 : 0;
+            if (digits > 2 || text.size() > longest_operation) {
+                throw std::invalid_argument("no symmetry operation");
+            }
+        }
+        return gemmi::parse_triplet(text);
+    }
+
     // These two give no group where gemmi refuses the item, so that the next item is tried.
 
     const gemmi::SpaceGroup* find_by_hall_symbol() const {
@@ -358,16 +376,21 @@ private:
         }
     }
 
-    const gemmi::SpaceGroup* find_by_operations() const {
+    const gemmi::SpaceGroup* find_by_operations() {
+        const char* tag = operation_tags[0];
+        if (values(tag).empty()) tag = operation_tags[1];
+        const std::vector<CifValue>& found = values(tag);
+        if (found.empty()) return nullptr;
+        if (found.size() > most_operations) {
+            problems_.push_back({found.front().line, "data_" + block_.name + ": " + tag + ": " +
+                                                         std::to_string(found.size()) +
+                                                         " operations, expected up to " +
+                                                         std::to_string(most_operations)});
+            return nullptr;
+        }
         std::vector<gemmi::Op> operations;
         try {
-            for (const char* tag : operation_tags) {
-                for (const CifValue& value : values(tag)) {
-                    operations.push_back(gemmi::parse_triplet(value.text));
-                }
-                if (!operations.empty()) break;
-            }
-            if (operations.empty()) return nullptr;
+            for (const CifValue& value : found) operations.push_back(operation(value.text));
             return gemmi::find_spacegroup_by_ops(gemmi::split_centering_vectors(operations));
         } catch (const std::exception&) {
             return nullptr;
@@ -452,11 +475,7 @@ private:
 
 }  // namespace
 
-std::vector<CifEntry> read_cif_entries(const std::string& path) {
+void for_each_cif_entry(const std::string& path, const std::function<void(CifEntry)>& take) {
     static const std::vector<std::string> tags = all_tags();
-    std::vector<CifEntry> entries;
-    for (const CifBlock& block : read_cif_blocks(path, tags)) {
-        entries.push_back(BlockReader(block).read());
-    }
-    return entries;
+    for_each_cif_block(path, tags, [&](const CifBlock& block) { take(BlockReader(block).read()); });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,7 @@ struct CifEntry {
     std::vector<Problem> problems;
 };
 
-/// The entries of a CIF file, one a data block. What a block lacks stays empty; what cannot be read
-/// is among its problems, and the rest of the entry is there. Throws InputError and CifError.
-std::vector<CifEntry> read_cif_entries(const std::string& path);
+/// Hands over the entries of a CIF file one after the other, one a data block. What a block lacks
+/// stays empty; what cannot be read is among its problems, and the rest of the entry is there.
+/// Throws InputError and CifError before the first, and what `take` throws.
+void for_each_cif_entry(const std::string& path, const std::function<void(CifEntry entry)>& take);

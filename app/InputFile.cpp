@@ -24,7 +24,9 @@ off_t size_of(int descriptor) {
 }  // namespace
 
 InputFile::InputFile(const std::string& path)
-    : name_(path == "-" ? "<stdin>" : path),
+    : name_(path == "-"    ? "<stdin>"
+            : path.empty() ? "''"
+                           : path),
       buffer_(std::make_unique_for_overwrite<char[]>(buffer_size)),
       descriptor_(path == "-" ? STDIN_FILENO : open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
     if (descriptor_ < 0) fail(name_);
@@ -46,12 +48,4 @@ bool InputFile::read(std::string& bytes) {
     }
     bytes.append(buffer_.get(), static_cast<std::size_t>(count));
     return count > 0;
-}
-
-std::string read_whole_file(const std::string& path) {
-    InputFile file(path);
-    std::string whole;
-    while (file.read(whole)) {
-    }
-    return whole;
 }

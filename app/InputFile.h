@@ -21,7 +21,7 @@ public:
     InputFile& operator=(const InputFile&) = delete;
     ~InputFile();
 
-    /// The path, or "<stdin>".
+    /// The path, "<stdin>", or "''" for an empty path.
     const std::string& name() const { return name_; }
 
     /// Appends what is at hand, up to a megabyte; waits for the first byte. Returns whether there
@@ -34,6 +34,3 @@ private:
     int descriptor_;
     off_t size_ = 0;  // when it was opened
 };
-
-/// All bytes of a file; throws InputError.
-std::string read_whole_file(const std::string& path);

@@ -158,9 +158,9 @@ public:
 
 private:
     void show_file(const std::string& file) {
-        const LoadedEntries loaded = load_entries(file);
-        good_ = good_ && loaded.good;
-        for (const CifEntry& entry : loaded.entries) show_entry(file, entry);
+        const bool good =
+            for_each_entry(file, [&](const CifEntry& entry) { show_entry(file, entry); });
+        good_ = good_ && good;
     }
 
     void show_entry(const std::string& file, const CifEntry& entry) {

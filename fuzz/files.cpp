@@ -27,11 +27,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const MemoryFile file(bytes);
     check_blocks(file.path(), bytes);
     try {
-        for (const CifEntry& entry : read_cif_entries(file.path())) {
+        for_each_cif_entry(file.path(), [](const CifEntry& entry) {
             std::vector<LMRFieldNames::TextID> fields;
             LMRFieldNames::internal_fields(fields);
             for (const LMRFieldNames::TextID id : fields) FieldTextSupplier(id).text(entry.entry);
-        }
+        });
     } catch (const CifError&) {
     }
     return 0;
