@@ -10,7 +10,10 @@
 #include <functional>
 #include <span>
 #include <sstream>
+#include <string>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 #include "app/Diagnostics.h"
 #include "app/Field.h"
@@ -405,8 +408,26 @@ void occupy_standard_descriptors() {
     }
 }
 
+/// CLI11 would make a list of an argument like "[x,y]". While it parses them, such arguments end
+/// with a NUL, which none has of itself.
+void parse_as_they_are(CLI::App& program, int argc, char** argv) {
+    for (CLI::App* command : program.get_subcommands({})) {
+        for (CLI::Option* option : command->get_options()) {
+            option->transform(
+                [](const std::string& value) { return value.substr(0, value.find('\0')); });
+        }
+    }
+    std::vector<std::string> arguments;
+    for (int i = argc - 1; i > 0; --i) {  // CLI11 takes the last first
+        std::string& argument = arguments.emplace_back(argv[i]);
+        if (argument.starts_with('[') && argument.ends_with(']')) argument += '\0';
+    }
+    program.parse(std::move(arguments));
+}
+
 int run(int argc, char** argv) {
     CLI::App program{"Styled text of crystal-structure entries: converts, shows and searches it"};
+    if (argc > 0) program.name(argv[0]);
     program.set_version_flag("--version", "lmrtext " LMRTEXT_VERSION);
     program.require_subcommand(1);
     ConvertOptions convert_options;
@@ -421,7 +442,7 @@ int run(int argc, char** argv) {
     add_compare(program, compare_arguments);
     add_texts(program);
     try {
-        program.parse(argc, argv);
+        parse_as_they_are(program, argc, argv);
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() == 0) return show_help(program, error);
         if (argc > 1 && argv[1][0] != '-' && program.get_subcommands().empty()) {
