@@ -4,15 +4,17 @@
 #include <string>
 #include <string_view>
 
-/// Standard output or a file to write to. A file appears whole or not at all: it is written beside
-/// its place and moved there when it is closed, and removed otherwise, on signals too. One at a
-/// time.
+/// Standard output or a file to write to. A file appears whole or not at all: it is written without
+/// a name, or beside the one that it replaces, gets its place when it is closed and is removed
+/// otherwise, on signals too. One at a time.
 class TextOutput {
 public:
     /// Standard output.
     TextOutput() : name_("standard output"), file_(stdout) {}
-    /// Begins a file that will replace what is at `path`; what is not a regular file, such as a
-    /// device, is written to as it is. Throws std::system_error.
+    /// Begins a file that will be at `path`, or where a link there leads. It has permissions, owner
+    /// and group of the one that it replaces; where those cannot be kept no one may do more with
+    /// it. What is not a regular file, such as a device, is written to as it is, and so is an open
+    /// descriptor, such as /dev/stdout. Throws std::system_error.
     explicit TextOutput(const std::string& path);
     TextOutput(const TextOutput&) = delete;
     TextOutput& operator=(const TextOutput&) = delete;
@@ -27,8 +29,13 @@ public:
     void close();
 
 private:
+    void begin_file(bool exists);
+    void put_in_place();
+    void remove();
+
     std::string name_;
-    std::string place_;      // where the file will stand
-    std::string temporary_;  // where it is being written; empty: nowhere else
+    std::string place_;        // where the file will stand
+    std::string temporary_;    // where it is being written; empty: nowhere else
+    bool lacks_name_ = false;  // until it is put in its place
     std::FILE* file_;
 };

@@ -314,7 +314,7 @@ TEST_F(Program, AFileAppearsWholeOrNotAtAll) {
     std::filesystem::create_symlink("page.html", folder_ / "link.html");
     const std::string program = "'" PROGRAM "' show -o page.html ";
     const Result ended = run("--version >/dev/null; mkfifo fifo; exec 3<>fifo; " + program +
-                             "- <fifo & while ! ls page.html.*; do sleep 0.01; done >ls 2>&1; "
+                             "- <fifo & while ! ls .lmrtext-*; do sleep 0.01; done >ls 2>&1; "
                              "kill $!; wait $!; echo $? >&2; rm fifo ls");
     EXPECT_THAT(ended.err, EndsWith("143\n"));            // by SIGTERM
     run("show -o page.html none none none 2>&1 | true");  // SIGPIPE, unless it was faster
