@@ -6,6 +6,8 @@
 #include <functional>
 #include <memory>
 
+#include "app/EntryReader.h"
+#include "app/TextBlocks.h"
 #include "finders/CifChemicalNameStyleFinder.h"
 #include "finders/CombinedCellLengthsStyleFinder.h"
 #include "finders/SpaceGroupStyleFinder.h"
@@ -13,6 +15,7 @@
 #include "finders/TevoChemicalNameStyleFinder.h"
 #include "finders/TevoPublicationStyleFinder.h"
 #include "finders/TextSearchStyleFinder.h"
+#include "fuzz/MemoryFile.h"
 #include "markup/RichTextTarget.h"
 #include "search/CombinedPublicationComparisonSearch.h"
 #include "search/CommonSubstringFinderAdapter.h"
@@ -183,6 +186,29 @@ Case normalised() {
             }};
 }
 
+/// What reads files, on one of such bytes.
+Case read(const std::string& name, unsigned int size,
+          std::function<std::string(unsigned int)> make_bytes,
+          std::function<void(const std::string& path)> read_file) {
+    return {"read " + name, size, [=](unsigned int n) -> Operation {
+                const auto file = std::make_shared<MemoryFile>(make_bytes(n));
+                return [=] { read_file(file->path()); };
+            }};
+}
+
+void read_blocks(const std::string& path) {
+    TextBlocks blocks(path, '\n');
+    for (TextBlock block; blocks.next(block);) continue;
+}
+
+void read_entries(const std::string& path) {
+    for_each_cif_entry(path, [](const CifEntry&) {});
+}
+
+std::string symmetry_operations(unsigned int n) {
+    return "data_x\nloop_\n_space_group_symop_operation_xyz\n" + numbered("#*x,y,z\n", n);
+}
+
 std::vector<Case> all_cases() {
     using Tevo = TevoChemicalNameStyleFinder;
     using Cif = CifChemicalNameStyleFinder;
@@ -220,6 +246,10 @@ std::vector<Case> all_cases() {
                  units("<j>")),
         highlighted(),
         normalised(),
+        read("long line", 500000, units("sixteen letters "), read_blocks),
+        read("symmetry operations", 4000, symmetry_operations, read_entries),
+        read("blocks", 1000, units("data_a\n"), read_entries),
+        read("blocks with loops", 1000, numbers("data_#\nloop_\n_tag\n1 2\n"), read_entries),
     };
     for (const auto& shape : shapes) {
         if (shape.shape != sliding) cases.push_back(created(shape.name, shape.shape));
