@@ -3,19 +3,20 @@
 #include <cstdio>
 #include <string_view>
 
-#include "markup/Utf8.h"
+#include "markup/controls.h"
 
 namespace {
 
-/// Shows control characters, and bytes that are not UTF-8, as "?": names of files and texts that
-/// are quoted may hold any bytes, and terminals obey some.
+/// Names of files and texts that are quoted may hold any bytes, and terminals obey some.
 void write_line(std::string_view text) {
     std::string line;
     while (!text.empty()) {
         const Utf8Character character = first_character(text);
-        const char32_t code = character.code;
-        const bool shows = character.valid && code >= 0x20 && (code < 0x7F || code > 0x9F);
-        line += shows ? text.substr(0, character.size) : "?";
+        if (!character.valid || is_control(character.code)) {
+            line += '?';
+        } else {
+            append_shown(line, text);
+        }
         text.remove_prefix(character.size);
     }
     line += '\n';

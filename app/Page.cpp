@@ -12,6 +12,8 @@ std::string escaped(const std::string& text) {
 
 }  // namespace
 
+std::string page_name(const std::string& text) { return "<bdi>" + escaped(text) + "</bdi>"; }
+
 std::string page_head(const std::string& title) {
     return "<!DOCTYPE html>\n"
            "<html lang=\"en\">\n"
@@ -36,6 +38,7 @@ std::string page_head(const std::string& title) {
            ".pair p { margin: 0.2em 0; overflow-wrap: anywhere; }\n"
            ".pair p:first-child { color: #666; }\n"
            ".different { background: #fff3e0; }\n"
+           "bdi, dt, dd, .pair p { unicode-bidi: isolate; }\n"
            "sub, sup { line-height: 0; }\n"
            "</style>\n"
            "</head>\n"
@@ -45,7 +48,7 @@ std::string page_head(const std::string& title) {
 }
 
 std::string page_section_head(const std::string& title, const std::string& source) {
-    return "<section>\n<h2>" + escaped(title) + " <small>" + escaped(source) + "</small></h2>\n";
+    return "<section>\n<h2>" + title + " <small>" + source + "</small></h2>\n";
 }
 
 std::string page_group(const std::string& group) { return "<h3>" + escaped(group) + "</h3>\n"; }

@@ -48,8 +48,11 @@ public:
 
 private:
     void compare_entries(const CifEntry& left, const CifEntry& right) {
-        const std::string title = "data_" + left.block + " and data_" + right.block;
-        const std::string files = options_.left + " and " + options_.right;
+        const auto both = [this](const std::string& a, const std::string& b) {
+            return on_page_ ? page_name(a) + " and " + page_name(b) : a + " and " + b;
+        };
+        const std::string title = both("data_" + left.block, "data_" + right.block);
+        const std::string files = both(options_.left, options_.right);
         output_.write(on_page_ ? page_section_head(title, files)
                                : form_.head(files + ": " + title));
         for (const LMRFieldNames::TextID id : options_.fields) compare_field(id, left, right);

@@ -67,7 +67,7 @@ public:
     std::string head() override { return page_head("Crystal structures"); }
     std::string entry(const std::string& file, const CifEntry& entry,
                       const std::vector<ShownField>& fields) override {
-        std::string section = page_section_head(entry.block, file);
+        std::string section = page_section_head(page_name(entry.block), page_name(file));
         const char* group = "";
         for (const ShownField& field : fields) {
             if (field.group != std::string_view(group)) section += page_group(field.group);

@@ -41,9 +41,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (name == "unicode") unicode = once;
         if (name == "ansi") {
             const std::string shown = terminal_text(once);
-            for (const char c : shown) {
-                const auto byte = static_cast<unsigned char>(c);
-                require(byte == '\n' || (byte >= 0x20 && byte != 0x7F), "no controls pass", once);
+            for (std::size_t i = 0; i < shown.size();) {
+                const Utf8Character character = first_character(std::string_view(shown).substr(i));
+                require(character.valid && (shown[i] == '\n' || !acts(character.code)),
+                        "nothing that acts passes", once);
+                i += character.size;
             }
             bool plain = true;
             for (const char c : text) plain = plain && c >= ' ' && c < '\x7F';

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "markup/AnsiTagFactory.h"
-#include "markup/Utf8.h"
 #include "markup/controls.h"
 
 namespace {
@@ -75,11 +74,8 @@ AnsiRichTextGenerator::AnsiRichTextGenerator()
 AnsiRichTextGenerator::~AnsiRichTextGenerator() = default;
 
 void AnsiRichTextGenerator::write_text(std::string& result, std::string_view text) const {
-    while (!text.empty()) {
-        const Utf8Character character = first_character(text);
-        append_utf8(result, visible(character.code));  // U+FFFD for what is not UTF-8
-        text.remove_prefix(character.size);
-    }
+    append_text(result, text, printable_ascii,
+                [&](std::string_view rest) { return append_shown(result, rest); });
 }
 
 void AnsiRichTextGenerator::append_invisible_tag(std::string& result,

@@ -5,7 +5,8 @@
 /// Writes Unicode text for a terminal, with sequences that select bold, italic, underlined and
 /// coloured characters. Each line selects what it needs and is reset at its end. Nothing of the
 /// text reaches the terminal as a control: control characters are shown by their Unicode symbols,
-/// and what is not UTF-8 as replacement characters; only line feeds end lines.
+/// those that turn the direction of writing by their numbers, such as "<U+202E>", and what is not
+/// UTF-8 as replacement characters; only line feeds end lines.
 class AnsiRichTextGenerator : public UnicodeRichTextGenerator {
 public:
     AnsiRichTextGenerator();

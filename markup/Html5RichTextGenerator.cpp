@@ -6,7 +6,9 @@
 
 namespace {
 
-/// Appends the character at the front of `text`, which is not empty, so that it shows and does
+constexpr std::array<bool, 256> plain = ascii_but("&<>\"");
+
+/// Appends the character at the front of `text`, which is not plain, so that it shows and does
 /// nothing else; returns its size.
 std::size_t append_escaped(std::string& result, std::string_view text) {
     const char c = text.front();
@@ -27,17 +29,18 @@ std::size_t append_escaped(std::string& result, std::string_view text) {
         case '\n':
             result += c;
             return 1;
-        case '\0':  // HTML has no references to it and to those above U+007F
-        case '\xC2':
-            return append_shown(result, text);
         default:
-            append_reference(result, static_cast<unsigned char>(c));
-            return 1;
+            break;
     }
-}
-
-bool stands_for_itself(char c) {
-    return c != '&' && c != '<' && c != '>' && c != '"' && !may_begin_control(c);
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte > 0 && byte < 0x80) {  // HTML has no references to other control characters
+        append_reference(result, byte);
+        return 1;
+    }
+    std::string shown;
+    const std::size_t size = append_shown(shown, text);
+    Html5RichTextGenerator::escape(result, shown);
+    return size;
 }
 
 }  // namespace
@@ -49,13 +52,8 @@ Html5RichTextGenerator::Html5RichTextGenerator()
 Html5RichTextGenerator::~Html5RichTextGenerator() = default;
 
 void Html5RichTextGenerator::escape(std::string& result, std::string_view text) {
-    while (!text.empty()) {
-        std::size_t plain = 0;
-        while (plain < text.size() && stands_for_itself(text[plain])) ++plain;
-        result += text.substr(0, plain);
-        text.remove_prefix(plain);
-        if (!text.empty()) text.remove_prefix(append_escaped(result, text));
-    }
+    append_text(result, text, plain,
+                [&](std::string_view rest) { return append_escaped(result, rest); });
 }
 
 void Html5RichTextGenerator::write_text(std::string& result, std::string_view text) const {

@@ -2,7 +2,6 @@
 
 #include "markup/LatexTagFactory.h"
 #include "markup/TextItemToLatexGreek.h"
-#include "markup/Utf8.h"
 #include "markup/controls.h"
 
 namespace {
@@ -48,6 +47,9 @@ const char* command_for(char c) {
     }
 }
 
+/// What neither means anything to LaTeX nor depends on what stands before it.
+constexpr std::array<bool, 256> plain = ascii_but("#$%&_{}~^\\<>|\"` [*-',");
+
 /// Whether two of them make a dash or a quotation mark.
 bool makes_ligature(char c) { return c == '-' || c == '\'' || c == ','; }
 
@@ -59,10 +61,8 @@ bool swallows_space(const std::string& result) {
 }
 
 void append_number(std::string& result, char32_t number) {
-    constexpr char digits[] = "0123456789ABCDEF";
     result += "\\textless{}";
-    result += digits[number >> 4 & 0xF];
-    result += digits[number & 0xF];
+    append_hexadecimal(result, number, number < 0x100 ? 2 : 4);
     result += "\\textgreater{}";
 }
 
@@ -97,20 +97,19 @@ std::string LatexRichTextGenerator::mark_up_text(const RichTextData& data) const
 }
 
 void LatexRichTextGenerator::write_text(std::string& result, std::string_view text) const {
-    while (!text.empty()) {
-        const Utf8Character character = first_character(text);
-        const std::string_view bytes = text.substr(0, character.size);
+    append_text(result, text, plain, [&](std::string_view rest) {
+        const Utf8Character character = first_character(rest);
         if (!character.valid) {
-            for (const char byte : bytes) append_number(result, static_cast<unsigned char>(byte));
-        } else if (is_control(character.code) && character.code != '\n') {
-            append_number(result, character.code);
-        } else if (character.size == 1) {
-            append_ascii(result, bytes.front());
+            for (const char byte : rest.substr(0, character.size)) {
+                append_number(result, static_cast<unsigned char>(byte));
+            }
+        } else if (character.code == '\n' || is_harmless(character)) {
+            append_ascii(result, rest.front());
         } else {
-            result += bytes;
+            append_number(result, character.code);
         }
-        text.remove_prefix(character.size);
-    }
+        return character.size;
+    });
 }
 
 void LatexRichTextGenerator::add_letter(std::string& result, const std::string& letter,

@@ -4,7 +4,6 @@
 
 #include "markup/MarkdownTagFactory.h"
 #include "markup/TextItemToUnicodeGreek.h"
-#include "markup/Utf8.h"
 #include "markup/controls.h"
 
 namespace {
@@ -41,13 +40,18 @@ bool must_escape(std::string_view result, std::string_view text) {
     return (c == '.' || c == ')') && !goes_on && follows_item_number(result);
 }
 
-/// Appends what may be a control character, which the parser would take for layout and drop or
-/// change, or a terminal for a command; returns its size.
-std::size_t append_control(std::string& result, std::string_view text) {
-    const Utf8Character character = first_character(text);
-    if (!is_control(character.code)) return append_shown(result, text);
-    append_reference(result, character.code);
-    return character.size;
+/// What a parser never reads alone, beside the characters beyond ASCII.
+constexpr std::array<bool, 256> plain = ascii_but(" \\`*_[]<>&~|$#=-+.)");
+
+/// Appends the sign of ASCII at the front of `text` so that it shows and does nothing else.
+void append_sign(std::string& result, std::string_view text) {
+    const char c = text.front();
+    if (c == ' ' && begins_line(result)) {
+        append_reference(result, U' ');
+    } else {
+        if (must_escape(result, text)) result += '\\';
+        result += c;
+    }
 }
 
 /// How a parser of Markdown classes what stands beside stars.
@@ -90,19 +94,19 @@ MarkdownRichTextGenerator::MarkdownRichTextGenerator()
 MarkdownRichTextGenerator::~MarkdownRichTextGenerator() = default;
 
 void MarkdownRichTextGenerator::write_text(std::string& result, std::string_view text) const {
-    while (!text.empty()) {
-        const char c = text.front();
-        std::size_t size = 1;
-        if (c == ' ' && begins_line(result)) {
-            append_reference(result, ' ');
-        } else if (may_begin_control(c)) {
-            size = append_control(result, text);
+    append_text(result, text, plain, [&](std::string_view rest) {
+        const Utf8Character character = first_character(rest);
+        if (is_harmless(character)) {
+            append_sign(result, rest);
+        } else if (character.valid && is_control(character.code)) {
+            append_reference(result, character.code);
         } else {
-            if (must_escape(result, text)) result += '\\';
-            result += c;
+            std::string shown;
+            append_shown(shown, rest);
+            write_text(result, shown);
         }
-        text.remove_prefix(size);
-    }
+        return character.size;
+    });
 }
 
 // Only stars depend on what stands beside them.

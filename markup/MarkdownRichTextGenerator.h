@@ -3,10 +3,11 @@
 #include "markup/TwoPassRichTextGenerator.h"
 
 /// Writes Markdown, as CommonMark 0.30 has it, for a paragraph, an item of a list or a cell of a
-/// table. Punctuation that Markdown might read is escaped. Stars count as bold or italic only
-/// beside certain characters; where they would not, HTML's tags stand in their place. A style
-/// inside another of its kind writes none. Line breaks of the text itself become character
-/// references.
+/// table. Punctuation that Markdown might read is escaped. Stars
+/// count as bold or italic only beside certain characters; where they would not, HTML's tags stand
+/// in their place. A style inside another of its kind writes none. Line breaks and other control
+/// characters of the text become character references; what turns the direction of writing is shown
+/// by its number, such as "\<U+202E\>", and each part that is not UTF-8 by U+FFFD.
 class MarkdownRichTextGenerator : public TwoPassRichTextGenerator {
 public:
     MarkdownRichTextGenerator();

@@ -153,15 +153,11 @@ std::string UnicodeRichTextGenerator::mark_up_text(const RichTextData& data) con
 }
 
 void UnicodeRichTextGenerator::write_text(std::string& result, std::string_view text) const {
-    while (!text.empty()) {
-        std::size_t size = 1;
-        if (text.front() == '\t') {
-            result += '\t';
-        } else {
-            size = append_shown(result, text);
-        }
-        text.remove_prefix(size);
-    }
+    append_text(result, text, printable_ascii, [&](std::string_view rest) -> std::size_t {
+        if (rest.front() != '\t') return append_shown(result, rest);
+        result += '\t';
+        return 1;
+    });
 }
 
 void UnicodeRichTextGenerator::append_invisible_tag(std::string& /*result*/,

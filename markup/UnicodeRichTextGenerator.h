@@ -4,9 +4,10 @@
 
 /// Writes plain text: Greek letters, the characters that Unicode has for scripts where it has them
 /// for a whole run, otherwise `_{...}` and `^{...}`, and a combining overline behind each character
-/// under a bar. Control characters but line feeds and tabs are shown by their symbols, and bytes
-/// that are not UTF-8 by U+FFFD. Lines are broken where a reader counts, after or before braces too
-/// but not inside them.
+/// under a bar. Control characters but line feeds and tabs are shown by their symbols, those that
+/// turn the direction of writing by their numbers, such as "<U+202E>", and bytes that are not UTF-8
+/// by U+FFFD: where a terminal knows no colours, it is shown this text. Lines are broken where a
+/// reader counts, after or before braces too but not inside them.
 class UnicodeRichTextGenerator : public TwoPassRichTextGenerator {
 public:
     UnicodeRichTextGenerator();

@@ -474,18 +474,32 @@ TEST_F(Program, CompareShowsBothSidesAndExitsAsDiff) {
     EXPECT_THAT(page, EndsWith("</html>\n"));
 }
 
+TEST_F(Program, NoNameTurnsTheLineItStandsIn) {
+    file("a\u202E.cif", "data_a\n_chemical_name_common '\u2067x'\n");
+    file("b.cif", "data_b\n_chemical_name_common y\n");
+    const std::string files = "compare a\u202E.cif b.cif --fields Synonym --to ";
+    EXPECT_EQ(run(files + "unicode").out,
+              "a<U+202E>.cif and b.cif: data_a and data_b\n"
+              "< Synonym: <U+2067>x\n> Synonym: y\n");
+    EXPECT_THAT(
+        run(files + "html5").out,
+        HasSubstr("<h2><bdi>data_a</bdi> and <bdi>data_b</bdi> "
+                  "<small><bdi>a&lt;U+202E&gt;.cif</bdi> and <bdi>b.cif</bdi></small></h2>"));
+}
+
 TEST_F(Program, ShowReportsWhatIsNoCifAndShowsTheOthers) {
     file("unclosed.cif", "data_x\n_chemical_name_common 'unclosed\n_cell_length_a 1\n");
     file("binary.cif", std::string("\0\x01\x1B[31m\xFF", 8));
     file("empty.cif", "");
     file("crossing.cif",
          "data_x\n_chemical_name_common '~a^b~c^'\n_chemical_name_systematic x\\d-ok\n");
-    const Result done = run(
-        "show -o page.html miss\xC2\x9Bing.cif . unclosed.cif binary.cif empty.cif crossing.cif " +
-        data + "/1008935.cif");
+    const Result done =
+        run("show -o page.html miss\xC2\x9Bing\u202E.cif . unclosed.cif binary.cif empty.cif "
+            "crossing.cif " +
+            data + "/1008935.cif");
     EXPECT_EQ(done.status, 1);
     EXPECT_EQ(done.out, "");
-    EXPECT_THAT(done.err, StartsWith("lmrtext: miss?ing.cif: No such file or directory\n"
+    EXPECT_THAT(done.err, StartsWith("lmrtext: miss?ing<U+202E>.cif: No such file or directory\n"
                                      "lmrtext: .: Is a directory\n"
                                      "lmrtext: unclosed.cif:2: not a CIF file: "));
     EXPECT_THAT(done.err, HasSubstr("lmrtext: binary.cif:1: not a CIF file: "));

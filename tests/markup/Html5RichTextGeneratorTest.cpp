@@ -25,7 +25,9 @@ TEST(Html5RichTextGenerator, WritesWhatABrowserShows) {
     } cases[] = {
         {"escaped", "a<b>&\"'", S(), "a&lt;b&gt;&amp;&quot;'"},
         {"escaped replacement", "ab", S().replacement(0, 1), "R&amp;Sb"},
-        {"controls", "\x1b[1m\x7f\xc2\x9b\t\r\n°\xff", S(), "&#27;[1m&#127;\uFFFD\t&#13;\n°\xff"},
+        {"controls", "\x1b[1m\x7f\xc2\x9b\t\r\n°\xff", S(), "&#27;[1m&#127;\uFFFD\t&#13;\n°\uFFFD"},
+        {"direction of writing", "\u202Ea\u200E", S(), "&lt;U+202E&gt;a&lt;U+200E&gt;"},
+        {"not UTF-8", "a\x9b\xe2\x82z\xf0\x9f\x98\xc3", S(), "a\uFFFD\uFFFDz\uFFFD\uFFFD"},
         {"letter", "mu!", S().greek(0, 2), "μ!"},
         {"unknown letter", "\\d-x", unknown_letter, "\\d-x"},
         {"UTF-8", "é€", S().bold(0, 2), "<b>é</b>€"},
@@ -47,7 +49,7 @@ TEST(Html5RichTextGenerator, BreaksLinesBetweenCharactersOnly) {
     const Html5RichTextGenerator generator;
     EXPECT_EQ(generator.mark_up_text(StyleLists().data("é<€é", 2)), "é&lt;<br>€é<br>");
     EXPECT_EQ(generator.mark_up_text(StyleLists().greek(0, 2).data("mu\xFF\x80", 1)),
-              "μ<br>\xFF<br>\x80<br>");
+              "μ<br>\uFFFD<br>\uFFFD<br>");
 }
 
 // Whatever the styles do, a browser must see the characters that are shown, in balanced tags.

@@ -5,6 +5,7 @@
 #include "tests/Random.h"
 #include "tests/markup/StyleLists.h"
 #include "tests/markup/shown_text.h"
+#include "text/Position.h"
 
 namespace {
 
@@ -73,9 +74,9 @@ TEST(RichTextTarget, LatexIsEscaped) {
            {"ligature over what is hidden", "-x-", S().invisible(1, 2), "-{}-"},
            {"argument of a row end", "[2,3]*", S(), "{[}2,3]*"},
            {"spaces", " a  b ", S().bold(2, 4), "\\ a\\textbf{\\ \\ }b\\ "},
-           {"bytes and controls", "\x1b\xff\xc2\x85é\n", S(),
+           {"bytes and controls", "\x1b\xff\xc2\x85\u202Eé\n", S(),
             "\\textless{}1B\\textgreater{}\\textless{}FF\\textgreater{}\\textless{}85"
-            "\\textgreater{}é\\leavevmode\\newline{}"},
+            "\\textgreater{}\\textless{}202E\\textgreater{}é\\leavevmode\\newline{}"},
            {"styles", "abcdmu",
             S().bold(0, 1).italic(1, 2).superscript(2, 3).subscript(3, 6).greek(4, 6),
             "\\textbf{a}\\textit{b}\\textsuperscript{c}\\textsubscript{d$\\mu$}"},
@@ -95,6 +96,8 @@ TEST(RichTextTarget, MarkdownIsEscapedAndItsStarsCount) {
          {"not the number of an item", "-12.5", S(), "-12.5"},
          {"layout", " a\n  b\t ", S(), "&#32;a&#10;  b&#9;&#32;"},
          {"controls", "\x1b[1m\x7f\xc2\x9b°", S(), "&#27;\\[1m&#127;&#155;°"},
+         {"direction of writing", "\u202Eab", S(), "\\<U+202E\\>ab"},
+         {"not UTF-8", "\x9b\xe2\x82+\xff-", S(), "\uFFFD\uFFFD+\uFFFD-"},
          {"stars", "ab cd", S().bold(0, 2).italic(3, 5), "**ab** *cd*"},
          {"stars in a word", "abc", S().bold(1, 2), "a**b**c"},
          {"stars that would not count", "a(b)c", S().bold(1, 4), "a<strong>(b)</strong>c"},
@@ -115,6 +118,7 @@ TEST(RichTextTarget, UnicodeRaisesAndLowersWholeRuns) {
                       {"script in script", "ab2", S().superscript(1, 3).subscript(2, 3), "a^{b₂}"},
                       {"bar", "-1a2", S().bar(0, 2).subscript(1, 2), "-̅₁̅a2"},
                       {"other styles", "a$b\x1b\t\xff", S().bold(0, 1).color(1, 3), "a$b␛\t\uFFFD"},
+                      {"direction of writing", "a\u061C2", S().subscript(1, 4), "a_{<U+061C>2}"},
                       {"lines", "a2b,c\nd\u0301e", S().bar(0, 1).subscript(1, 2).subscript(2, 5),
                        "a̅₂\n_{\nb,\nc}\n\nd\u0301e\n", 2}});
 }
@@ -122,6 +126,7 @@ TEST(RichTextTarget, UnicodeRaisesAndLowersWholeRuns) {
 TEST(RichTextTarget, AnsiSelectsWhatALineNeedsAndResetsIt) {
     check("ansi",
           {{"controls", "\x1b[1m\x7f\t\xc2\x9b\xff\n", S(), "␛[1m␡␉\uFFFD\uFFFD\n"},
+           {"direction of writing", "\u202Ea\u2069\u200F", S(), "<U+202E>a<U+2069><U+200F>"},
            {"styles", "abcd", S().bold(0, 1).italic(1, 2).bar(2, 3),
             "\x1b[1ma\x1b[22m\x1b[3mb\x1b[23m\x1b[4mc̅\x1b[24md"},
            {"colour in colour", "abc", S().color(0, 3).color(1, 2, TextItem::blue),
@@ -133,21 +138,28 @@ TEST(RichTextTarget, AnsiSelectsWhatALineNeedsAndResetsIt) {
             2}});
 }
 
-TEST(RichTextTarget, NothingOfATextIsAControlForTheTerminal) {
+TEST(RichTextTarget, NothingOfATextActsWhereItIsShown) {
+    std::vector<std::string> units;
+    for (int byte = 0; byte < 256; ++byte) units.emplace_back(1, static_cast<char>(byte));
+    for (char32_t code = 0x80; code < 0x2100; ++code) append_utf8(units.emplace_back(), code);
     for (const std::string name : {"ansi", "unicode", "html5", "markdown", "latex"}) {
         const auto generator = generator_named(name);
-        for (int byte = 0; byte < 256; ++byte) {
-            const char c = static_cast<char>(byte);
-            // Two bytes make one character when what stands between them is hidden.
-            const std::string text = {c, 'a', c, '\xC2', c, c, '\xC2', 'x', c};
-            std::string shown =
-                generator->mark_up_text(S().bold(1, 3).bar(4, 5).invisible(7, 8).data(text));
+        for (const std::string& c : units) {
+            // Bytes make one character when what stands between them is hidden.
+            const unsigned int size = length_of(c);
+            const std::string text = c + "a\xC2" + c + c + "\xC2x" + c + "\xE2\x80x" + c;
+            std::string shown = generator->mark_up_text(S().bold(size, size + 2)
+                                                            .bar(2 * size + 2, 3 * size + 2)
+                                                            .invisible(3 * size + 3, 3 * size + 4)
+                                                            .invisible(4 * size + 6, 4 * size + 7)
+                                                            .data(text));
             if (name == "ansi") shown = terminal_text(shown);
-            for (std::size_t i = 0; i < shown.size(); ++i) {
-                const bool c0 = static_cast<unsigned char>(shown[i]) < ' ' && shown[i] != '\t' &&
-                                shown[i] != '\n';
-                const bool c1 = i > 0 && shown[i - 1] == '\xC2' && (shown[i] & 0xE0) == 0x80;
-                ASSERT_FALSE(c0 || c1 || shown[i] == '\x7F') << name << ", byte " << byte;
+            for (std::size_t i = 0; i < shown.size();) {
+                const Utf8Character character = first_character(std::string_view(shown).substr(i));
+                const bool layout = character.code == '\t' || character.code == '\n';
+                ASSERT_TRUE(character.valid) << name << ": " << text;
+                ASSERT_TRUE(layout || !acts(character.code)) << name << ": " << text;
+                i += character.size;
             }
         }
     }

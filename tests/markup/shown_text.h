@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "markup/Utf8.h"
+
 /// The text of HTML without its tags and references, or a complaint where the tags do not nest.
 inline std::string html_text(std::string_view html) {
     constexpr std::pair<std::string_view, char> references[] = {
@@ -43,10 +45,28 @@ inline std::string html_text(std::string_view html) {
     return open.empty() ? text : "tags left open";
 }
 
-/// Whether html5 has the text as it is: NUL and the control characters that begin so have no
-/// references.
-inline bool html5_keeps(const std::string& text) {
-    return text.find('\0') == std::string::npos && text.find('\xC2') == std::string::npos;
+/// Whether the character may act where it is shown: a control character, or one that turns the
+/// direction of writing.
+inline bool acts(char32_t code) {
+    constexpr std::pair<char32_t, char32_t> ranges[] = {{0, 0x1F},        {0x7F, 0x9F},
+                                                        {0x61C, 0x61C},   {0x200E, 0x200F},
+                                                        {0x202A, 0x202E}, {0x2066, 0x2069}};
+    for (const auto& [first, last] : ranges) {
+        if (code >= first && code <= last) return true;
+    }
+    return false;
+}
+
+/// Whether html5 has the text as it is: it has references to control characters of ASCII alone, and
+/// none to NUL.
+inline bool html5_keeps(std::string_view text) {
+    while (!text.empty()) {
+        const Utf8Character character = first_character(text);
+        const bool referred = character.code > 0 && character.code < 0x80;
+        if (!character.valid || (acts(character.code) && !referred)) return false;
+        text.remove_prefix(character.size);
+    }
+    return true;
 }
 
 /// Text for a terminal without the sequences that select how it is drawn.

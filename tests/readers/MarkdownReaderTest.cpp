@@ -7,6 +7,7 @@
 #include "markup/Html5TagFactory.h"
 #include "markup/MarkdownRichTextGenerator.h"
 #include "markup/TextItemToUnicodeGreek.h"
+#include "markup/Utf8.h"
 #include "tests/Random.h"
 #include "tests/markup/StyleLists.h"
 
@@ -41,7 +42,11 @@ public:
 
 protected:
     void write_text(std::string& /*result*/, std::string_view text) const override {
-        shown.add(text);
+        while (!text.empty()) {
+            const Utf8Character character = first_character(text);
+            shown.add(character.valid ? text.substr(0, character.size) : "\uFFFD");
+            text.remove_prefix(character.size);
+        }
     }
     void write_tag(std::string& /*result*/, const std::string& tag, bool opens) const override {
         const std::size_t name = opens ? 1 : 2;
@@ -121,9 +126,9 @@ TEST(MarkdownReader, GetsEveryByteAloneAndBesideAnEdge) {
 }
 
 TEST(MarkdownReader, GetsAnyTextInAnyStyles) {
-    constexpr std::string_view units[] = {"a", "b", "1",    " ", "-", "(", "*",
-                                          "_", ".", "\\",   "'", "é", "€", "\n",
-                                          "<", "[", "&#5;", "=", "#", "`", "+"};
+    constexpr std::string_view units[] = {"a",    "b",  "1", " ", "-", "(",   "*", "_",
+                                          ".",    "\\", "'", "é", "€", "\n",  "<", "[",
+                                          "&#5;", "=",  "#", "`", "+", "\x9B"};
     Random random(6);
     for (int round = 0; round < 20000; ++round) {
         std::string text;
