@@ -98,6 +98,7 @@ void check_harmless(const ConvertOptions& options, const std::string& output) {
         require(size > 0 || !acts(character.code) || allowed.find(rest[0]) != std::string::npos,
                 "nothing that acts passes", output);
         require(size > 0 || target != "html5" || rest[0] != '<', "no tags pass", output);
+        require(target != "markdown" || !rest.starts_with("//"), "no addresses pass", output);
         i += std::max(size, character.size);
     }
 }

@@ -41,13 +41,43 @@ bool must_escape(std::string_view result, std::string_view text) {
 }
 
 /// What a parser never reads alone, beside the characters beyond ASCII.
-constexpr std::array<bool, 256> plain = ascii_but(" \\`*_[]<>&~|$#=-+.)");
+constexpr std::array<bool, 256> plain = ascii_but(" \\`*_[]<>&~|$#=-+.)/:@");
+
+/// Whether the last letters are those of `word`, which are small ones.
+bool ends_with_word(std::string_view text, std::string_view word) {
+    if (text.size() < word.size()) return false;
+    text.remove_prefix(text.size() - word.size());
+    return std::equal(word.begin(), word.end(), text.begin(), [](char small, char c) {
+        return is_letter(c) &&
+               (static_cast<unsigned char>(c) | 0x20U) == static_cast<unsigned char>(small);
+    });
+}
+
+/// Whether dialects make a link of an address with the sign at the end of `result`: "http://a.b",
+/// "www.a.b", "mailto:a@b.c" or "a@b.c".
+bool makes_link(std::string_view result, char sign) {
+    switch (sign) {
+        case '/':
+            return result.ends_with('/');
+        case '.':
+            return ends_with_word(result, "www");
+        case ':':
+            return ends_with_word(result, "mailto");
+        case '@':
+            return !begins_line(result) && result.back() != ' ';
+        default:
+            return false;
+    }
+}
 
 /// Appends the sign of ASCII at the front of `text` so that it shows and does nothing else.
 void append_sign(std::string& result, std::string_view text) {
     const char c = text.front();
     if (c == ' ' && begins_line(result)) {
         append_reference(result, U' ');
+    } else if (makes_link(result, c)) {
+        // Escapes and references would not do: some look for addresses when they have read those.
+        result.append("<span>").append(1, c).append("</span>");
     } else {
         if (must_escape(result, text)) result += '\\';
         result += c;

@@ -3,7 +3,8 @@
 #include "markup/TwoPassRichTextGenerator.h"
 
 /// Writes Markdown, as CommonMark 0.30 has it, for a paragraph, an item of a list or a cell of a
-/// table. Punctuation that Markdown might read is escaped. Stars
+/// table. Punctuation that Markdown might read is escaped, and addresses, of which dialects
+/// would make links, are cut by a sign of theirs in an HTML element, "www<span>.</span>a.b". Stars
 /// count as bold or italic only beside certain characters; where they would not, HTML's tags stand
 /// in their place. A style inside another of its kind writes none. Line breaks and other control
 /// characters of the text become character references; what turns the direction of writing is shown

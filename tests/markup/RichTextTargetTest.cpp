@@ -98,6 +98,10 @@ TEST(RichTextTarget, MarkdownIsEscapedAndItsStarsCount) {
          {"controls", "\x1b[1m\x7f\xc2\x9b°", S(), "&#27;\\[1m&#127;&#155;°"},
          {"direction of writing", "\u202Eab", S(), "\\<U+202E\\>ab"},
          {"not UTF-8", "\x9b\xe2\x82+\xff-", S(), "\uFFFD\uFFFD+\uFFFD-"},
+         {"addresses", "http://a.b//c WWW.a.b mailto:a@b.c www,a:b/c a. @b", S(),
+          "http:/<span>/</span>a.b/<span>/</span>c WWW<span>.</span>a.b "
+          "mailto<span>:</span>a<span>@</span>b.c www,a:b/c a. @b"},
+         {"address over what is hidden", "www-.a", S().invisible(3, 4), "www<span>.</span>a"},
          {"stars", "ab cd", S().bold(0, 2).italic(3, 5), "**ab** *cd*"},
          {"stars in a word", "abc", S().bold(1, 2), "a**b**c"},
          {"stars that would not count", "a(b)c", S().bold(1, 4), "a<strong>(b)</strong>c"},

@@ -126,9 +126,9 @@ TEST(MarkdownReader, GetsEveryByteAloneAndBesideAnEdge) {
 }
 
 TEST(MarkdownReader, GetsAnyTextInAnyStyles) {
-    constexpr std::string_view units[] = {"a",    "b",  "1", " ", "-", "(",   "*", "_",
-                                          ".",    "\\", "'", "é", "€", "\n",  "<", "[",
-                                          "&#5;", "=",  "#", "`", "+", "\x9B"};
+    constexpr std::string_view units[] = {"a",  "b", "1", " ",    "-",  "(", "*", "_",    ".",
+                                          "\\", "'", "é", "€",    "\n", "<", "[", "&#5;", "=",
+                                          "#",  "`", "+", "\x9B", "@",  "/", ":", "www",  "mailto"};
     Random random(6);
     for (int round = 0; round < 20000; ++round) {
         std::string text;
