@@ -16,6 +16,7 @@
 #include "markup/Html5RichTextGenerator.h"
 #include "markup/TextItemToHtml5Greek.h"
 #include "markup/TextItemToStringColor.h"
+#include "markup/controls.h"
 #include "suppliers/FieldTextSupplier.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
@@ -82,6 +83,27 @@ private:
     Html5RichTextGenerator generator_;
 };
 
+/// nlohmann's JSON with escapes, which stand only in strings, for what would act where it is shown
+/// and for what would end a script of a page that embeds it.
+std::string harmless(std::string_view json) {
+    std::string result;
+    while (!json.empty()) {
+        const Utf8Character character = first_character(json);
+        const char32_t code = character.code;
+        const bool ends_line = code == 0x2028 || code == 0x2029;    // to JavaScript of old
+        const bool acts = code >= 0x7F && !is_harmless(character);  // others it has escaped
+        if (acts || ends_line || json.starts_with("<!--")) {
+            result += "\\u";
+            append_hexadecimal(result, code, 4);
+        } else {
+            result += json.substr(0, character.size);
+            if (json.starts_with("</")) result += '\\';
+        }
+        json.remove_prefix(character.size);
+    }
+    return result;
+}
+
 /// One array of entries; bytes that are not UTF-8 become replacement characters.
 class JsonArray : public Form {
 public:
@@ -100,7 +122,7 @@ public:
         }
         const std::string separator = first_ ? "\n" : ",\n";
         first_ = false;
-        return separator + written.dump(1, ' ', false, Json::error_handler_t::replace);
+        return separator + harmless(written.dump(1, ' ', false, Json::error_handler_t::replace));
     }
     std::string foot() override { return "\n]\n"; }
 

@@ -371,7 +371,8 @@ TEST_F(Program, ShowPrintsTheFieldsOfEntries) {
 
 TEST_F(Program, ShowWritesJsonOfRuns) {
     file("x.cif",
-         "data_a\n_symmetry_space_group_name_H-M 'P -1'\n_exptl_crystal_colour \"\xE9\"\n");
+         "data_a\n_symmetry_space_group_name_H-M 'P -1'\n_exptl_crystal_colour \"\xE9\"\n"
+         "_exptl_crystal_description '\u202E\x7F\u009B</script><!--\u2028'\n");
     const Result done = run("show --view internal --to json x.cif");
     const auto json = nlohmann::json::parse(done.out);
     const auto& fields = json.at(0).at("fields");
@@ -386,6 +387,8 @@ TEST_F(Program, ShowWritesJsonOfRuns) {
     EXPECT_EQ(shown, "P1");
     EXPECT_EQ(fields.at(2).at("group"), "Other");
     EXPECT_EQ(fields.at(3).at("text"), "\uFFFD");
+    EXPECT_EQ(fields.at(4).at("text"), "\u202E\x7F\u009B</script><!--\u2028");
+    EXPECT_THAT(done.out, HasSubstr("\"\\u202E\\u007F\\u009B<\\/script>\\u003C!--\\u2028\""));
 }
 
 TEST_F(Program, ShowReadsTextFieldsAsOneLine) {
