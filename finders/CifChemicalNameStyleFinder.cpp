@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "text/character_class.h"
 #include "text/regex_grep.h"
 
 namespace {
@@ -35,9 +36,6 @@ struct MatchesLetter {
     char letter;
     bool operator()(const GreekLookupEntry& entry) const { return entry.letter == letter; }
 };
-
-/// The lower-case form in the "C" locale.
-char to_lower(char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 TextItem::GreekSymbol to_greek(char letter) {
     const auto* const end = std::end(greek_lookup);

@@ -4,7 +4,8 @@
 
 /// Finds the styles of a chemical name in the text conventions of CIF files: subscripts between
 /// "~", superscripts between "^", both markers invisible, and Greek letters as a backslash and a
-/// letter.
+/// letter. What a letter is, the host's Regex says; which one it is when it is a capital, the
+/// process's current locale.
 class CifChemicalNameStyleFinder : public InputTextStyleFinder {
 public:
     ~CifChemicalNameStyleFinder() override;

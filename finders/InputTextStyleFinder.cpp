@@ -1,5 +1,7 @@
 #include "finders/InputTextStyleFinder.h"
 
+#include "text/Position.h"
+
 InputTextStyleFinder::~InputTextStyleFinder() = default;
 
 void InputTextStyleFinder::bold(std::vector<StringSlice>& /*out*/) const {}
@@ -14,6 +16,7 @@ void InputTextStyleFinder::color(std::vector<ColorSlice>& /*out*/) const {}
 void InputTextStyleFinder::calc_tag_positions() {}
 
 void InputTextStyleFinder::set_text(const std::string& text) {
+    length_of(text);  // throws where positions would not do
     text_ = text;
     calc_tag_positions();
 }

@@ -39,7 +39,8 @@ public:
     virtual void calc_tag_positions();
 
     /// Stores a copy of `text` and calls calc_tag_positions(); throws what that throws, with the
-    /// new text stored.
+    /// new text stored, and std::length_error for more than 4294967294 characters, with the text
+    /// as it was.
     void set_text(const std::string& text);
     /// The finder's copy, until the next set_text(); empty before the first.
     const std::string& text() const { return text_; }

@@ -4,11 +4,10 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "text/character_class.h"
+
 namespace {
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool is_space(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 bool is_charge(char c) { return is_digit(c) || c == '+' || c == '-'; }
 
 /// One past the last of the `in_run` characters that stand together from `pos` on.
@@ -62,7 +61,7 @@ void TevoChemicalFormulaStyleFinder::superscripts(std::vector<StringSlice>& out)
 void TevoChemicalFormulaStyleFinder::invisible(std::vector<StringSlice>& out) const {
     std::vector<StringSlice> counts, charges;
     subscripts(counts);
-    superscripts(charges);
     find_ones(text(), counts, {"1"}, out);
+    superscripts(charges);
     find_ones(text(), charges, {"1+", "1-"}, out);
 }

@@ -4,7 +4,8 @@
 
 /// Finds the styles of a chemical formula in the database's own form, such as "C6 H12 N1 O2 1+":
 /// counts behind symbols and the "n" of polymers below the line, charges above it, and no 1 of
-/// single atoms and charges. The first character is never styled.
+/// single atoms and charges. The first character is never styled. Letters, digits and white space
+/// are those of the process's current locale.
 class TevoChemicalFormulaStyleFinder : public InputTextStyleFinder {
 public:
     ~TevoChemicalFormulaStyleFinder() override;

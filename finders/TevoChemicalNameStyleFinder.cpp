@@ -48,16 +48,12 @@ void TevoChemicalNameStyleFinder::superscripts(std::vector<StringSlice>& out) co
 }
 
 void TevoChemicalNameStyleFinder::invisible(std::vector<StringSlice>& out) const {
-    const std::size_t first = out.size();
-    subscripts(out);
-    superscripts(out);
-    // Each script makes room for its two markers, from the last to the first.
-    std::size_t script = out.size();
-    out.resize(2 * script - first, StringSlice(0, 0));
-    for (std::size_t marker = out.size(); script > first; marker -= 2) {
-        const StringSlice slice = out[--script];
-        out[marker - 1] = StringSlice(slice.to(), slice.to() + 1);
-        out[marker - 2] = StringSlice(slice.from() - 1, slice.from());
+    std::vector<StringSlice> scripts;
+    subscripts(scripts);
+    superscripts(scripts);
+    for (const StringSlice& script : scripts) {
+        out.emplace_back(script.from() - 1, script.from());
+        out.emplace_back(script.to(), script.to() + 1);
     }
 }
 

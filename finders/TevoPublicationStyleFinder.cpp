@@ -48,6 +48,8 @@ void TevoPublicationStyleFinder::replacement_text(std::vector<ReplacementTextSli
     show(year_.end, "), ");
 }
 
+void TevoPublicationStyleFinder::color(std::vector<ColorSlice>& /*out*/) const {}
+
 void TevoPublicationStyleFinder::calc_tag_positions() {
     for (Part* part : {&journal_, &volume_, &year_, &page_}) {
         for (Tag* tag : {&part->begin, &part->end}) {

@@ -20,6 +20,8 @@ public:
     void invisible(std::vector<StringSlice>& out) const override;
     /// The end tags of journal, volume and year, shown as the punctuation between the parts.
     void replacement_text(std::vector<ReplacementTextSlice>& out) const override;
+    /// None: references are not coloured.
+    void color(std::vector<ColorSlice>& out) const override;
     /// Throws std::runtime_error "TevoPublicationStyleFinder bad journal string error" when a tag
     /// is missing, as all are in an empty text.
     void calc_tag_positions() override;

@@ -203,8 +203,9 @@ void TextSearchStyleFinder::calc_tag_positions() {
     matches_.clear();
     match_exact_ = search_->search(text(), matches_);
     finder_->set_text(text());
+    const std::vector<StringSlice> overlay = overlay_styles(*finder_);
     const std::vector<StringSlice> replacing = replacing_styles(*finder_);
-    trim(matches_, overlay_styles(*finder_));
+    trim(matches_, overlay);
     trim(matches_, replacing);
     const PartMatchesAny hidden(replacing);
     std::erase_if(matches_, [&](const StringSlice& match) { return hidden(match); });

@@ -34,7 +34,8 @@ public:
     void color(std::vector<ColorSlice>& out) const override;
     /// Searches the text and trims each match until it crosses no style of the finder; one strictly
     /// within an invisible, replaced or Greek stretch is dropped. O((m + k) log m) for m styles and
-    /// k disjoint matches, beside search and finder. Throws what these throw.
+    /// k disjoint matches, beside search and finder. Throws what these throw; the matches then stay
+    /// as the search gave them.
     void calc_tag_positions() override;
 
 private:

@@ -1,15 +1,6 @@
 #include "search/StringNormalisationPolicy.h"
 
-#include <cctype>
-#include <cstdio>
-
-namespace {
-
-/// What the classification functions take for `c`. The byte 255 stands for none of their
-/// characters: as a signed char it is the same as EOF.
-int classified(char c) { return c == '\xFF' ? EOF : static_cast<unsigned char>(c); }
-
-}  // namespace
+#include "text/character_class.h"
 
 StringNormalisationPolicy::StringNormalisationPolicy(unsigned int flags,
                                                      const std::string& extra_characters)
@@ -18,15 +9,11 @@ StringNormalisationPolicy::StringNormalisationPolicy(unsigned int flags,
 }
 
 bool StringNormalisationPolicy::drops(char c) const {
-    const int character = classified(c);
-    return (has(drop_alpha) && std::isalpha(character) != 0) ||
-           (has(drop_digit) && std::isdigit(character) != 0) ||
-           (has(drop_punct) && std::ispunct(character) != 0) ||
-           (has(drop_space) && std::isspace(character) != 0) ||
+    return (has(drop_alpha) && is_letter(c)) || (has(drop_digit) && is_digit(c)) ||
+           (has(drop_punct) && is_punctuation(c)) || (has(drop_space) && is_space(c)) ||
            extra_characters_.test(static_cast<unsigned char>(c));
 }
 
 char StringNormalisationPolicy::converted(char c) const {
-    if (!has(to_upper)) return c;
-    return static_cast<char>(std::toupper(classified(c)));
+    return has(to_upper) ? ::to_upper(c) : c;
 }

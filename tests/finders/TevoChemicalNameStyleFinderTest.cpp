@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+#include "finders/TevoChemicalFormulaStyleFinder.h"
 #include "tests/Random.h"
 
 using testing::ElementsAre;
@@ -129,4 +130,33 @@ TEST(TevoChemicalNameStyleFinder, MarkersShiftDownAndUp) {
     EXPECT_THAT(
         found("$3!a!2$", &Finder::invisible),
         ElementsAre(StringSlice(4, 5), StringSlice(6, 7), StringSlice(0, 1), StringSlice(2, 3)));
+}
+
+namespace {
+
+/// Finds one script, and refuses to append it to what others have found.
+template <class Base>
+struct AloneStyleFinder : Base {
+    void subscripts(std::vector<StringSlice>& out) const override {
+        if (!out.empty()) throw std::logic_error("not alone");
+        out.emplace_back(1, 2);
+    }
+    void superscripts(std::vector<StringSlice>& /*out*/) const override {
+        throw std::runtime_error("no superscripts");
+    }
+};
+
+}  // namespace
+
+TEST(TevoChemicalNameStyleFinder, CollectsScriptsByThemselvesBeforeItHidesTheirMarkers) {
+    AloneStyleFinder<Finder> finder;
+    finder.set_text("!2$");
+    std::vector<StringSlice> slices{{7, 8}};
+    EXPECT_THROW(finder.invisible(slices), std::runtime_error);
+    EXPECT_THAT(slices, ElementsAre(StringSlice(7, 8)));
+    // A formula hides the counts before it looks for charges.
+    AloneStyleFinder<TevoChemicalFormulaStyleFinder> formula;
+    formula.set_text("C1");
+    EXPECT_THROW(formula.invisible(slices), std::runtime_error);
+    EXPECT_THAT(slices, ElementsAre(StringSlice(7, 8), StringSlice(1, 2)));
 }

@@ -53,10 +53,15 @@ public:
     void greek(std::vector<GreekSlice>& out) const override { report(8, out, TextItem::mu); }
 
     Slices kinds[9];
+    std::string failing;        // the kinds whose queries throw their own number
+    mutable std::string asked;  // the kinds in the order of the queries
 
 private:
     template <class Slice, class... Payload>
     void report(std::size_t kind, std::vector<Slice>& out, Payload... payload) const {
+        const std::string number = std::to_string(kind);
+        asked += number;
+        if (failing.find(number) != std::string::npos) throw std::runtime_error(number);
         for (const StringSlice& s : kinds[kind]) out.emplace_back(s.from(), s.to(), payload...);
     }
 };
@@ -132,6 +137,25 @@ TEST(TextSearchStyleFinder, EqualsCombiningOneByOne) {
             (styles.get()->*query)(own);
             ASSERT_EQ(forwarded, own) << round;
         }
+    }
+}
+
+TEST(TextSearchStyleFinder, AsksForAllStylesInOrderBeforeItTrims) {
+    const auto search = make_handle<FixedSearch>();
+    const auto styles = make_handle<FixedFinder>();
+    search->slices = {{2, 8}};
+    styles->kinds[0] = {{0, 4}};
+    TextSearchStyleFinder finder(search, styles);
+    finder.set_text("text");
+    EXPECT_EQ(styles->asked, "012345678");
+    for (const auto& [failing, first] : {std::pair("60", "0"), {"85", "5"}, {"87", "7"}}) {
+        styles->failing = failing;
+        EXPECT_THAT([&] { finder.set_text("text"); },
+                    testing::ThrowsMessage<std::runtime_error>(first));
+        styles->failing.clear();
+        std::vector<ColorSlice> colors;
+        finder.color(colors);
+        EXPECT_THAT(colors, testing::ElementsAre(ColorSlice(2, 8, TextItem::blue)));
     }
 }
 
