@@ -10,7 +10,7 @@ struct Date {
 
     /// Whether no day is given: all three are 0.
     bool is_null() const { return year == 0 && month == 0 && day == 0; }
-    /// Writes "2004-07-09".
+    /// Writes "2004-07-09"; a year in the way of the stream's locale.
     void print(std::ostream& os) const;
 };
 

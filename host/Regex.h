@@ -26,6 +26,9 @@ public:
     /// Throws std::runtime_error when the search reaches a limit.
     bool search_from_position(const std::string& text, unsigned int position, RegexResults& results,
                               unsigned int flags = 0) const;
+    /// A text that ends with the call is refused: the results refer to it.
+    bool search_from_position(const std::string&& text, unsigned int position,
+                              RegexResults& results, unsigned int flags = 0) const = delete;
 
 private:
     struct Program;  // the host's own

@@ -6,7 +6,8 @@
 /// Where the last search of a Regex matched.
 ///
 /// Number 0 is the whole match, the numbers from 1 on are the pattern's parenthesised groups.
-/// Positions count characters of the searched string, which must outlive the use of text().
+/// Positions count characters of the searched string. The string is not copied: it must live on,
+/// unchanged, for as long as text() is called.
 /// One object may be used for any number of searches in turn, which saves their allocations.
 class RegexResults {
 public:

@@ -8,9 +8,10 @@ struct UncertainValue {
     double uncertainty = 0;  ///< One standard uncertainty; 0: not known.
     int decimals = -1;       ///< With which both are written; -1: as many as they need.
 
-    /// Writes "10.234(5)", or "10.234" where the uncertainty is not known or rounds to 0. Decimals
-    /// that are not given are those that leave an uncertainty of 2 to 19 in the last place, none
-    /// for a larger one, or without an uncertainty make six significant digits.
+    /// Writes, as in the "C" locale, "10.234(5)", or "10.234" where the uncertainty is not known or
+    /// rounds to 0. Decimals that are not given are those that leave an uncertainty of 2 to 19 in
+    /// the last place, none for a larger one, or without an uncertainty make six significant
+    /// digits.
     void print(std::ostream& os) const;
 };
 

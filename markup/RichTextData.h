@@ -26,6 +26,17 @@ public:
     RichTextData(const std::string& text, unsigned int line_length, const Styles& styles,
                  const Styles& invisible, const GreekStyles& greek,
                  const ReplacementTextStyles& replacement_text);
+    /// Lists that end with the call are refused.
+    /// @{
+    RichTextData(const std::string&, unsigned int, const Styles&&, const Styles&,
+                 const GreekStyles&, const ReplacementTextStyles&) = delete;
+    RichTextData(const std::string&, unsigned int, const Styles&, const Styles&&,
+                 const GreekStyles&, const ReplacementTextStyles&) = delete;
+    RichTextData(const std::string&, unsigned int, const Styles&, const Styles&,
+                 const GreekStyles&&, const ReplacementTextStyles&) = delete;
+    RichTextData(const std::string&, unsigned int, const Styles&, const Styles&, const GreekStyles&,
+                 const ReplacementTextStyles&&) = delete;
+    /// @}
 
     /// A copy of the text.
     std::string text() const { return text_; }

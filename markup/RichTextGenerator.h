@@ -42,6 +42,9 @@ protected:
     using ReplacementTextStyles = std::span<const THandle<ReplacementTextStyle>>;
     /// @}
 
+    // The three operations that follow are points of extension for targets whose characters or tags
+    // depend on what stands around them. The database's mark-up, CIF, HTML and Qt keep the base's.
+
     /// Writes at most `limit` characters (at least 1) from the front of `text` to `result` in the
     /// target's form, takes them off `text`, and returns their number. The base writes bytes as
     /// they are; a target that escapes, or whose characters are longer, overrides this.

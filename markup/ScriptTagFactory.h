@@ -3,6 +3,8 @@
 #include "markup/RichTextTagFactory.h"
 
 /// The base of the targets that have tags for the scripts, and for other styles at most a few.
+/// An addition of this library, as are the targets beside the database's mark-up and CIF that build
+/// on it: a host that knows RichTextTagFactory alone misses nothing.
 class ScriptTagFactory : public RichTextTagFactory {
 public:
     ~ScriptTagFactory() override;

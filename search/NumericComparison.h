@@ -3,7 +3,8 @@
 #include "search/TextComparisonSearch.h"
 
 /// Compares the numbers written in a text with those of the term, in order, within a tolerance.
-/// A number is an optional sign and digits with an optional point among them, before or behind.
+/// A number is an optional sign and digits with an optional point among them, before or behind,
+/// as in the "C" locale, whatever the process's is.
 class NumericComparison : public TextComparisonSearch {
 public:
     /// Numbers agree when they differ by at most `tolerance`.

@@ -8,13 +8,13 @@ class CombinedPublicationTagSupplier {
 public:
     /// The tag before, and behind, that part.
     /// @{
-    std::string begin_jnl() const { return "<j>"; }
-    std::string end_jnl() const { return "</j>"; }
-    std::string begin_vol() const { return "<v>"; }
-    std::string end_vol() const { return "</v>"; }
-    std::string begin_year() const { return "<y>"; }
-    std::string end_year() const { return "</y>"; }
-    std::string begin_page() const { return "<p>"; }
-    std::string end_page() const { return "</p>"; }
+    std::string begin_jnl() const;
+    std::string end_jnl() const;
+    std::string begin_vol() const;
+    std::string end_vol() const;
+    std::string begin_year() const;
+    std::string end_year() const;
+    std::string begin_page() const;
+    std::string end_page() const;
     /// @}
 };

@@ -6,6 +6,7 @@
 #include "host/THandle.h"
 
 /// Turns an entry into the text of one of its fields. Suppliers keep no state and may be shared.
+/// Numbers and dates are written as in the "C" locale, whatever the process's is.
 class InputTextSupplier {
 public:
     InputTextSupplier() = default;

@@ -9,6 +9,13 @@
 using testing::HasSubstr;
 using testing::ThrowsMessage;
 
+template <class Text>
+concept Searchable = requires(const Regex& regex, Text&& text, RegexResults& results) {
+    regex.search_from_position(std::forward<Text>(text), 0, results);
+};
+static_assert(Searchable<const std::string&> && !Searchable<std::string> &&
+              !Searchable<const char (&)[3]>);
+
 TEST(Regex, SearchesFromAPositionAndTellsTheGroups) {
     const Regex regex("(a+)|(b)");
     const std::string text = "xaay b";
@@ -31,14 +38,16 @@ TEST(Regex, SearchesFromAPositionAndTellsTheGroups) {
 
 TEST(Regex, FreeSpacingIgnoresWhiteSpaceAndComments) {
     RegexResults results;
+    const std::string text = "abd";
     EXPECT_TRUE(
-        Regex("a b  # not c\n d", Regex::free_spacing).search_from_position("abd", 0, results));
-    EXPECT_FALSE(Regex("a b").search_from_position("ab", 0, results));
+        Regex("a b  # not c\n d", Regex::free_spacing).search_from_position(text, 0, results));
+    EXPECT_FALSE(Regex("a b").search_from_position(text, 0, results));
 }
 
 TEST(Regex, ClassesAreThoseOfTheCLocale) {
     RegexResults results;
-    EXPECT_FALSE(Regex("[[:alpha:]]").search_from_position("\xE4\xC3\xA4", 0, results));
+    const std::string text = "\xE4\xC3\xA4";
+    EXPECT_FALSE(Regex("[[:alpha:]]").search_from_position(text, 0, results));
 }
 
 TEST(Regex, NamesWhatIsWrongWithAPattern) {

@@ -23,6 +23,15 @@ using testing::ThrowsMessage;
 
 namespace {
 
+template <class Styles, class Greek, class Replacements>
+concept Data = std::is_constructible_v<RichTextData, std::string, unsigned int, Styles, Styles,
+                                       Greek, Replacements>;
+using Lists = RichTextData;
+static_assert(Data<Lists::Styles&, const Lists::GreekStyles&, Lists::ReplacementTextStyles&>);
+static_assert(!Data<Lists::Styles, Lists::GreekStyles&, Lists::ReplacementTextStyles&>);
+static_assert(!Data<Lists::Styles&, Lists::GreekStyles, Lists::ReplacementTextStyles&>);
+static_assert(!Data<Lists::Styles&, Lists::GreekStyles&, Lists::ReplacementTextStyles>);
+
 /// The rules as they read: asks every style at every position.
 class LiteralGenerator : public RichTextGenerator {
 public:

@@ -32,5 +32,9 @@ int main() {
     std::cout << name.mark_up_text(generator) << '\n';
 
     const RichTextData::Styles crossing = {laid_on<BoldStyle>(0, 6), laid_on<ItalicStyle>(3, 9)};
-    std::cout << generator.mark_up_text({"onetwosix", 0, crossing, {}, {}, {}}) << '\n';
+    const RichTextData::Styles invisible;
+    const RichTextData::GreekStyles greek;
+    const RichTextData::ReplacementTextStyles replaced;
+    const RichTextData data("onetwosix", 0, crossing, invisible, greek, replaced);
+    std::cout << generator.mark_up_text(data) << '\n';
 }
