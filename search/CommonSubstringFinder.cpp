@@ -3,13 +3,16 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <limits>
 #include <stdexcept>
 #include <string_view>
 
+#include "search/SuffixAutomaton.h"
 #include "text/Position.h"
 
 namespace {
 
+constexpr char too_much_in_common[] = "the two texts have too many substrings in common";
 constexpr char bad_length[] = "invalid min_match_length in CommonSubstringFinder::search";
 
 /// The hash of a run of fixed length that slides over a string.
@@ -124,16 +127,18 @@ unsigned int common_length(std::string_view a, std::string_view b) {
 }
 
 /// Calls report(i, j, length) for each match, the run of that length that starts at i in a and at j
-/// in b.
+/// in b. Throws std::length_error when it would compare more characters than `most_compared`.
 template <class Report>
 void for_each_match(std::string_view a, std::string_view b, unsigned int min_match_length,
-                    Report report) {
+                    std::uint64_t most_compared, Report report) {
     if (a.size() < min_match_length || b.size() < min_match_length) return;
     Starts starts(b, min_match_length);
+    std::uint64_t compared = 0;
     RollingHash hash(a, min_match_length);
     const unsigned int last = length_of(a) - min_match_length;
     for (unsigned int i = 0;; ++i, hash.slide()) {
         for (unsigned int j = starts.first(hash.value()); j != no_position;) {
+            if (++compared > most_compared) throw std::length_error(too_much_in_common);
             if (starts.covered(i, j)) {
                 j = starts.next_behind_cover(i, j);
                 continue;
@@ -141,6 +146,7 @@ void for_each_match(std::string_view a, std::string_view b, unsigned int min_mat
             const unsigned int length = common_length(a.substr(i), b.substr(j));
             if (length >= min_match_length) {  // not only the same hash
                 report(i, j, length);
+                compared += length;
                 starts.cover(i + length, j, j + length);
             }
             j = starts.next(j);
@@ -149,8 +155,20 @@ void for_each_match(std::string_view a, std::string_view b, unsigned int min_mat
     }
 }
 
-void check_length(unsigned int min_match_length) {
+void check(const std::string& a, const std::string& b, unsigned int min_match_length) {
+    length_of(a);  // both throw where positions would not do
+    length_of(b);
     if (min_match_length == 0) throw std::range_error(bad_length);
+}
+
+/// Adds a stretch that begins no earlier than those before it; merges it with the last where they
+/// overlap.
+void add_stretch(std::vector<StringSlice>& stretches, unsigned int from, unsigned int to) {
+    if (stretches.empty() || from >= stretches.back().to()) {
+        stretches.emplace_back(from, to);
+    } else if (to > stretches.back().to()) {
+        stretches.back() = StringSlice(stretches.back().from(), to);
+    }
 }
 
 }  // namespace
@@ -159,10 +177,10 @@ void CommonSubstringFinder::search(const std::string& a, const std::string& b,
                                    std::vector<StringSlice>& a_matches,
                                    std::vector<StringSlice>& b_matches,
                                    unsigned int min_match_length) const {
-    check_length(min_match_length);
+    check(a, b, min_match_length);
     a_matches.clear();
     b_matches.clear();
-    for_each_match(a, b, min_match_length,
+    for_each_match(a, b, min_match_length, std::numeric_limits<std::uint64_t>::max(),
                    [&](unsigned int i, unsigned int j, unsigned int length) {
                        a_matches.emplace_back(i, i + length);
                        b_matches.emplace_back(j, j + length);
@@ -170,25 +188,31 @@ void CommonSubstringFinder::search(const std::string& a, const std::string& b,
 }
 
 std::vector<StringSlice> CommonSubstringFinder::matched_stretches(
-    const std::string& a, const std::string& b, unsigned int min_match_length) const {
-    check_length(min_match_length);
+    const std::string& a, const std::string& b, unsigned int min_match_length,
+    std::uint64_t most_compared) const {
+    check(a, b, min_match_length);
     std::vector<unsigned int> furthest_end(b.size(), 0);  // of the matches that start there
-    for_each_match(a, b, min_match_length,
+    for_each_match(a, b, min_match_length, most_compared,
                    [&](unsigned int /*i*/, unsigned int j, unsigned int length) {
                        furthest_end[j] = std::max(furthest_end[j], j + length);
                    });
     std::vector<StringSlice> stretches;
-    unsigned int from = 0;
-    unsigned int to = 0;
     for (unsigned int j = 0; j < furthest_end.size(); ++j) {
-        if (furthest_end[j] == 0) continue;
-        if (j >= to) {
-            if (to > from) stretches.emplace_back(from, to);
-            from = j;
-        }
-        to = std::max(to, furthest_end[j]);
+        if (furthest_end[j] > 0) add_stretch(stretches, j, furthest_end[j]);
     }
-    if (to > from) stretches.emplace_back(from, to);
+    return stretches;
+}
+
+std::vector<StringSlice> CommonSubstringFinder::common_stretches(
+    const std::string& a, const std::string& b, unsigned int min_match_length) const {
+    check(a, b, min_match_length);
+    const SuffixAutomaton runs_of_a(a);
+    SuffixAutomaton::Match match;
+    std::vector<StringSlice> stretches;
+    for (unsigned int end = 1; end <= b.size(); ++end) {
+        runs_of_a.read(b[end - 1], match);
+        if (match.length >= min_match_length) add_stretch(stretches, end - match.length, end);
+    }
     return stretches;
 }
 

@@ -1,8 +1,8 @@
 #include "search/MultipleLineTextComparison.h"
 
+#include <algorithm>
 #include <string_view>
 #include <typeinfo>
-#include <unordered_set>
 #include <utility>
 
 #include "host/KOVRLog.h"
@@ -56,9 +56,11 @@ void match_pairs(TextSearch& line_search, const std::vector<OffsetLine>& text_li
 /// What match_pairs() does for a search that matches equal lines only and a term that has lines.
 void match_equal_lines(TextSearch& line_search, const std::vector<OffsetLine>& text_lines,
                        const std::vector<std::string>& term_lines, StringSliceReducer& matches) {
-    const std::unordered_set<std::string_view> terms(term_lines.begin(), term_lines.end());
+    // Sorted, not hashed: lines that were made to collide cost no more than others.
+    std::vector<std::string_view> terms(term_lines.begin(), term_lines.end());
+    std::sort(terms.begin(), terms.end());
     for (const OffsetLine& line : text_lines) {
-        if (!terms.contains(line.text)) continue;
+        if (!std::binary_search(terms.begin(), terms.end(), line.text)) continue;
         matches.add({line.offset, line.offset + length_of(line.text)});
     }
     line_search.set_search_term(term_lines.back());
@@ -78,6 +80,7 @@ bool MultipleLineTextComparison::comparison_search(const std::string& term, cons
             << "MultipleLineTextComparison search: " << term << "\ntext: " << text;
         KOVRLog::end_debug_line();
     }
+    length_of(text);  // throws where positions would not do
     const std::vector<std::string> term_lines = split_lines(term);
     const std::vector<OffsetLine> text_lines = make_offsets(split_lines(text));
     StringSliceReducer matches;

@@ -14,8 +14,8 @@ public:
     /// Appends the merged ranges of all pairs of lines for which the line search says true. True
     /// only when term and text are equal and not empty, whatever the lines did. One call of the
     /// line search for each pair, text lines in order and for each the term lines; for an
-    /// EntireTextComparison O(n) for n characters instead. Throws what the line search throws, with
-    /// `slices` as it was, and the null-handle error when there is none.
+    /// EntireTextComparison O(n log n) for n characters instead. Throws what the line search
+    /// throws, with `slices` as it was, and the null-handle error when there is none.
     bool comparison_search(const std::string& term, const std::string& text,
                            std::vector<StringSlice>& slices) const override;
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/Position.h"
+
 NormalisedString::NormalisedString(const StringNormalisationPolicy& policy, const std::string& raw)
     : normalised_(normalise(policy, raw)) {}
 
@@ -17,7 +19,7 @@ StringSlice NormalisedString::denormalise_slice(const StringSlice& slice) const 
 
 std::string NormalisedString::normalise(const StringNormalisationPolicy& policy,
                                         const std::string& raw) {
-    std::string result(raw.size(), '\0');
+    std::string result(length_of(raw), '\0');
     unsigned int kept = 0;
     for (const char c : raw) {
         if (policy.drops(c)) {

@@ -10,7 +10,7 @@
 /// raw string is not kept.
 class NormalisedString {
 public:
-    /// One pass over `raw`.
+    /// One pass over `raw`; throws std::length_error for more than 4294967294 characters.
     NormalisedString(const StringNormalisationPolicy& policy, const std::string& raw);
 
     /// A copy of what the policy kept.

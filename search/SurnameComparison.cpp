@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 #include "text/Position.h"
@@ -36,6 +35,7 @@ void strip_spaces(Entry& entry) {
 }
 
 std::vector<Entry> separate_names(const std::string& text) {
+    length_of(text);  // throws where positions would not do
     std::vector<Entry> names;
     split_text_on(names, text, ",", 0);
     for (Entry& name : names) strip_spaces(name);
@@ -68,14 +68,34 @@ std::string surname_key(const std::vector<Entry>& surnames) {
     return key;
 }
 
-/// Takes one of the items that are counted under `key`; returns whether there was one left.
-template <class Counts, class Key>
-bool take_one(Counts& counts, const Key& key) {
-    const auto found = counts.find(key);
-    if (found == counts.end() || found->second == 0) return false;
-    --found->second;
-    return true;
-}
+/// A collection from which items are taken one by one. Sorted, not hashed: names that were made to
+/// collide cost no more than others.
+template <class Item>
+class Stock {
+public:
+    explicit Stock(std::vector<Item> items) {
+        std::sort(items.begin(), items.end());
+        for (Item& item : items) {
+            if (counted_.empty() || counted_.back().first != item) {
+                counted_.emplace_back(std::move(item), 0U);
+            }
+            ++counted_.back().second;
+        }
+    }
+
+    /// Takes one of the items that equal `item`; returns whether there was one left.
+    bool take(const Item& item) {
+        const auto found = std::lower_bound(
+            counted_.begin(), counted_.end(), item,
+            [](const auto& counted, const Item& wanted) { return counted.first < wanted; });
+        if (found == counted_.end() || found->first != item || found->second == 0) return false;
+        --found->second;
+        return true;
+    }
+
+private:
+    std::vector<std::pair<Item, unsigned int>> counted_;  // each item and how many are left
+};
 
 }  // namespace
 
@@ -84,28 +104,31 @@ SurnameComparison::~SurnameComparison() = default;
 bool SurnameComparison::comparison_search(const std::string& term, const std::string& text,
                                           std::vector<StringSlice>& slices) const {
     const std::vector<Entry> term_names = separate_names(term);
-    std::unordered_map<std::string_view, unsigned int> names_left;
-    for (const Entry& name : term_names) ++names_left[name.first];
+    std::vector<std::string_view> whole_names;
+    whole_names.reserve(term_names.size());
+    for (const Entry& name : term_names) whole_names.push_back(name.first);
+    Stock names_left(std::move(whole_names));
     std::vector<Entry> text_names;
     for (const Entry& name : separate_names(text)) {
-        if (take_one(names_left, name.first)) {
+        if (names_left.take(name.first)) {
             slices.push_back(name.second);
         } else {
             text_names.push_back(name);
         }
     }
 
-    std::unordered_map<std::string, unsigned int> surnames_left;
+    std::vector<std::string> surname_keys;
     if (!text_names.empty()) {
         for (const Entry& name : term_names) {
-            if (!take_one(names_left, name.first)) continue;
+            if (!names_left.take(name.first)) continue;
             const std::vector<Entry> surnames = extract_surnames(name);
-            if (!surnames.empty()) ++surnames_left[surname_key(surnames)];
+            if (!surnames.empty()) surname_keys.push_back(surname_key(surnames));
         }
     }
+    Stock surnames_left(std::move(surname_keys));
     for (const Entry& name : text_names) {
         const std::vector<Entry> surnames = extract_surnames(name);
-        if (surnames.empty() || !take_one(surnames_left, surname_key(surnames))) continue;
+        if (surnames.empty() || !surnames_left.take(surname_key(surnames))) continue;
         for (const Entry& surname : surnames) slices.push_back(surname.second);
     }
     return term == text;

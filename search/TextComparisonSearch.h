@@ -11,7 +11,8 @@ public:
     explicit TextComparisonSearch(const std::string& term) : term_(term) {}
     ~TextComparisonSearch() override;
 
-    /// Hands the stored term and `text` to comparison_search(); returns its answer.
+    /// Hands the stored term and `text` to comparison_search(); returns its answer. Throws
+    /// std::length_error for a text of more than 4294967294 characters, and what that throws.
     bool search(const std::string& text, std::vector<StringSlice>& slices) const final;
     void set_search_term(const std::string& term) final { term_ = term; }
 

@@ -2,15 +2,22 @@
 
 #include <cstddef>
 #include <limits>
+#include <stdexcept>
 #include <string_view>
 
 /// No character position: the largest unsigned 32-bit value, whatever std::string::npos is.
 inline constexpr unsigned int no_position = std::numeric_limits<unsigned int>::max();
 
-/// A position or length of a string as the kernel holds it; std::string::npos becomes no_position.
+/// A position of a string as the kernel holds it; std::string::npos becomes no_position.
 constexpr unsigned int to_position(std::size_t position) {
     return position == std::string_view::npos ? no_position : static_cast<unsigned int>(position);
 }
 
-/// The length of `text` in characters.
-constexpr unsigned int length_of(std::string_view text) { return to_position(text.size()); }
+/// The length of `text` in characters. Throws std::length_error for a text whose positions do not
+/// all fit: more than 4294967294 characters.
+constexpr unsigned int length_of(std::string_view text) {
+    if (text.size() >= no_position) {
+        throw std::length_error("text of more than 4294967294 characters");
+    }
+    return static_cast<unsigned int>(text.size());
+}

@@ -94,13 +94,14 @@ TextItem::TextItem(THandle<InputTextStyleFinder> finder, const std::string& text
 }
 
 void TextItem::set_text(const std::string& text) {
+    const unsigned int length = length_of(text);
     text_ = text;
     styles_.clear();
     invisible_styles_.clear();
     color_styles_.clear();
     greek_styles_.clear();
     replacement_text_styles_.clear();
-    nodes_.reset(length_of(text_));
+    nodes_.reset(length);
     replacement_texts_.clear();
     colors_begin_.clear();
     create_input_text_styles();

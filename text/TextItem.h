@@ -21,7 +21,8 @@ class TextItemStyle;
 /// properly nested mark-up; a style that would break this is refused and the item left as it was.
 ///
 /// Positions count characters (bytes) of text(). Every refusal is a std::range_error; a null finder
-/// handle raises the handle's own error. Texts may have up to 4294967294 characters.
+/// handle raises the handle's own error. Texts may have up to 4294967294 characters; longer ones
+/// throw std::length_error.
 class TextItem {
 public:
     /// Black is also the colour of text without a colour style. Targets that know no colours leave

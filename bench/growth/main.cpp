@@ -25,6 +25,7 @@
 #include "search/NumericComparison.h"
 #include "search/SurnameComparison.h"
 #include "tests/markup/StyleLists.h"
+#include "tests/robustness/colliding_names.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
 
@@ -139,9 +140,16 @@ Case searched(const std::string& name, unsigned int size,
             }};
 }
 
-THandle<TextSearch> substrings() {
-    return make_handle<CommonSubstringFinderAdapter>(StringNormalisationPolicy(0, ""), 3U, "");
+using Effort = CommonSubstringFinderAdapter::Effort;
+
+template <Effort effort>
+THandle<TextSearch> substrings_with() {
+    return make_handle<CommonSubstringFinderAdapter>(StringNormalisationPolicy(0, ""), 3U, "",
+                                                     effort);
 }
+
+constexpr auto substrings = substrings_with<Effort::any>;
+constexpr auto common_runs = substrings_with<Effort::linear>;
 
 THandle<TextSearch> lines() {
     return make_handle<MultipleLineTextComparison>(make_handle<EntireTextComparison>());
@@ -158,6 +166,15 @@ auto units(const std::string& unit, const std::string& end = "") {
 
 auto numbers(const std::string& unit, unsigned int factor = 1) {
     return [=](unsigned int n) { return numbered(unit, n, factor); };
+}
+
+/// Names that one hash value would hold, each between `begin` and `end`.
+auto colliding(const std::string& begin, const std::string& end) {
+    return [=](unsigned int n) {
+        std::string text;
+        for (const std::string& name : colliding_names(n)) text += begin + name + end;
+        return text;
+    };
 }
 
 /// A finder that finds scripts everywhere.
@@ -233,6 +250,11 @@ std::vector<Case> all_cases() {
         searched("substrings, one letter", 4000, substrings, units("a"), units("a", "b")),
         searched("substrings, one period", 2000, substrings, units("ab"), units("ab", "c")),
         searched("substrings, none alike", 2000, substrings, numbers("x#"), units("abcd")),
+        searched("common runs, two periods", 4000, common_runs, units("ab"), units("abc")),
+        searched("common runs, letters", 2000, common_runs, numbers("x#"), numbers("#x", 3)),
+        searched("colliding authors", 1000, made<SurnameComparison>(), colliding("", ","),
+                 colliding("", ", B.Li, ")),
+        searched("colliding lines", 1000, lines, colliding("", "\n"), colliding("", "\n")),
         searched("equal authors", 2500, made<SurnameComparison>(), units("A.Smith, "),
                  units("B.Smith, ")),
         searched("different authors", 2500, made<SurnameComparison>(), numbers("A.S#, ", 2),

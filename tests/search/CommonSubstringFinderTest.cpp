@@ -17,9 +17,19 @@ static void compare_slowly(const std::string& a, const std::string& b, unsigned 
     Matches matches{{{0, 9}}, {{3, 4}, {5, 5}}};
     CommonSubstringFinder().search(a, b, matches.first, matches.second, min_length);
     ASSERT_EQ(matches, slow) << a << ' ' << b;
+    const CommonSubstringFinder finder;
     const StringSliceReducer merged(slow.second.begin(), slow.second.end());
-    ASSERT_THAT(CommonSubstringFinder().matched_stretches(a, b, min_length),
+    ASSERT_THAT(finder.matched_stretches(a, b, min_length),
                 testing::UnorderedElementsAreArray(merged.slices()));
+    StringSliceReducer runs;
+    for (unsigned int j = 0; j < b.size(); ++j) {
+        std::size_t k = b.size() - j;
+        while (a.find(b.substr(j, k)) == std::string::npos) --k;
+        if (k >= min_length) runs.add({j, j + static_cast<unsigned int>(k)});
+    }
+    ASSERT_THAT(finder.common_stretches(a, b, min_length),
+                testing::UnorderedElementsAreArray(runs.slices()))
+        << a << ' ' << b;
 }
 
 TEST(CommonSubstringFinder, EqualsTheSlowSearchOnAllShortStrings) {
@@ -64,6 +74,25 @@ TEST(CommonSubstringFinderAdapter, MarksWhatIsCommonOnceNormalised) {
     EXPECT_EQ(found("(", "("), Result({{8, 9}}, false));
     EXPECT_EQ(found("NaCl", ""), Result({{8, 9}}, false));
     EXPECT_EQ(found("-", "NaCl"), Result({{8, 9}}, false));
+}
+
+TEST(CommonSubstringFinderAdapter, SpendsOnRepetitionsWhatItMay) {
+    using Effort = CommonSubstringFinderAdapter::Effort;
+    std::string term, text;
+    for (int n = 0; n < 20000; ++n) {
+        term += "ab";
+        text += "abc";
+    }
+    const auto found = [&](Effort effort) {
+        std::vector<StringSlice> slices;
+        CommonSubstringFinderAdapter({0, ""}, 2, term, effort).search(text, slices);
+        return slices.size();
+    };
+    EXPECT_EQ(found(Effort::linear), 20000U);
+    EXPECT_THROW(found(Effort::limited), std::length_error);
+    std::vector<StringSlice> slices;
+    CommonSubstringFinderAdapter({0, ""}, 3, "abab", Effort::linear).search("ababab", slices);
+    EXPECT_EQ(slices, (std::vector<StringSlice>{{0, 6}}));  // the matches alone: {0, 4}
 }
 
 TEST(CommonSubstringFinder, RefusesMatchesOfNoLengthBeforeItChangesAnything) {
