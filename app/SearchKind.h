@@ -17,6 +17,8 @@ struct SearchKind {
     const char* name;
     const char* help;
     THandle<TextSearch> (*make_search)(const SearchSettings& settings);
+    /// For whole texts as terms: the same search, or one like it that costs less.
+    THandle<TextSearch> (*make_comparison)(const SearchSettings& settings);
     /// Whether the term holds what the search looks for; otherwise all texts or none would match.
     bool (*takes)(const std::string& term);
 };

@@ -83,7 +83,7 @@ private:
         if (text.empty()) return {"", false};
         const Field field = field_of(id);
         const auto search =
-            make_handle<OrderedSearch>(field.search->make_search(options_.settings));
+            make_handle<OrderedSearch>(field.search->make_comparison(options_.settings));
         search->set_search_term(other);
         const TextItem item(make_handle<TextSearchStyleFinder>(search, field.source->make_finder()),
                             text);
