@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <string>
@@ -7,7 +8,8 @@
 
 /// `count` different names to which the standard library's hash of strings gives one and the same
 /// value, made for its 64-bit form (MurmurHash64A): changes of two blocks of eight bytes that undo
-/// each other, whatever the seed. No comma, full stop, blank, hyphen, line feed or NUL in them.
+/// each other, whatever the seed. They hold no separator and no control of names, lines or CIF
+/// values.
 inline std::vector<std::string> colliding_names(std::size_t count) {
     constexpr std::uint64_t factor = 0xC6A4A7935BD1E995, top_bit = std::uint64_t(1) << 63;
     std::uint64_t inverse =
@@ -25,7 +27,9 @@ inline std::vector<std::string> colliding_names(std::size_t count) {
         return std::string(std::bit_cast<const char*>(&block), sizeof block);
     };
     const auto usable = [](const std::string& block) {
-        return block.find_first_of(std::string(",. -\n\0", 6)) == std::string::npos;
+        const auto separates = [](unsigned char c) { return c <= ' ' || c == 0x7F; };
+        return block.find_first_of(",.-;'\"\\") == std::string::npos &&
+               std::none_of(block.begin(), block.end(), separates);
     };
     // A block and the other whose mixed value differs from the first one's in the top bit alone.
     std::string block, other;

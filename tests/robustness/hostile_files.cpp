@@ -8,6 +8,8 @@
 #include <iterator>
 #include <string>
 
+#include "tests/robustness/colliding_names.h"
+
 namespace {
 
 /// `unit` again and again, up to `bytes`; "@" in it is the number of the repetition.
@@ -54,6 +56,18 @@ const File files[] = {
     {"-x", "data_dash\n", "", ""},
 };
 
+/// Names that a hash takes for one: each is an author, and a line of the details.
+std::string colliding_names_cif(std::size_t bytes) {
+    std::string authors = "data_x\nloop_\n_publ_author_name\n",
+                details = "_refine_special_details\n;";
+    const std::size_t count = bytes / (2 * colliding_names(1).front().size() * 15);
+    for (const std::string& name : colliding_names(count)) {
+        authors += "'" + name + "'\n";
+        details += name + '\n';
+    }
+    return authors + details + ";\n";
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -77,5 +91,10 @@ int main(int argc, char** argv) {
         std::filesystem::resize_file(folder / "sparse.cif", std::uintmax_t{size} << 20);
         ++written;
     }
-    return written == (argc > 3 ? 1 : std::size(files) + 1) ? 0 : 1;
+    if (argc <= 3 || std::string(argv[3]) == "colliding_names.cif") {
+        std::ofstream stream(folder / "colliding_names.cif", std::ios::binary);
+        stream << colliding_names_cif(size << 10) << std::flush;
+        written += stream.good() ? 1 : 0;
+    }
+    return written == (argc > 3 ? 1 : std::size(files) + 2) ? 0 : 1;
 }
