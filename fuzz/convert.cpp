@@ -1,43 +1,22 @@
-// A batch of texts, as the program converts it.
-#include "app/convert.h"
-
+// A block of texts, as the program converts it.
 #include <algorithm>
 #include <exception>
 
 #include "fuzz/Input.h"
-#include "fuzz/MemoryFile.h"
+#include "output/text_lines.h"
 #include "tests/markup/shown_text.h"
 #include "text/TextItem.h"
 
 namespace {
 
-/// What a batch leaves behind.
-struct Ran {
-    bool good;
-    std::string output, reports;
-
-    friend bool operator==(const Ran&, const Ran&) = default;
-};
-
-/// Catches the standard streams, which glibc allows to be replaced.
-Ran run(const ConvertOptions& options) {
-    std::FILE* const streams[] = {stdout, stderr};
-    char* texts[] = {nullptr, nullptr};
-    std::size_t sizes[] = {0, 0};
-    stdout = open_memstream(&texts[0], &sizes[0]);
-    stderr = open_memstream(&texts[1], &sizes[1]);
-    const bool good = convert(options);  // closes standard output
-    std::fclose(stderr);
-    stdout = streams[0];
-    stderr = streams[1];
-    Ran ran{good, {texts[0], sizes[0]}, {texts[1], sizes[1]}};
-    for (char* text : texts) std::free(text);
-    return ran;
+void add_problem(ProcessedTexts& done, Problem::Level level, const std::string& what) {
+    Problem& problem = done.problems.emplace_back();
+    problem.level = level;
+    problem.what = what;
 }
 
 /// Adds what becomes of the text alone.
-void add_text(const ConvertOptions& options, const std::string& place, const std::string& text,
-              Ran& expected) {
+void add_text(const ConvertOptions& options, const std::string& text, ProcessedTexts& expected) {
     const auto finder = options.from->make_finder();
     try {
         TextItem item(finder, text);
@@ -48,26 +27,37 @@ void add_text(const ConvertOptions& options, const std::string& place, const std
         if (std::any_of(letters.begin(), letters.end(), [](const GreekSlice& letter) {
                 return letter.symbol() == TextItem::no_symbol;
             })) {
-            expected.reports += place + ": warning: Greek code without a letter\n";
+            add_problem(expected, Problem::Level::warning, "Greek code without a letter");
         }
     } catch (const std::exception& error) {
         expected.good = false;
-        expected.reports += place + ": " + error.what() + '\n';
+        add_problem(expected, Problem::Level::error, error.what());
     }
-    expected.output += options.batch.separator;
 }
 
-/// Adds what becomes of the texts of a file, each alone; returns how many there are.
-long add_file(const ConvertOptions& options, const std::string& path, std::string_view bytes,
-              Ran& expected) {
-    long texts = 0;
-    while (!bytes.empty()) {
-        const std::size_t end = std::min(bytes.find(options.batch.separator), bytes.size());
-        const std::string place = path + ':' + std::to_string(++texts);
-        add_text(options, place, std::string(bytes.substr(0, end)), expected);
+/// What becomes of the texts, each alone; the line of a problem is the number of the text.
+ProcessedTexts expected_of(const ConvertOptions& options, std::string_view bytes, char separator) {
+    ProcessedTexts expected;
+    for (unsigned long number = 1; !bytes.empty(); ++number) {
+        const std::size_t end = std::min(bytes.find(separator), bytes.size());
+        const std::size_t noted = expected.problems.size();
+        add_text(options, std::string(bytes.substr(0, end)), expected);
+        if (expected.problems.size() > noted) expected.problems.back().line = number;
+        expected.output += separator;
         bytes.remove_prefix(std::min(end + 1, bytes.size()));
     }
-    return texts;
+    return expected;
+}
+
+void require_equal(const ProcessedTexts& a, const ProcessedTexts& b) {
+    require(a.output == b.output, "a batch gives what each text gives alone", a.output);
+    require(a.good == b.good, "a batch fails where a text does", a.output);
+    const auto same = [](const Problem& one, const Problem& other) {
+        return one.line == other.line && one.what == other.what && one.level == other.level;
+    };
+    require(std::equal(a.problems.begin(), a.problems.end(), b.problems.begin(), b.problems.end(),
+                       same),
+            "each problem names its text", a.output);
 }
 
 /// The size of the target's own sequence at the front of the text, or 0.
@@ -86,10 +76,10 @@ std::size_t own_sequence(const std::string& target, std::string_view text) {
 }
 
 /// Nothing but the target's own sequences and layout may mean more than the characters shown.
-void check_harmless(const ConvertOptions& options, const std::string& output) {
+void check_harmless(const ConvertOptions& options, char separator, const std::string& output) {
     const std::string target = options.to->name;
     if (!options.to->escapes) return;
-    const std::string allowed = std::string("\n\t") + options.batch.separator;
+    const std::string allowed = std::string("\n\t") + separator;
     for (std::size_t i = 0; i < output.size();) {
         const std::string_view rest = std::string_view(output).substr(i);
         const std::size_t size = own_sequence(target, rest);
@@ -112,30 +102,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     options.to = &rich_text_targets()[input.byte() % rich_text_targets().size()];
     options.line_length = input.byte() % 32;
     const unsigned int flags = input.byte();
-    if ((flags & 1) != 0) options.batch.separator = '\0';
+    const char separator = (flags & 1) != 0 ? '\0' : '\n';
     const std::string bytes = input.rest();
-    const std::size_t second = std::min<std::size_t>(flags >> 2, bytes.size());
+    const MakeTextProcess make = [&] { return make_conversion(options); };
 
-    Ran expected{true, "", ""};
-    long texts = 0;
-    const MemoryFile files[] = {MemoryFile(bytes.substr(0, second)),
-                                MemoryFile(bytes.substr(second))};
-    const std::string_view whole = bytes;
-    for (const std::string_view part : {whole.substr(0, second), whole.substr(second)}) {
-        const std::string path = files[options.batch.files.size()].path();
-        options.batch.files.push_back(path);
-        texts += add_file(options, path, part, expected);
-    }
-    const Ran ran = run(options);
-    require(ran.output == expected.output, "a batch gives what each text gives alone", ran.output);
-    require(ran.reports == expected.reports, "each report names its text", ran.reports);
-    require(ran.good == expected.good, "a batch fails where a text does", ran.reports);
-    options.batch.jobs = 1 + (flags >> 1 & 1);
-    require(run(options) == ran, "another run gives the same, with more jobs too", ran.output);
-    const bool breaks_lines = options.line_length > 0 && options.batch.separator == '\n';
-    require(breaks_lines ||
-                std::count(ran.output.begin(), ran.output.end(), options.batch.separator) == texts,
-            "each text keeps its place", ran.output);
-    check_harmless(options, ran.output);
+    const ProcessedTexts expected = expected_of(options, bytes, separator);
+    require_equal(process_texts(bytes, separator, 1, make), expected);
+    // Two blocks give what one gives.
+    const std::size_t near_end = bytes.find(separator, std::min<std::size_t>(flags >> 1, size));
+    const std::size_t cut = near_end == std::string::npos ? 0 : near_end + 1;
+    ProcessedTexts first = process_texts(bytes.substr(0, cut), separator, 1, make);
+    const auto texts = std::count(bytes.begin(), bytes.begin() + static_cast<long>(cut), separator);
+    const ProcessedTexts second =
+        process_texts(bytes.substr(cut), separator, static_cast<unsigned long>(texts) + 1, make);
+    first.output += second.output;
+    first.good = first.good && second.good;
+    first.problems.insert(first.problems.end(), second.problems.begin(), second.problems.end());
+    require_equal(first, expected);
+    check_harmless(options, separator, expected.output);
     return 0;
 }

@@ -1,7 +1,7 @@
 // A file in pieces of whole texts, and as a CIF file.
-#include "app/CifFile.h"
-#include "app/EntryReader.h"
-#include "app/TextBlocks.h"
+#include "cli/TextBlocks.h"
+#include "entries/CifBeginning.h"
+#include "entries/EntryReader.h"
 #include "fuzz/Input.h"
 #include "fuzz/MemoryFile.h"
 #include "suppliers/FieldTextSupplier.h"
@@ -27,11 +27,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const MemoryFile file(bytes);
     check_blocks(file.path(), bytes);
     try {
-        for_each_cif_entry(file.path(), [](const CifEntry& entry) {
-            std::vector<LMRFieldNames::TextID> fields;
-            LMRFieldNames::internal_fields(fields);
+        const EntryReader reader(bytes);
+        require(CifBeginning().may_be_cif(bytes), "no CIF file is refused by its beginning", bytes);
+        std::vector<LMRFieldNames::TextID> fields;
+        LMRFieldNames::internal_fields(fields);
+        for (std::size_t i = 0; i < reader.size(); ++i) {
+            const CifEntry entry = reader[i];
             for (const LMRFieldNames::TextID id : fields) FieldTextSupplier(id).text(entry.entry);
-        });
+        }
     } catch (const CifError&) {
     }
     return 0;

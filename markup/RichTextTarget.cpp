@@ -1,5 +1,9 @@
 #include "markup/RichTextTarget.h"
 
+#include <algorithm>
+#include <iterator>
+#include <stdexcept>
+
 #include "markup/AnsiRichTextGenerator.h"
 #include "markup/CifRichTextGenerator.h"
 #include "markup/Html5RichTextGenerator.h"
@@ -17,25 +21,45 @@ THandle<RichTextGenerator> make() {
     return make_handle<Generator>();
 }
 
+constexpr RichTextLayout lines = {"", "\n", "", "    ", ": ", ""};
+constexpr RichTextLayout description = {"\\section*{", "}\n\\begin{description}\n", "\\item[{", "",
+                                        "}] ",         "\\end{description}\n"};
+constexpr RichTextLayout bullets = {"## ", "\n\n", "- ", "", ": ", "\n"};
+
+using Use = RichTextTarget::Use;
+
 constexpr RichTextTarget target_rows[] = {
-    {"tevo", "tevo", "the database's own mark-up", false, make<TevoRichTextGenerator>},
-    {"cif", "cif", "the text conventions of CIF files", false, make<CifRichTextGenerator>},
+    {"tevo", "tevo", "the database's own mark-up", false, make<TevoRichTextGenerator>, lines,
+     Use::database},
+    {"cif", "cif", "the text conventions of CIF files", false, make<CifRichTextGenerator>, lines,
+     Use::none},
     {"html", "html", "HTML with font tags and <p> at the end; the text is not escaped", false,
-     make<HtmlRichTextGenerator>},
-    {"qt", "html", "Qt rich text; the text is not escaped", false, make<QtRichTextGenerator>},
+     make<HtmlRichTextGenerator>, lines, Use::none},
+    {"qt", "html", "Qt rich text; the text is not escaped", false, make<QtRichTextGenerator>, lines,
+     Use::none},
     {"html5", "html", "HTML5 for pages: text escaped, Greek letters in Unicode, bars as overlines",
-     true, make<Html5RichTextGenerator>},
+     true, make<Html5RichTextGenerator>, lines, Use::page},
     {"latex", "tex", "LaTeX, with the package xcolor for colours; the text is escaped", true,
-     make<LatexRichTextGenerator>},
+     make<LatexRichTextGenerator>, description, Use::none},
     {"markdown", "md", "Markdown (CommonMark), HTML's tags where it has none; the text is escaped",
-     true, make<MarkdownRichTextGenerator>},
+     true, make<MarkdownRichTextGenerator>, bullets, Use::none},
     {"unicode", "txt", "plain text: raised and lowered characters, otherwise _{...} and ^{...}",
-     true, make<UnicodeRichTextGenerator>},
+     true, make<UnicodeRichTextGenerator>, lines, Use::plain_terminal},
     {"ansi", "ansi",
      "plain text with bold, italic, underlined and coloured characters of terminals", true,
-     make<AnsiRichTextGenerator>},
+     make<AnsiRichTextGenerator>, lines, Use::terminal},
 };
 
 }  // namespace
 
 std::span<const RichTextTarget> rich_text_targets() { return target_rows; }
+
+const RichTextTarget& rich_text_target_for(RichTextTarget::Use use) {
+    const auto* const target =
+        std::find_if(std::begin(target_rows), std::end(target_rows),
+                     [use](const RichTextTarget& candidate) { return candidate.use == use; });
+    if (use == Use::none || target == std::end(target_rows)) {
+        throw std::invalid_argument("rich text target for no use");
+    }
+    return *target;
+}

@@ -5,6 +5,16 @@
 #include "host/THandle.h"
 #include "markup/RichTextGenerator.h"
 
+/// What programs put around the rows of labels and texts that they write in a target's mark-up.
+struct RichTextLayout {
+    const char* before_title;
+    const char* behind_title;
+    const char* before_row;
+    const char* indent;  ///< Before the label of a row that no sign stands before.
+    const char* behind_label;
+    const char* foot;  ///< Behind the last row.
+};
+
 /// One kind of mark-up that the library writes, as programs offer it to their users.
 struct RichTextTarget {
     const char* name;    ///< One word, in lower case.
@@ -13,8 +23,14 @@ struct RichTextTarget {
     bool escapes;        ///< Whether texts without styles must go through the generator too.
     /// Makes a new generator, for one thread.
     THandle<RichTextGenerator> (*make_generator)();
+    RichTextLayout layout;
+    /// What programs choose it for where nobody has chosen.
+    enum class Use { none, database, page, terminal, plain_terminal } use;
 };
 
 /// All targets: first the four of the database and its old displays, then those for others'
 /// programs. The list lives as long as the program.
 std::span<const RichTextTarget> rich_text_targets();
+
+/// The target that programs choose for that use; throws std::invalid_argument for Use::none.
+const RichTextTarget& rich_text_target_for(RichTextTarget::Use use);

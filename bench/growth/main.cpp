@@ -6,8 +6,8 @@
 #include <functional>
 #include <memory>
 
-#include "app/EntryReader.h"
-#include "app/TextBlocks.h"
+#include "entries/EntryReader.h"
+#include "cli/TextBlocks.h"
 #include "finders/CifChemicalNameStyleFinder.h"
 #include "finders/CombinedCellLengthsStyleFinder.h"
 #include "finders/SpaceGroupStyleFinder.h"
@@ -203,23 +203,24 @@ Case normalised() {
             }};
 }
 
-/// What reads files, on one of such bytes.
+/// What reads bytes, on some of them.
 Case read(const std::string& name, unsigned int size,
           std::function<std::string(unsigned int)> make_bytes,
-          std::function<void(const std::string& path)> read_file) {
+          std::function<void(const std::string& bytes)> read_bytes) {
     return {"read " + name, size, [=](unsigned int n) -> Operation {
-                const auto file = std::make_shared<MemoryFile>(make_bytes(n));
-                return [=] { read_file(file->path()); };
+                return [=, bytes = make_bytes(n)] { read_bytes(bytes); };
             }};
 }
 
-void read_blocks(const std::string& path) {
-    TextBlocks blocks(path, '\n');
+void read_blocks(const std::string& bytes) {
+    const MemoryFile file(bytes);
+    TextBlocks blocks(file.path(), '\n');
     for (TextBlock block; blocks.next(block);) continue;
 }
 
-void read_entries(const std::string& path) {
-    for_each_cif_entry(path, [](const CifEntry&) {});
+void read_entries(const std::string& bytes) {
+    const EntryReader reader(bytes);
+    for (std::size_t i = 0; i < reader.size(); ++i) static_cast<void>(reader[i]);
 }
 
 std::string symmetry_operations(unsigned int n) {

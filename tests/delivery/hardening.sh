@@ -18,7 +18,7 @@ for flag in "${flags[@]}"; do
     fi
 done
 
-for path in "$build/app/lmrtext" "$libraries"/lib{lmrtext,kovrhost}.so; do
+for path in "$build/cli/lmrtext" "$libraries"/lib{lmrtext,kovrhost}.so; do
     file=$(basename "$path")
     marks=$(readelf --wide --file-header --segments --dynamic --dyn-syms "$path")
     while IFS='|' read -r pattern meaning; do

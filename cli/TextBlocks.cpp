@@ -1,0 +1,33 @@
+#include "cli/TextBlocks.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace {
+
+constexpr std::size_t long_text = 1 << 20;
+
+}  // namespace
+
+bool TextBlocks::next(TextBlock& block) {
+    block.file = file_.name();
+    block.first = number_;
+    block.bytes = std::exchange(rest_, {});
+    std::size_t end = 0;       // of the last whole text
+    std::size_t searched = 0;  // up to here there is none
+    do {
+        const std::string_view fresh = std::string_view(block.bytes).substr(searched);
+        const bool is_long = searched >= long_text;
+        const std::size_t found = is_long ? fresh.find(separator_) : fresh.rfind(separator_);
+        if (found != std::string_view::npos) end = searched + found + 1;
+        searched = block.bytes.size();
+    } while (end == 0 && file_.read(block.bytes));
+    if (end > 0) {
+        rest_ = block.bytes.substr(end);
+        block.bytes.resize(end);
+    }
+    number_ +=
+        static_cast<unsigned long>(std::count(block.bytes.begin(), block.bytes.end(), separator_));
+    return !block.bytes.empty();
+}

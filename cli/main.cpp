@@ -1,0 +1,118 @@
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <cerrno>
+#include <csignal>
+#include <exception>
+#include <functional>
+#include <sstream>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "cli/Command.h"
+#include "cli/TextOutput.h"
+#include "cli/report.h"
+
+namespace {
+
+using Commands = std::vector<std::unique_ptr<Command>>;
+
+/// In the order in which help and manual tell of them.
+Commands all_commands() {
+    Commands commands;
+    for (const auto make : {make_convert_command, make_show_command, make_fields_command,
+                            make_search_command, make_compare_command, make_targets_command,
+                            make_manual_command, make_completion_command}) {
+        commands.push_back(make());
+    }
+    return commands;
+}
+
+/// Runs a command; `trouble` is the exit status when it cannot go on.
+int guarded(int trouble, const std::function<int()>& command) {
+    try {
+        return command();
+    } catch (const std::system_error& error) {
+        // That the reader has seen enough and gone is not reported.
+        if (error.code().value() != EPIPE) report(error.what());
+    } catch (const std::exception& error) {
+        report(error.what());
+    }
+    return trouble;
+}
+
+/// Writes what CLI11 takes for an error, help and version.
+int show_help(const CLI::App& program, const CLI::ParseError& error) {
+    std::ostringstream text;
+    program.exit(error, text);
+    TextOutput output;
+    output.write(text.str());
+    output.close();
+    return 0;
+}
+
+/// Occupies the standard descriptors that are closed with ones that refuse reading or writing.
+/// Otherwise a file opened later would take their numbers and get what is written to them.
+void occupy_standard_descriptors() {
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(descriptor, F_GETFD) != -1) continue;
+        open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
+}
+
+/// CLI11 would make a list of an argument like "[x,y]". While it parses them, such arguments end
+/// with a NUL, which none has of itself.
+void parse_as_they_are(CLI::App& program, int argc, char** argv) {
+    for (CLI::App* command : program.get_subcommands({})) {
+        for (CLI::Option* option : command->get_options()) {
+            option->transform(
+                [](const std::string& value) { return value.substr(0, value.find('\0')); });
+        }
+    }
+    std::vector<std::string> arguments;
+    for (int i = argc - 1; i > 0; --i) {  // CLI11 takes the last first
+        std::string& argument = arguments.emplace_back(argv[i]);
+        if (argument.starts_with('[') && argument.ends_with(']')) argument += '\0';
+    }
+    program.parse(std::move(arguments));
+}
+
+/// Reports what is wrong with the arguments.
+int refuse(const CLI::App& program, const CLI::ParseError& error, int argc, char** argv) {
+    const bool names_none = argc > 1 && argv[1][0] != '-' && program.get_subcommands().empty();
+    report((names_none ? "no such command: '" + std::string(argv[1]) + "'" : error.what()) +
+           std::string(" (lmrtext --help says more)"));
+    return exit_trouble;
+}
+
+int run(int argc, char** argv) {
+    CLI::App program{"Styled text of crystal-structure entries: converts, shows and searches it"};
+    if (argc > 0) program.name(argv[0]);
+    program.set_version_flag("--version", "lmrtext " LMRTEXT_VERSION);
+    program.require_subcommand(1);
+    Choices choices;
+    const Commands commands = all_commands();
+    for (const auto& command : commands) command->add_to(program, choices);
+    try {
+        parse_as_they_are(program, argc, argv);
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() == 0) return show_help(program, error);
+        return refuse(program, error, argc, argv);
+    }
+    for (const auto& command : commands) {
+        if (command->is_chosen())
+            return guarded(command->trouble(), [&] { return command->run(); });
+    }
+    return exit_trouble;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    occupy_standard_descriptors();
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that grows too large is an error to report
+    return guarded(exit_failure, [&] { return run(argc, argv); });
+}

@@ -1,0 +1,71 @@
+#include "cli/options.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr unsigned int most_jobs = 1024;
+
+}  // namespace
+
+std::string help_of(const RichTextTarget& target) {
+    return std::string(target.help) + " (." + target.ending + ')';
+}
+
+std::string help_of(const Output& output) {
+    return output.target ? help_of(*output.target) : output.help;
+}
+
+std::string help_text(const ChoiceOption& option) {
+    std::size_t width = 0;
+    for (const Choice& value : option.values) width = std::max(width, value.name.size());
+    std::string help = option.purpose;
+    for (const Choice& value : option.values) {
+        const std::string blanks(width - value.name.size() + 2, ' ');
+        help.append("\n  ").append(value.name).append(blanks).append(value.help);
+    }
+    return help;
+}
+
+void add_batch_options(CLI::App& command, TextBatch& batch) {
+    command.add_flag_callback(
+        "-0,--null", [&batch] { batch.separator = '\0'; },
+        "NUL instead of line feed ends each text, read and written");
+    command
+        .add_option("-j,--jobs", batch.jobs,
+                    "Work in that many threads; the order of the texts stays")
+        ->check(CLI::Range(1U, most_jobs));
+    command.add_option("FILE", batch.files, "Files to read; none or -: standard input");
+}
+
+std::vector<LMRFieldNames::TextID> ChosenFields::list() const {
+    std::vector<LMRFieldNames::TextID> fields = named;
+    if (fields.empty()) view->list(fields);
+    return fields;
+}
+
+void add_field_options(CLI::App& command, Choices& choices, ChosenFields& fields) {
+    fields.view = row_named(views(), "default");
+    add_row_option(command, choices, "--view", fields.view, views(),
+                   "Which fields; default unless given");
+    command
+        .add_option_function<std::string>(
+            "--fields",
+            [&fields](const std::string& labels) {
+                fields.named = known_fields(fields_named, labels);
+            },
+            "Only these fields: 'Cell Lengths,Author(s)'")
+        ->type_name("LABELS");
+}
+
+void add_tolerance_option(CLI::App& command, SearchSettings& settings) {
+    command
+        .add_option(
+            "--tolerance", settings.tolerance,
+            "How far numbers may differ, 0 unless given; a whole number allows 1e-7 more, for "
+            "rounding")
+        ->check([](const std::string& tolerance) {
+            if (is_tolerance(tolerance)) return std::string();
+            return "'" + tolerance + "' is not a tolerance; expected a number of at least 0";
+        });
+}

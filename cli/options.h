@@ -1,0 +1,77 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "cli/Choices.h"
+#include "cli/TextBatch.h"
+#include "fields/LMRFieldNames.h"
+#include "output/Output.h"
+#include "tasks/SearchKind.h"
+#include "tasks/UnknownField.h"
+#include "tasks/View.h"
+#include "tasks/row_named.h"
+
+// The options that several commands have.
+
+constexpr unsigned int longest_line = 4294967294;  // in characters
+
+template <class Row>
+std::string help_of(const Row& row) {
+    return row.help;
+}
+std::string help_of(const RichTextTarget& target);
+std::string help_of(const Output& output);
+
+/// The purpose of an option, and a line for each of its values.
+std::string help_text(const ChoiceOption& option);
+
+/// Adds an option that takes the name of a row.
+template <class Row>
+CLI::Option* add_row_option(CLI::App& command, Choices& choices, const char* flag,
+                            const Row*& chosen, std::span<const Row> rows,
+                            const std::string& purpose) {
+    const auto choose = [&chosen, rows](const std::string& name) {
+        chosen = row_named(rows, name);
+        if (chosen) return;
+        std::string expected = "no such kind: '" + name + "'; expected one of";
+        for (const Row& known : rows) expected += std::string(" ") + known.name;
+        throw CLI::ValidationError(expected);
+    };
+    ChoiceOption noted{purpose, {}};
+    for (const Row& row : rows) noted.values.push_back({row.name, help_of(row)});
+    CLI::Option* const option =
+        command.add_option_function<std::string>(flag, choose, help_text(noted))->type_name("KIND");
+    choices[option] = std::move(noted);
+    return option;
+}
+
+/// Adds the options of commands that work on texts.
+void add_batch_options(CLI::App& command, TextBatch& batch);
+
+/// The fields that a command is about.
+struct ChosenFields {
+    const View* view = nullptr;
+    std::vector<LMRFieldNames::TextID> named;
+
+    /// Those that were named, or else those of the view.
+    std::vector<LMRFieldNames::TextID> list() const;
+};
+
+/// Adds the options that choose fields.
+void add_field_options(CLI::App& command, Choices& choices, ChosenFields& fields);
+
+void add_tolerance_option(CLI::App& command, SearchSettings& settings);
+
+/// What `find` gives, or a complaint where no field has that label.
+template <class Find>
+auto known_fields(Find find, const std::string& label) {
+    try {
+        return find(label);
+    } catch (const UnknownField& unknown) {
+        throw CLI::ValidationError(std::string("no such field: '") + unknown.what() +
+                                   "'; lmrtext fields --view internal lists them");
+    }
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "entries/Problem.h"
+
+/// Writes one line to standard error, with the program's name in front. Control characters and what
+/// is not UTF-8 are shown as "?", and what turns the direction of writing by its number:
+/// "<U+202E>".
+void report(const std::string& message);
+/// Likewise, in a sentence: where, what was found and what was expected.
+void report(const Problem& problem);

@@ -1,0 +1,94 @@
+#include "entries/BlockReader.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "entries/cif_text.h"
+
+namespace {
+
+// No number of a crystal comes near; multiplied, it is still one.
+constexpr double beyond_use = 1e30;
+
+}  // namespace
+
+const CifItem* BlockReader::item(std::string_view tag) {
+    const CifItem* const found = block_.find(tag);
+    if (found) asked_for_.push_back(found);
+    return found;
+}
+
+CifBlock::Items BlockReader::items(std::string_view prefix) {
+    const CifBlock::Items found = block_.find_all(prefix);
+    asked_for_.insert(asked_for_.end(), found.begin(), found.end());
+    return found;
+}
+
+std::vector<std::string> BlockReader::texts(std::string_view tag) {
+    std::vector<std::string> texts;
+    const CifItem* const found = item(tag);
+    for (std::size_t row = 0; found && row < found->size(); ++row) {
+        texts.push_back((*found)[row].text());
+    }
+    return texts;
+}
+
+BlockReader::Value BlockReader::first_value(Tags tags) {
+    Value value;
+    for (const std::string_view tag : tags) {
+        const CifItem* const found = item(tag);
+        for (std::size_t row = 0; found && !value && row < found->size(); ++row) {
+            value.text = (*found)[row].text();
+            if (!value.text.empty()) value.item = found;
+        }
+    }
+    return value;
+}
+
+std::string BlockReader::first_text(Tags tags) {
+    const Value value = first_value(tags);
+    return value ? one_line(value.text) : "";
+}
+
+std::optional<UncertainValue> BlockReader::number(Tags tags) {
+    const Value value = first_value(tags);
+    if (!value) return std::nullopt;
+    const std::optional<UncertainValue> read = read_number(value.text);
+    const bool is_usable = read && std::abs(read->value) < beyond_use;
+    if (!is_usable) add_unexpected(value, "a number");
+    return is_usable ? read : std::nullopt;
+}
+
+Problem& BlockReader::add_block_problem(const CifItem& at, std::string what) {
+    Problem problem;
+    problem.line = document_.line_of(at.origin());
+    problem.block = std::string(block_.name());
+    problem.what = std::move(what);
+    problems_.push_back(std::move(problem));
+    return problems_.back();
+}
+
+Problem& BlockReader::add_problem(const CifItem& item, std::string what) {
+    Problem& problem = add_block_problem(item, std::move(what));
+    problem.item = in_lower_case(item.tag());
+    return problem;
+}
+
+void BlockReader::add_problem(const Value& value, std::string what) {
+    add_problem(*value.item, std::move(what)).found = one_line(value.text);
+}
+
+void BlockReader::add_unexpected(const Value& value, std::string expected) {
+    Problem& problem = add_problem(*value.item, "");
+    problem.found = one_line(value.text);
+    problem.expected = std::move(expected);
+}
+
+void BlockReader::note_repetitions() {
+    std::sort(asked_for_.begin(), asked_for_.end());
+    for (const CifItem* repeated : block_.repetitions()) {
+        const CifItem* const first = block_.find(repeated->tag());
+        if (!std::binary_search(asked_for_.begin(), asked_for_.end(), first)) continue;
+        add_problem(*repeated, "given again; the first value counts");
+    }
+}

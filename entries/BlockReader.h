@@ -1,0 +1,83 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "entries/CifDocument.h"
+#include "entries/Problem.h"
+#include "host/CrystalStructureDatabaseEntry.h"
+#include "host/UncertainValue.h"
+
+/// Items that say the same, those to be preferred first.
+using Tags = std::span<const std::string_view>;
+
+/// A list of one.
+inline Tags just(const std::string_view& tag) { return {&tag, 1}; }
+
+/// The values of a block as the readers of an entry's parts ask for them, and the problems that
+/// they find.
+class BlockReader {
+public:
+    /// A value, and where it stands.
+    struct Value {
+        const CifItem* item = nullptr;  // null: there is none
+        std::string text;
+
+        explicit operator bool() const { return item != nullptr; }
+    };
+
+    BlockReader(const CifDocument& document, CifBlock block)
+        : document_(document), block_(std::move(block)) {}
+
+    const CifBlock& block() const { return block_; }
+
+    /// The item with that tag, in lower case, or null.
+    const CifItem* item(std::string_view tag);
+    /// The items of CifBlock::find_all().
+    CifBlock::Items items(std::string_view prefix);
+    /// The texts of an item, one a row; none where there is no such item.
+    std::vector<std::string> texts(std::string_view tag);
+    /// The first value that is one, of the first of the tags that has any.
+    Value first_value(Tags tags);
+    /// Its text, on one line.
+    std::string first_text(Tags tags);
+    /// The number that it is; a problem where it is none.
+    std::optional<UncertainValue> number(Tags tags);
+
+    /// Adds a problem of the block that shows at an item, or of the item itself.
+    /// @{
+    Problem& add_block_problem(const CifItem& at, std::string what);
+    Problem& add_problem(const CifItem& item, std::string what);
+    /// @}
+    /// Likewise of a value, which belongs to what is wrong, or is not what was expected.
+    /// @{
+    void add_problem(const Value& value, std::string what);
+    void add_unexpected(const Value& value, std::string expected);
+    /// @}
+    /// Adds a problem for each item that has been asked for and is given again.
+    void note_repetitions();
+    std::vector<Problem> take_problems() { return std::move(problems_); }
+
+private:
+    const CifDocument& document_;
+    CifBlock block_;
+    CifBlock::Items asked_for_;
+    std::vector<Problem> problems_;
+};
+
+// Each fills the part of an entry that its name says.
+
+void read_texts(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+void read_names(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+void read_publication(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+void read_dates(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+/// The numbers of the entry in journals, archives and databases.
+void read_numbers_elsewhere(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+void read_cell(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+/// Symbol, reduced cell, Z and Z'; wants the cell to be read.
+void read_space_group(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+void read_measurements(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+void read_atoms(BlockReader& block, CrystalStructureDatabaseEntry& entry);

@@ -1,0 +1,121 @@
+#pragma once
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Bytes are not a CIF file; what() says why.
+class CifError : public std::runtime_error {
+public:
+    /// `line` counts from 1.
+    CifError(unsigned long line, const std::string& reason)
+        : std::runtime_error(reason), line_(line) {}
+
+    unsigned long line() const { return line_; }
+
+private:
+    unsigned long line_;
+};
+
+/// What sets a value off from what stands around it.
+enum class CifQuoting { bare, single_quotes, double_quotes, text_field };
+
+/// One value as it stands in the bytes of a document.
+struct CifValue {
+    std::string_view raw;  ///< Quotes included; empty for a tag without a value.
+
+    CifQuoting quoting() const;
+    /// What stands between the quotes; nothing for "?" and ".", in quotes too.
+    std::string text() const;
+};
+
+/// The values of one tag of a block: one, or one a row of a loop.
+class CifItem {
+public:
+    /// Value n of the item is number `first` + n * `stride` of `values`.
+    CifItem(std::string_view tag, const char* origin, const std::vector<std::string_view>& values,
+            std::size_t first, std::size_t stride, std::size_t size)
+        : tag_(tag),
+          origin_(origin),
+          values_(&values),
+          first_(first),
+          stride_(stride),
+          size_(size) {}
+
+    /// As it stands in the bytes.
+    std::string_view tag() const { return tag_; }
+    /// Where the item begins: at its tag, or at the "loop_" before it.
+    const char* origin() const { return origin_; }
+    bool in_loop() const { return origin_ != tag_.data(); }
+    std::size_t size() const { return size_; }
+    /// `row` is below size().
+    CifValue operator[](std::size_t row) const { return {(*values_)[first_ + row * stride_]}; }
+
+private:
+    std::string_view tag_;
+    const char* origin_;
+    const std::vector<std::string_view>* values_;
+    std::size_t first_, stride_, size_;
+};
+
+/// One data block of a document, which must live on.
+class CifBlock {
+public:
+    using Items = std::vector<const CifItem*>;
+
+    /// `items` stand in the order of the file.
+    CifBlock(std::string_view name, Items items);
+
+    /// "#" for a bare "data_", empty for "global_".
+    std::string_view name() const { return name_; }
+    /// The first item with that tag, or null. `tag` is in lower case; that of the item may be in
+    /// any. O(log m) for m items.
+    const CifItem* find(std::string_view tag) const;
+    /// The items that are not in loops and whose tags begin with `prefix`, which is in lower case,
+    /// in the order of the tags; of several with one tag the first.
+    Items find_all(std::string_view prefix) const;
+    /// The items whose tag an item before them has already, which CIF forbids, in the order of the
+    /// file.
+    Items repetitions() const;
+
+private:
+    std::string_view name_;
+    Items items_;  // outside save frames, in the order of their tags, then of the file
+};
+
+/// The structure of a CIF file: blocks, items and values are places in its bytes, which the caller
+/// keeps. 16 bytes a value and 48 a tag.
+class CifDocument {
+public:
+    /// A byte order mark in front is passed over. Throws CifError.
+    explicit CifDocument(std::string_view bytes);
+    CifDocument(const CifDocument&) = delete;
+    CifDocument& operator=(const CifDocument&) = delete;
+
+    std::size_t blocks() const { return contents_.blocks.size(); }
+    /// `index` is below blocks(). O(m log m) for m items.
+    CifBlock block(std::size_t index) const;
+
+    /// The line, from 1, of a place in the bytes. The first question is O(n) for n bytes, each
+    /// later one O(log n).
+    unsigned long line_of(const char* place) const;
+
+    /// What the grammar finds, in the order of the file.
+    struct Contents {
+        struct Block {
+            std::string_view name;
+            std::size_t first_item;
+        };
+
+        std::vector<Block> blocks;
+        std::vector<CifItem> items;
+        std::vector<std::string_view> values;
+    };
+
+private:
+    std::string_view bytes_;
+    Contents contents_;
+    mutable std::vector<const char*> line_ends_;  // found when they are asked for
+};

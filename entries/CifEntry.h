@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "entries/CifDocument.h"
+#include "entries/Problem.h"
+#include "host/CrystalStructureDatabaseEntry.h"
+#include "host/THandle.h"
+
+/// An entry as a data block of a CIF file tells it.
+struct CifEntry {
+    CifBlock block;  ///< Where its values stand; its document must live on.
+    THandle<CrystalStructureDatabaseEntry> entry;
+    std::vector<Problem> problems;  ///< The items that could not be read.
+};

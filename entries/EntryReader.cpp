@@ -1,0 +1,19 @@
+#include "entries/EntryReader.h"
+
+#include "entries/BlockReader.h"
+
+CifEntry EntryReader::operator[](std::size_t index) const {
+    BlockReader block(document_, document_.block(index));
+    const auto entry = make_handle<CrystalStructureDatabaseEntry>();
+    read_texts(block, *entry);
+    read_names(block, *entry);
+    read_publication(block, *entry);
+    read_dates(block, *entry);
+    read_numbers_elsewhere(block, *entry);
+    read_cell(block, *entry);
+    read_space_group(block, *entry);
+    read_measurements(block, *entry);
+    read_atoms(block, *entry);
+    block.note_repetitions();
+    return {block.block(), entry, block.take_problems()};
+}

@@ -1,0 +1,158 @@
+#include "entries/cif_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+
+namespace {
+
+constexpr char white_space[] = " \t\r\n";
+
+std::string_view trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(white_space);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(white_space) - first + 1);
+}
+
+/// Takes the text before the first `separator` off `text`, without its white space around.
+std::string_view take_part(std::string_view& text, char separator) {
+    const std::size_t end = std::min(text.find(separator), text.size());
+    const std::string_view part = trimmed(text.substr(0, end));
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return part;
+}
+
+template <class Number>
+std::optional<Number> read_whole(std::string_view text) {
+    Number number{};
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+    return number;
+}
+
+/// Whether a byte of UTF-8 is not the first of its character.
+bool continues_character(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+
+/// "Yi-Zhi J." as "Y.-Z.J.".
+std::string initials(std::string_view given_names) {
+    std::string result;
+    bool begins_name = true;
+    for (std::size_t i = 0; i < given_names.size(); ++i) {
+        const char c = given_names[i];
+        if (c == '-') result += c;
+        if (c == ' ' || c == '.' || c == '-') {
+            begins_name = true;
+            continue;
+        }
+        if (!begins_name) continue;
+        result += c;
+        while (i + 1 < given_names.size() && continues_character(given_names[i + 1])) {
+            result += given_names[++i];
+        }
+        result += '.';
+        begins_name = false;
+    }
+    return result;
+}
+
+}  // namespace
+
+std::string_view without_byte_order_mark(std::string_view bytes) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (bytes.substr(0, mark.size()) == mark) bytes.remove_prefix(mark.size());
+    return bytes;
+}
+
+std::string in_lower_case(std::string_view text) {
+    std::string result(text);
+    for (char& c : result) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
+    return result;
+}
+
+std::string one_line(std::string_view text) {
+    constexpr char fold = '\\';
+    std::string_view rest = text;
+    const bool folded = take_part(rest, '\n') == std::string_view(&fold, 1);
+    if (folded) text = rest;
+    std::string line;
+    bool goes_on = true;
+    while (!text.empty()) {
+        std::string_view part = take_part(text, '\n');
+        if (part.empty()) continue;
+        if (!goes_on && line.back() != '-' && part.front() != '-') line += ' ';
+        goes_on = folded && part.back() == fold;
+        if (goes_on) part.remove_suffix(1);
+        line += part;
+    }
+    return line;
+}
+
+std::optional<UncertainValue> read_number(std::string_view text) {
+    text = trimmed(text);
+    std::string_view uncertainty;
+    if (!text.empty() && text.back() == ')') {
+        const std::size_t open = text.find('(');
+        if (open == std::string_view::npos) return std::nullopt;
+        uncertainty = text.substr(open + 1, text.size() - open - 2);
+        text = text.substr(0, open);
+        if (uncertainty.find_first_not_of("0123456789") != std::string_view::npos) {
+            return std::nullopt;
+        }
+    }
+    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+    const std::optional<double> value = read_whole<double>(text);
+    if (!value || !std::isfinite(*value)) return std::nullopt;
+
+    const std::size_t exponent = std::min(text.find_first_of("eE"), text.size());
+    const std::size_t point = std::min(text.find('.'), exponent);
+    int decimals = point < exponent ? static_cast<int>(exponent - point - 1) : 0;
+    if (exponent < text.size()) {
+        std::string_view digits = text.substr(exponent + 1);
+        if (digits.substr(0, 1) == "+") digits.remove_prefix(1);
+        // No double needs a thousand; 0 may be written with any exponent.
+        decimals -= std::clamp(read_whole<int>(digits).value_or(0), -1000, 1000);
+    }
+    UncertainValue result{*value, 0, std::max(decimals, 0)};
+    if (!uncertainty.empty()) {
+        const std::optional<double> last_places = read_whole<double>(uncertainty);
+        if (!last_places) return std::nullopt;
+        result.uncertainty = *last_places * std::pow(10.0, -decimals);
+    }
+    return result;
+}
+
+std::optional<Date> read_date(std::string_view text) {
+    constexpr int days[] = {31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    text = trimmed(text);
+    const std::optional<int> year = read_whole<int>(take_part(text, '-'));
+    const std::optional<int> month = read_whole<int>(take_part(text, '-'));
+    const std::optional<int> day = read_whole<int>(take_part(text, 'T'));
+    if (!year || !month || !day) return std::nullopt;
+    if (*year < 1 || *month < 1 || *month > 12 || *day < 1 || *day > days[*month - 1]) {
+        return std::nullopt;
+    }
+    return Date{*year, *month, *day};
+}
+
+std::string without_accents(std::string_view text) {
+    constexpr std::string_view accents = "'\"`^~;<=./,(%&";
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool accent = text[i] == '\\' && i + 2 < text.size() &&
+                            accents.find(text[i + 1]) != std::string_view::npos;
+        if (accent) i += 2;
+        result += text[i];
+    }
+    return result;
+}
+
+std::string initials_first(std::string_view author) {
+    const std::string plain = without_accents(author);
+    std::string_view given_names = plain;
+    const std::string_view surname = take_part(given_names, ',');
+    return initials(trimmed(given_names)) + std::string(surname);
+}

@@ -1,0 +1,66 @@
+#include <sstream>
+
+#include "entries/BlockReader.h"
+#include "entries/cif_tags.h"
+#include "entries/cif_text.h"
+
+namespace {
+
+void add_cross_reference(CrystalStructureDatabaseEntry& entry, std::string database,
+                         const std::string& number) {
+    for (char& c : database) {
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    }
+    entry.cross_reference_info->references.push_back(
+        {DatabaseCrossReference::same_structure, database + ' ' + number});
+}
+
+}  // namespace
+
+void read_publication(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
+    Publication& article = *entry.publication;
+    article.journal = without_accents(article.journal);
+    for (const std::string& author : block.texts(cif_tags::author)) {
+        const std::string name = initials_first(one_line(author));
+        if (!name.empty()) article.authors.push_back(name);
+    }
+    const std::string last_page = block.first_text(just(cif_tags::last_page));
+    if (!article.page.empty() && !last_page.empty()) article.page += "-" + last_page;
+}
+
+void read_dates(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
+    EditorsInfo& editors = *entry.editors_info;
+    const BlockReader::Value created = block.first_value(just(cif_tags::accession));
+    if (created) {
+        const std::optional<Date> date = read_date(created.text);
+        if (date) editors.accession_date = *date;
+        if (!date) block.add_unexpected(created, "a date like 2004-07-09");
+    }
+    // The record has a line for each update, beginning with the date; the last line counts.
+    std::istringstream lines(block.first_value(just(cif_tags::update)).text);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        std::string first_word;
+        words >> first_word;
+        const std::optional<Date> date = read_date(first_word);
+        if (date) editors.modification_date = *date;
+    }
+}
+
+void read_numbers_elsewhere(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
+    auto& depositions = entry.deposition_info->depositions;
+    for (const CifItem* item : block.items(cif_tags::database_prefix)) {
+        const std::string number = one_line((*item)[0].text());
+        if (number.empty()) continue;
+        const std::string tag = in_lower_case(item->tag());
+        if (tag.starts_with(cif_tags::deposition_prefix)) {
+            depositions.push_back({DepositionInfo::supplementary, number});
+        } else {
+            add_cross_reference(entry, tag.substr(cif_tags::database_prefix.size()), number);
+        }
+    }
+    const std::string editor_code = block.first_text(just(cif_tags::editor_code));
+    if (!editor_code.empty()) depositions.push_back({DepositionInfo::journal, editor_code});
+    const std::string number = block.first_text(just(cif_tags::identifier));
+    if (!number.empty()) add_cross_reference(entry, "cod", number);
+}

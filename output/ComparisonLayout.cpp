@@ -1,0 +1,3 @@
+#include "output/ComparisonLayout.h"
+
+ComparisonLayout::~ComparisonLayout() = default;

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+#include <span>
+
+#include "output/ComparisonLayout.h"
+#include "output/Output.h"
+
+/// What show writes: the targets, and JSON.
+std::span<const Output> show_outputs();
+
+/// The layout of entries; in a file of its own the target that is for pages makes one.
+std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_file);
+
+/// The layout of comparisons in the mark-up of a target.
+std::unique_ptr<ComparisonLayout> make_comparison_layout(const RichTextTarget& target);

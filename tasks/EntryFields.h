@@ -1,0 +1,27 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "entries/CifEntry.h"
+#include "fields/LMRFieldNames.h"
+#include "text/TextItem.h"
+
+/// One field of an entry with its styles.
+struct EntryField {
+    const char* label;
+    const char* group;
+    TextItem item;
+};
+
+/// The fields of an entry that have a text, and the problems of those that cannot be styled.
+struct EntryFields {
+    /// The fields in the order of `ids`, with the matches of `term` highlighted as suits each
+    /// field; an empty term is not searched.
+    EntryFields(const CifEntry& entry, std::span<const LMRFieldNames::TextID> ids,
+                const std::string& term = "");
+
+    std::vector<EntryField> fields;
+    std::vector<Problem> problems;
+};

@@ -1,0 +1,96 @@
+#include "tasks/SearchKind.h"
+
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+#include "search/CombinedPublicationComparisonSearch.h"
+#include "search/CommonSubstringFinderAdapter.h"
+#include "search/EntireTextComparison.h"
+#include "search/MultipleLineTextComparison.h"
+#include "search/NumericComparison.h"
+#include "search/SurnameComparison.h"
+#include "suppliers/CombinedPublicationTagSupplier.h"
+
+namespace {
+
+/// The number that the whole text is, if it is one.
+template <class Number>
+std::optional<Number> read(const std::string& text) {
+    Number number{};
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+    return number;
+}
+
+template <class Search>
+THandle<TextSearch> make(const SearchSettings& /*settings*/) {
+    return make_handle<Search>();
+}
+
+THandle<TextSearch> make_line_search(const SearchSettings& /*settings*/) {
+    return make_handle<MultipleLineTextComparison>(make_handle<EntireTextComparison>());
+}
+
+THandle<TextSearch> make_numeric_search(const SearchSettings& settings) {
+    const std::optional<int> whole = read<int>(settings.tolerance);
+    if (whole) return make_handle<NumericComparison>(*whole);
+    return make_handle<NumericComparison>(read<double>(settings.tolerance).value());
+}
+
+template <CommonSubstringFinderAdapter::Effort effort>
+THandle<TextSearch> make_substring_search(const SearchSettings& settings) {
+    const StringNormalisationPolicy policy(
+        StringNormalisationPolicy::drop_punct | StringNormalisationPolicy::drop_space, "");
+    return make_handle<CommonSubstringFinderAdapter>(policy, settings.min_match_length,
+                                                     std::string(), effort);
+}
+
+bool any(const std::string& /*term*/) { return true; }
+
+bool has_digit(const std::string& term) {
+    return term.find_first_of("0123456789") != std::string::npos;
+}
+
+/// Whether the term has a part of a reference.
+bool has_part(const std::string& term) {
+    const CombinedPublicationTagSupplier tags;
+    for (const std::string& tag :
+         {tags.begin_jnl(), tags.begin_vol(), tags.begin_year(), tags.begin_page()}) {
+        if (term.find(tag) != std::string::npos) return true;
+    }
+    return false;
+}
+
+using Effort = CommonSubstringFinderAdapter::Effort;
+
+constexpr SearchKind kind_rows[] = {
+    {"exact", "the text, when it equals the term", make<EntireTextComparison>,
+     make<EntireTextComparison>, any},
+    {"lines", "lines that equal a line of the term; whole when it equals the term",
+     make_line_search, make_line_search, any},
+    {"numeric",
+     "each number within --tolerance of the term's number of the same place; whole when all agree",
+     make_numeric_search, make_numeric_search, has_digit},
+    {"surnames", "authors of the term, or their surnames; whole when it equals the term",
+     make<SurnameComparison>, make<SurnameComparison>, any},
+    {"publication",
+     "<j> journal, <y> year, <v> volume and <p> page that equal the term's; whole when all four "
+     "agree",
+     make<CombinedPublicationComparisonSearch>, make<CombinedPublicationComparisonSearch>,
+     has_part},
+    {"substring",
+     "runs of --min-length characters or more that also stand in the term, blanks and punctuation "
+     "aside; whole when it equals the term",
+     make_substring_search<Effort::limited>, make_substring_search<Effort::linear>, any},
+};
+
+}  // namespace
+
+std::span<const SearchKind> search_kinds() { return kind_rows; }
+
+bool is_tolerance(const std::string& tolerance) {
+    const std::optional<double> number = read<double>(tolerance);
+    return number && std::isfinite(*number) && *number >= 0;
+}
