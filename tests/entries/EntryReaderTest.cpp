@@ -1,0 +1,173 @@
+#include "entries/EntryReader.h"
+
+#include <gmock/gmock.h>
+
+#include "entries/CifBeginning.h"
+#include "suppliers/FieldTextSupplier.h"
+
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
+namespace {
+
+/// The fields that have a text, as "Label: text".
+std::vector<std::string> fields_of(const CifEntry& entry) {
+    std::vector<LMRFieldNames::TextID> ids;
+    LMRFieldNames::internal_fields(ids);
+    std::vector<std::string> fields;
+    for (const LMRFieldNames::TextID id : ids) {
+        const std::string text = FieldTextSupplier(id).text(entry.entry);
+        if (!text.empty()) fields.push_back(LMRFieldNames::text(id) + (": " + text));
+    }
+    return fields;
+}
+
+/// A problem as "line block item: what 'found' (expected)".
+std::vector<std::string> problems_of(const CifEntry& entry) {
+    std::vector<std::string> problems;
+    for (const Problem& p : entry.problems) {
+        problems.push_back(std::to_string(p.line) + ' ' + p.block.value_or("none") + ' ' + p.item +
+                           ": " + p.what + (p.found.empty() ? "" : " '" + p.found + "'") +
+                           (p.expected.empty() ? "" : " (" + p.expected + ")"));
+    }
+    return problems;
+}
+
+}  // namespace
+
+TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
+    const std::string cell =
+        "_cell_length_a 10.234(5)\n_cell_length_b 1.2e1(3)\n_cell_length_c 9\n"
+        "_cell_angle_alpha 90\n_cell_angle_beta 90\n_cell_angle_gamma ";
+    const struct {
+        std::string items;
+        std::vector<std::string> fields, problems;
+    } cases[] = {
+        {cell + "90\n_symmetry_space_group_name_H-M 'P 21/c'\n_cell_formula_units_Z 2\n",
+         {"Cell Lengths: a 10.234(5) b 12(3) c 9", "Cell Angles: a 90 b 90 g 90",
+          "Cell Volume: 1105.27", "Space Group: P2<sub>1</sub>/c",
+          "Reduced Cell Lengths: a 9 b 10.234 c 12", "Reduced Cell Angles: a 90 b 90 g 90",
+          "Reduced Cell Volume: 1105.27", "Sohncke Group: no", "Z, Z': Z: 2 Z': 0.5"},
+         {}},
+        {cell + "0\n",
+         {"Cell Lengths: a 10.234(5) b 12(3) c 9", "Cell Angles: a 90 b 90 g 0"},
+         {"2 x : no cell has these edges and angles"}},
+        {cell + "12(\n_cell_formula_units_Z 1e400\n_refine_ls_R_factor_gt -\n",
+         {},
+         {"7 x _cell_angle_gamma:  '12(' (a number)",
+          "8 x _cell_formula_units_z:  '1e400' (a number)",
+          "9 x _refine_ls_r_factor_gt:  '-' (a number)"}},
+        {"_symmetry_space_group_name_H-M 'P x'\n_symmetry_Int_Tables_number .\n",
+         {"Space Group: Px"},
+         {"2 x _symmetry_space_group_name_h-m: unknown space group 'P x'"}},
+        {"_symmetry_space_group_name_H-M 'P x'\n_symmetry_Int_Tables_number 19\n",
+         {"Space Group: P2<sub>1</sub>2<sub>1</sub>2<sub>1</sub>", "Sohncke Group: yes"},
+         {}},
+        {"_cell_formula_units_Z 0e-2147483648\n_space_group_IT_number 1e300\n"
+         "_space_group_name_Hall nonsense\nloop_\n_symmetry_equiv_pos_as_xyz\nx,y,z\n-x,-y,-z\n",
+         {"Space Group: P<bar>1</bar>", "Sohncke Group: no"},
+         {}},
+        {"_space_group_name_Hall '-P 2ybc'\n",
+         {"Space Group: P2<sub>1</sub>/c", "Sohncke Group: no"},
+         {}},
+        {"_audit_creation_date 2001-02-30\n",
+         {},
+         {"2 x _audit_creation_date:  '2001-02-30' (a date like 2004-07-09)"}},
+        {"_audit_creation_date 2001-02-03T10:11:12\n_audit_update_record\n;\n2002-03-04 one\n"
+         " 2003-04-05 two\n;\n_database_code_depnum_a 'A 12'\n_database_code_B ?\n"
+         "_database_code_C 7\n_journal_coeditor_code FG1750\n",
+         {"Accession Date: 2001-02-03", "Modification Date: 2003-04-05",
+          "Deposition Numbers: Supplementary A 12; Journal FG1750",
+          "Cross References: Same structure C 7"},
+         {}},
+        {"_cell_length_a 5\n_cell_length_c 6\n_symmetry_space_group_name_H-M 5\n"
+         "_refine_ls_R_factor_gt 1e308\n_CELL_length_a 6\n_other 1\n_other 2\n",
+         {"Space Group: 5"},
+         {"2 x : the cell has no _cell_length_b",
+          "4 x _symmetry_space_group_name_h-m: unknown space group '5'",
+          "5 x _refine_ls_r_factor_gt:  '1e308' (a number)",
+          "6 x _cell_length_a: given again; the first value counts"}},
+        {"_chemical_name_common '~a^b~c^'\n_chemical_name_systematic x\\d-ok\n",
+         {"Compound Name: x\\d-ok"},
+         {"2 x _chemical_name_common: creating an overlapping style error in '~a^b~c^'"}},
+        {"_chemical_name_systematic\n;\n poly-\n \\m~2~-oxo\n-iron \n\n;\n"
+         "_chemical_name_common ?\n_chemical_name_mineral\n;\n ? \n;\n",
+         {"Compound Name: poly-mu!2$-oxo-iron"},
+         {}},
+        {"_chemical_name_systematic\n;\\\nalpha-\\\n\\k~2~ b\\\nc\nd\n;\n"
+         "loop_\n_chemical_name_common\n'one' two .\nloop_\n_publ_author_name\n"
+         "'M\\\"uller, Yi-Zhi J.'\n'Van Poucke, L. C.'\n'\xC3\x96z, \xC3\x96.'\n",
+         {"Author(s): Y.-Z.J.Muller, L.C.Van Poucke, \xC3\x96.\xC3\x96z",
+          "Compound Name: alpha-kappa!2$ bc d", "Synonym: one; two"},
+         {}},
+    };
+    for (const auto& c : cases) {
+        const std::string cif =
+            "\xEF\xBB\xBF"
+            "data_x\n" +
+            c.items;
+        const EntryReader reader(cif);
+        ASSERT_EQ(reader.size(), 1U);
+        const CifEntry entry = reader[0];
+        std::vector<std::string> fields = fields_of(entry);
+        EXPECT_EQ(std::erase(fields, "Identifier: x"), 1U);
+        std::erase(fields, "Sohncke Group: unknown");
+        EXPECT_THAT(fields, testing::UnorderedElementsAreArray(c.fields)) << c.items;
+        EXPECT_THAT(problems_of(entry), ElementsAreArray(c.problems)) << c.items;
+    }
+}
+
+TEST(CifDocument, ValuesKeepWhereTheyStand) {
+    const std::string cif =
+        "# 1\ndata_a\n_Tag 'it''s' _b \"?\"\nloop_ _c _d\n1 ;x\n2\n;text\n;\n"
+        "save_f _e 5 save_ global_ _f .";
+    const CifDocument document(cif);
+    ASSERT_EQ(document.blocks(), 2U);
+    const CifBlock block = document.block(0);
+    const auto stands = [&](const char* tag, std::size_t row, const char* raw, CifQuoting quoting,
+                            const char* text, unsigned long line) {
+        const CifItem* const item = block.find(tag);
+        ASSERT_NE(item, nullptr) << tag;
+        const CifValue value = (*item)[row];
+        EXPECT_EQ(value.raw, raw);
+        EXPECT_EQ(value.raw.data(), cif.data() + cif.find(raw)) << raw;
+        EXPECT_EQ(value.quoting(), quoting) << raw;
+        EXPECT_EQ(value.text(), text);
+        EXPECT_EQ(document.line_of(item->origin()), line) << tag;
+    };
+    stands("_tag", 0, "'it''s'", CifQuoting::single_quotes, "it''s", 3);
+    stands("_b", 0, "\"?\"", CifQuoting::double_quotes, "", 3);
+    stands("_c", 1, "2", CifQuoting::bare, "2", 4);
+    stands("_d", 0, ";x", CifQuoting::bare, ";x", 4);
+    stands("_d", 1, ";text\n;", CifQuoting::text_field, "text", 4);
+    EXPECT_TRUE(block.find("_c")->in_loop() && !block.find("_b")->in_loop());
+    EXPECT_EQ(block.find("_e"), nullptr);
+    EXPECT_EQ(block.name(), "a");
+    EXPECT_EQ(document.block(1).name(), "");
+    EXPECT_THAT(document.block(1).find_all("_f"), testing::SizeIs(1));
+}
+
+TEST(CifDocument, SaysInWhichLineWhatIsNoCif) {
+    const std::pair<const char*, std::pair<unsigned long, const char*>> cases[] = {
+        {"data_x\n_chemical_name_common 'unclosed\n", {2, "unterminated 'string'"}},
+        {"data_x\n;\n", {2, "parse error"}},
+        {"data_x\nloop_\n_a _b\n1 2 3\n", {2, "Wrong number of values in the loop"}},
+        {"x", {1, "expected block header (data_)"}},
+        {" # only\n", {1, "expected a data block"}},
+    };
+    for (const auto& [cif, expected] : cases) {
+        try {
+            const CifDocument document(cif);
+            ADD_FAILURE() << cif;
+        } catch (const CifError& error) {
+            EXPECT_EQ(error.line(), expected.first) << cif;
+            EXPECT_STREQ(error.what(), expected.second) << cif;
+        }
+    }
+    CifBeginning beginning;
+    std::string bytes = "\xEF\xBB\xBF # data_\n";
+    EXPECT_TRUE(beginning.may_be_cif(bytes));
+    EXPECT_TRUE(beginning.may_be_cif(bytes += " Global"));
+    EXPECT_TRUE(beginning.may_be_cif(bytes += "_"));
+    EXPECT_FALSE(CifBeginning().may_be_cif("#\nloop_ _a 1"));
+}

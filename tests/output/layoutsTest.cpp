@@ -1,0 +1,119 @@
+#include "output/layouts.h"
+
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+
+#include "entries/EntryReader.h"
+#include "tasks/View.h"
+#include "tasks/row_named.h"
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+std::string shown(const std::string& cif, const char* output, const std::string& labels,
+                  const std::string& term = "", bool own_file = false) {
+    const EntryReader reader(cif);
+    const EntryFields fields(reader[0], fields_named(labels), term);
+    EXPECT_TRUE(fields.problems.empty());
+    const auto layout = make_entry_layout(*row_named(show_outputs(), output), own_file);
+    const std::string head = layout->head("Entries");
+    return head + layout->entry("f", "b", fields.fields) + layout->foot();
+}
+
+struct Compared {
+    std::string text;
+    bool same;
+};
+
+Compared compared(const std::string& left, const std::string& right, const char* target,
+                  const std::string& labels, const char* tolerance = "0") {
+    const EntryReader left_reader(left), right_reader(right);
+    SearchSettings settings;
+    settings.tolerance = tolerance;
+    const EntryComparison comparison(left_reader[0], right_reader[0], fields_named(labels),
+                                     settings);
+    EXPECT_TRUE(comparison.problems.empty());
+    const auto layout = make_comparison_layout(*row_named(rich_text_targets(), target));
+    return {layout->head("Both") +
+                layout->comparison({"l\u202E", "a"}, {"r", "b"}, comparison.fields) +
+                layout->foot(),
+            comparison.same};
+}
+
+const std::string cif =
+    "data_a\n_chemical_name_common acetone\n_diffrn_ambient_temperature 293(2)\n"
+    "_exptl_crystal_colour red\n_symmetry_space_group_name_H-M 'P -1'\n_refine_ls_R_factor_gt .03";
+
+}  // namespace
+
+TEST(EntryLayout, SetsTitlesAndRowsAsTheTargetWantsThem) {
+    const std::string labels = "Space Group,R-Factor (%)";
+    EXPECT_EQ(shown(cif, "tevo", labels), "f: data_b\n    Space Group: P1\n    R-Factor (%): 3\n");
+    EXPECT_EQ(shown(cif, "markdown", labels),
+              "## f: data\\_b\n\n- Space Group: P<span style=\"text-decoration:overline\">1</span>"
+              "\n- R-Factor (%): 3\n\n");
+    EXPECT_EQ(shown(cif, "latex", labels),
+              "\\section*{f: data\\_b}\n\\begin{description}\n"
+              "\\item[{Space Group}] P$\\overline{\\mbox{1}}$\n"
+              "\\item[{R-Factor (\\%)}] 3\n\\end{description}\n");
+    EXPECT_EQ(shown(cif, "html5", "Synonym,Color", "aceton"),
+              "f: data_b\n    Synonym: <b><span style=\"color:blue\">aceton</span></b>e\n"
+              "    Color: red\n");
+    const std::string page = shown(cif, "html5", "Color,Synonym", "", true);
+    EXPECT_THAT(page, StartsWith("<!DOCTYPE html>\n"));
+    EXPECT_THAT(page, HasSubstr("<title>Entries</title>"));
+    EXPECT_THAT(page, EndsWith("<section>\n<h2><bdi>b</bdi> <small><bdi>f</bdi></small></h2>\n"
+                               "<h3>Crystal</h3>\n<dl><dt>Color</dt>\n<dd>red</dd></dl>\n"
+                               "<h3>Chemical</h3>\n<dl><dt>Synonym</dt>\n<dd>acetone</dd></dl>\n"
+                               "</section>\n</body>\n</html>\n"));
+}
+
+TEST(JsonLayout, HoldsRunsAndNothingThatActs) {
+    const std::string json_text = shown(
+        "data_a\n_symmetry_space_group_name_H-M 'P -1'\n_exptl_crystal_colour \"\xE9\"\n"
+        "_exptl_crystal_description '\u202E\x7F\u009B</script><!--\u2028'\n",
+        "json", "Space Group,Color,Habit");
+    const auto json = nlohmann::json::parse(json_text);
+    const auto& fields = json.at(0).at("fields");
+    EXPECT_EQ(json.at(0).at("block"), "b");
+    EXPECT_EQ(fields.at(0).at("label"), "Space Group");
+    EXPECT_EQ(fields.at(0).at("group"), "Cell");
+    EXPECT_EQ(fields.at(0).at("text"), "P<bar>1</bar>");
+    std::string visible;
+    for (const auto& atom : fields.at(0).at("atoms")) {
+        if (!atom.value("invisible", false)) visible += atom.at("text").get<std::string>();
+    }
+    EXPECT_EQ(visible, "P1");
+    EXPECT_EQ(fields.at(1).at("text"), "\uFFFD");
+    EXPECT_EQ(fields.at(2).at("text"), "\u202E\x7F\u009B</script><!--\u2028");
+    EXPECT_THAT(json_text, HasSubstr("\"\\u202E\\u007F\\u009B<\\/script>\\u003C!--\\u2028\""));
+}
+
+TEST(ComparisonLayout, ShowsBothSides) {
+    const std::string other =
+        "data_a\n_chemical_name_common acetonitrile\n_diffrn_ambient_temperature 293.2(2)\n";
+    const std::string labels = "Synonym,Temperature (K),Color,Habit";
+    const Compared lines = compared(cif, other, "qt", labels, "0.5");
+    EXPECT_FALSE(lines.same);
+    EXPECT_THAT(lines.text, EndsWith("and r: data_a and data_b\n"
+                                     "< Synonym: <b><font color=blue>aceton</font></b>e\n"
+                                     "> Synonym: <b><font color=blue>aceton</font></b>itrile\n"
+                                     "= Temperature (K): <b><font color=green4>293</font></b>(<b>"
+                                     "<font color=green4>2</font></b>)\n"
+                                     "= Temperature (K): <b><font color=green4>293.2</font></b>(<b>"
+                                     "<font color=green4>2</font></b>)\n"
+                                     "< Color: red\n> Color: \n"));
+    EXPECT_TRUE(compared(cif, other, "qt", "Temperature (K)", "0.5").same);
+    EXPECT_FALSE(compared(cif, other, "qt", "Temperature (K)").same);
+    EXPECT_EQ(compared(cif, cif, "unicode", "Color").text,
+              "l<U+202E> and r: data_a and data_b\n= Color: red\n");
+    const std::string page = compared(cif, other, "html5", labels).text;
+    EXPECT_THAT(page, HasSubstr("<h2><bdi>data_a</bdi> and <bdi>data_b</bdi> "
+                                "<small><bdi>l&lt;U+202E&gt;</bdi> and <bdi>r</bdi></small></h2>"));
+    EXPECT_THAT(page, EndsWith("<div class=\"pair different\"><p>Color</p><p>red</p><p></p></div>\n"
+                               "</section>\n</body>\n</html>\n"));
+}
