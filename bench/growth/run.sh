@@ -3,7 +3,7 @@
 # more than 2.5 times as many.
 set -euo pipefail
 
-suite=$1
+suite=$(realpath "$1")
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 

@@ -8,7 +8,7 @@
 #include <iterator>
 #include <string>
 
-#include "tests/robustness/colliding_names.h"
+#include "fuzz/colliding_names.h"
 
 namespace {
 
