@@ -96,56 +96,6 @@ TEST_F(Program, WritesForTheTerminalThatItHas) {
     EXPECT_EQ(shown("", "convert --from plain --to html5"), "a&amp;b\r\n");
 }
 
-TEST_F(Program, RealNamesComeBackUnchanged) {
-    std::istringstream rows(contents(DATA_FOLDER "/names.tsv"));
-    std::string cif, source, tevo, all_cif, all_tevo;
-    while (std::getline(std::getline(std::getline(rows, cif, '\t'), source, '\t'), tevo)) {
-        all_cif += cif + "\n";
-        all_tevo += tevo + "\n";
-    }
-    EXPECT_EQ(run("convert --from cif-name --to cif", all_cif).out, all_cif);
-    EXPECT_EQ(run("convert --from tevo-name --to tevo", all_tevo).out, all_tevo);
-}
-
-TEST_F(Program, ATextThatFailsHoldsItsPlaceAndTheRestGoesOn) {
-    file("names", "C~2~\n~a^b~c^\n\xFF\xFE~3~");
-    const Result done = run("convert --from cif-name --to tevo none names .");
-    EXPECT_EQ(done.out, "C!2$\n\n\xFF\xFE!3$\n");
-    EXPECT_EQ(done.err,
-              "lmrtext: none: No such file or directory\n"
-              "names:2: creating an overlapping style error\n"
-              "lmrtext: .: Is a directory\n");
-    EXPECT_EQ(done.status, 1);
-
-    const Result unknown = run("convert --from cif-name --to cif", "a\\dx\n");
-    EXPECT_EQ(unknown.out, "ax\n");
-    EXPECT_EQ(unknown.err, "<stdin>:1: warning: Greek code without a letter\n");
-    EXPECT_EQ(unknown.status, 0);
-}
-
-TEST_F(Program, AFileThatFailsWhileItIsReadLosesNothingElse) {
-    const std::string first(1 << 20, 'x');
-    file("last", "a\n");
-    for (const char* jobs : {"1", "2"}) {
-        file("shrinks", first + std::string(1 << 22, '\n'));
-        file("goes", "x\n");
-        // When the first byte is out, the program waits until the pipe takes more.
-        const Result done =
-            run(std::string("--version >/dev/null; mkfifo pipe; '" PROGRAM "' convert --from plain "
-                            "--to tevo shrinks goes . last >pipe -j ") +
-                jobs +
-                " & { dd bs=1 count=1 2>/dev/null; rm goes; : >shrinks; cat; } <pipe; rm pipe; "
-                "wait $!");
-        EXPECT_TRUE(done.out.starts_with(first + "\n"));
-        EXPECT_TRUE(done.out.ends_with("\n\na\n"));
-        EXPECT_EQ(done.err,
-                  "lmrtext: shrinks: truncated while it was read\n"
-                  "lmrtext: goes: No such file or directory\n"
-                  "lmrtext: .: Is a directory\n");
-        EXPECT_EQ(done.status, 1);
-    }
-}
-
 TEST_F(Program, ClosedStreamsAndFullDevicesAreNoOthersFiles) {
     file("bad.cif", "data_x\n_cell_length_a 'q\n");
     run("show -o page.html " + data + "/1008935.cif bad.cif 2>&-");
@@ -157,19 +107,37 @@ TEST_F(Program, ClosedStreamsAndFullDevicesAreNoOthersFiles) {
     }
 }
 
-TEST_F(Program, WrongUsageIsNamed) {
+TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
     const std::pair<const char*, const char*> cases[] = {
-        {"serach --term x", "no such command: 'serach'"},
+        {"", ""},
+        {"nonsense --term x", "no such command: 'nonsense'"},
+        {"convert", ""},
+        {"convert --from plain", "convert needs --to"},
+        {"convert --from x --to html", "no such kind: 'x'; expected one of tevo-name cif-"},
+        {"convert --from plain --to qt --line-length -1", "--line-length: "},
+        {"convert --from plain --to qt --line-length 4294967295", "--line-length: "},
+        {"convert --from plain --to qt -j 0", "--jobs: "},
+        {"show", ""},
+        {"show --fields Nope x", "no such field: 'Nope'"},
+        {"show -o '' x.cif", "--output: expected the name of a file"},
+        {"compare a.cif", ""},
+        {"fields --view all", "no such kind: 'all'; expected one of default"},
+        {"search --how exact", ""},
+        {"search --how x --term a", "no such kind: 'x'; expected one of exact"},
         {"search --how publication --term gluco",
          "'gluco' is not a term for the search publication"},
         {"search --how numeric --term gluco", "'gluco' is not a term for the search numeric"},
+        {"search --how numeric --term 1 --tolerance x", "--tolerance: 'x' is not a tolerance"},
+        {"search --how numeric --term 1 --tolerance -1", "--tolerance: "},
+        {"search --how numeric --term 1 --tolerance 1e999", "--tolerance: "},
         {"search --how substring --term x --min-length 0", "--min-length: "},
-        {"show -o '' x.cif", "--output: expected the name of a file"},
     };
     for (const auto& [arguments, message] : cases) {
         const Result done = run(arguments, "a\n");
-        EXPECT_THAT(done.err, StartsWith(std::string("lmrtext: ") + message)) << arguments;
         EXPECT_EQ(done.status, 2) << arguments;
+        EXPECT_THAT(done.err, StartsWith(std::string("lmrtext: ") + message)) << arguments;
+        EXPECT_THAT(done.err, MatchesRegex("lmrtext: [^\n]+\n")) << arguments;
+        EXPECT_EQ(done.out, "");
     }
 }
 
@@ -186,57 +154,6 @@ TEST_F(Program, WhatIsReadIsNotOverwritten) {
         EXPECT_EQ(shown.status, 1);
         EXPECT_EQ(contents(folder_ / "same"), "a\nb\n");
     }
-}
-
-TEST_F(Program, SearchSaysTroubleAndGoesOn) {
-    const Result done = run("search --how publication --term '<j>x' none -", "</j><j>\n<v>\n");
-    EXPECT_EQ(done.out, "\n&lt;v&gt;\n");
-    EXPECT_EQ(done.err,
-              "lmrtext: none: No such file or directory\n"
-              "<stdin>:1: length of StringSlice error\n");
-    EXPECT_EQ(done.status, 2);
-    EXPECT_EQ(run("search --how exact --term a >/dev/full", "a\n").status, 2);
-}
-
-TEST_F(Program, LongLinesPass) {
-    std::string line = "tetrakis(mu!3$-hydroxo)-bis(eta$5!-cyclopentadienyl)-zirconium ";
-    while (line.size() < 10000000) line += line;
-    EXPECT_EQ(run("convert --from tevo-name --to tevo", line).out, line + "\n");
-}
-
-TEST_F(Program, JobsKeepTheOrderOfTextsAndReports) {
-    std::string names;
-    for (int i = 0; i < 400000; ++i) {
-        names += "C~" + std::to_string(i) + (i % 100000 == 7 ? "^b~c^\n" : "~\n");
-    }
-    const Result one = run("convert --from cif-name --to html5", names);
-    const Result more = run("convert --from cif-name --to html5 -j 3", names);
-    EXPECT_EQ(one.status, 1);
-    EXPECT_THAT(one.err, HasSubstr("<stdin>:300008: creating an overlapping style error\n"));
-    EXPECT_TRUE(more.out == one.out);
-    EXPECT_EQ(more.err, one.err);
-    EXPECT_EQ(more.status, 1);
-    EXPECT_EQ(run("search --how exact --term C~9~ --to slices --matching -j 2", names).out,
-              "true\t0-4\n");
-}
-
-TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
-    for (const char* arguments :
-         {"", "convert", "convert --from plain", "convert --from x --to html",
-          "convert --from plain --to qt --line-length -1",
-          "convert --from plain --to qt --line-length 4294967295", "show", "show --fields Nope x",
-          "convert --from plain --to qt -j 0", "compare a.cif", "fields --view all", "nonsense",
-          "search --how exact", "search --how x --term a",
-          "search --how numeric --term 1 --tolerance x",
-          "search --how numeric --term 1 --tolerance -1",
-          "search --how numeric --term 1 --tolerance 1e999",
-          "search --how substring --term a --min-length -1"}) {
-        const Result done = run(arguments);
-        EXPECT_EQ(done.status, 2) << arguments;
-        EXPECT_THAT(done.err, MatchesRegex("lmrtext: [^\n]+\n")) << arguments;
-        EXPECT_EQ(done.out, "");
-    }
-    EXPECT_THAT(run("convert --from x --to html").err, HasSubstr("tevo-name cif-name"));
 }
 
 TEST_F(Program, OutputThatCannotBeWrittenIsReported) {
