@@ -9,41 +9,37 @@
 
 namespace {
 
-constexpr char escape = '\x1b';
+using Tag = TwoPassRichTextGenerator::Tag;
+using Kind = TextItemStyle::Kind;
 
 /// Writes text with the styles in force, each selected only where the text needs it.
 class Terminal {
 public:
-    Terminal(std::string& result, const RichTextTagFactory& factory)
-        : result_(result),
-          styles_{{{factory.start_bold(), factory.end_bold(), {}, {}},
-                   {factory.start_italic(), factory.end_italic(), {}, {}},
-                   {factory.start_overstrike(), factory.end_overstrike(), {}, {}},
-                   {any_color, factory.end_color(), {}, {}}}} {}
+    explicit Terminal(std::string& result) : result_(result) {}
 
     /// Takes a tag, which must live as long as this.
-    void select(std::string_view tag) {
-        for (Style& style : styles_) {
-            if (tag == style.end) {
-                if (!style.open.empty()) style.open.pop_back();
-                return;
-            }
-            if (tag == style.start || style.start == any_color) {
-                style.open.push_back(tag);
-                return;
-            }
+    void select(const Tag& tag) {
+        Style& style =
+            *std::find_if(styles_.begin(), styles_.end() - 1,
+                          [&](const Style& candidate) { return candidate.kind == tag.kind; });
+        if (tag.opens) {
+            style.open.push_back(tag.text);
+        } else {
+            style.open.pop_back();
+            style.end = tag.text;
         }
     }
 
-    /// Writes text without line ends.
+    /// Writes text with the styles, which hold for one line after the other.
     void write(std::string_view text) {
-        for (Style& style : styles_) {
-            const std::string_view wanted = style.open.empty() ? "" : style.open.back();
-            if (wanted == style.shown) continue;
-            result_ += wanted.empty() ? style.end : wanted;
-            style.shown = wanted;
+        while (!text.empty()) {
+            const std::size_t end = std::min(text.find('\n'), text.size());
+            if (end > 0) write_in_line(text.substr(0, end));
+            if (end == text.size()) return;
+            reset();
+            result_ += '\n';
+            text.remove_prefix(end + 1);
         }
-        result_ += text;
     }
 
     void reset() {
@@ -54,16 +50,29 @@ public:
     }
 
 private:
-    static constexpr char any_color[] = "";
-
     struct Style {
-        std::string start, end;
-        std::vector<std::string_view> open;  // by their start tags, the innermost last
-        std::string_view shown;              // what the terminal shows, empty: nothing special
+        Kind kind;
+        std::vector<std::string_view> open{};  // by their start tags, the innermost last
+        std::string_view end{};                // the tag of the one that closed last
+        std::string_view shown{};              // what the terminal shows, empty: nothing special
     };
 
+    void write_in_line(std::string_view text) {
+        for (Style& style : styles_) {
+            const std::string_view wanted = style.open.empty() ? "" : style.open.back();
+            if (wanted == style.shown) continue;
+            result_ += wanted.empty() ? style.end : wanted;
+            style.shown = wanted;
+        }
+        result_ += text;
+    }
+
     std::string& result_;
-    std::array<Style, 4> styles_;
+    std::array<Style, 5> styles_{{{Kind::bold},
+                                  {Kind::italic},
+                                  {Kind::overstrike},
+                                  {Kind::color},
+                                  {Kind::other}}};  // the last takes what is left
 };
 
 }  // namespace
@@ -78,34 +87,22 @@ void AnsiRichTextGenerator::write_text(std::string& result, std::string_view tex
                 [&](std::string_view rest) { return append_shown(result, rest); });
 }
 
-void AnsiRichTextGenerator::append_invisible_tag(std::string& result,
-                                                 const std::string& tag) const {
-    result += tag;
-}
-
-// The tags are all that begins with an escape character, and end with the letter m.
 std::string AnsiRichTextGenerator::compose(std::string_view text,
                                            const std::vector<Tag>& tags) const {
-    std::string tagged = UnicodeRichTextGenerator::compose(text, tags);
-    if (tagged.find(escape) == std::string::npos) return tagged;
+    std::vector<Tag> selections;
+    std::string plain = compose_text(text, tags, selections);
+    if (selections.empty()) return plain;
     std::string result;
-    result.reserve(tagged.size());
-    Terminal terminal(result, tag_factory());
-    std::string_view rest = tagged;
-    while (!rest.empty()) {
-        std::size_t end = 1;
-        if (rest.front() == escape) {
-            end = std::min(rest.find('m'), rest.size() - 1) + 1;
-            terminal.select(rest.substr(0, end));
-        } else if (rest.front() == '\n') {
-            terminal.reset();
-            result += '\n';
-        } else {
-            end = std::min(rest.find_first_of("\x1b\n"), rest.size());
-            terminal.write(rest.substr(0, end));
-        }
-        rest.remove_prefix(end);
+    result.reserve(plain.size() + 8 * selections.size());
+    Terminal terminal(result);
+    const std::string_view characters = plain;
+    std::size_t written = 0;
+    for (const Tag& selection : selections) {
+        terminal.write(characters.substr(written, selection.position - written));
+        written = selection.position;
+        terminal.select(selection);
     }
+    terminal.write(characters.substr(written));
     terminal.reset();
     return result;
 }

@@ -15,5 +15,4 @@ public:
 protected:
     void write_text(std::string& result, std::string_view text) const override;
     std::string compose(std::string_view text, const std::vector<Tag>& tags) const override;
-    void append_invisible_tag(std::string& result, const std::string& tag) const override;
 };

@@ -8,10 +8,7 @@
 
 namespace {
 
-constexpr std::string_view star = "*";
-constexpr std::string_view two_stars = "**";
-
-bool is_stars(std::string_view tag) { return tag == star || tag == two_stars; }
+using Kind = TextItemStyle::Kind;
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
@@ -140,10 +137,10 @@ void MarkdownRichTextGenerator::write_text(std::string& result, std::string_view
 }
 
 // Only stars depend on what stands beside them.
-void MarkdownRichTextGenerator::write_tag(std::string& result, const std::string& tag,
+void MarkdownRichTextGenerator::write_tag(std::string& result, const std::string& tag, Kind kind,
                                           bool opens) const {
-    if (is_stars(tag)) {
-        TwoPassRichTextGenerator::write_tag(result, tag, opens);
+    if (kind == Kind::bold || kind == Kind::italic) {
+        TwoPassRichTextGenerator::write_tag(result, tag, kind, opens);
     } else {
         result += tag;
     }
@@ -169,7 +166,7 @@ std::string MarkdownRichTextGenerator::compose(std::string_view text,
         const Tag& tag = tags[i];
         result += text.substr(written, tag.position - written);
         written = tag.position;
-        const bool is_bold = tag.text == two_stars;
+        const bool is_bold = tag.kind == Kind::bold;
         unsigned int& depth = is_bold ? bold : italic;
         if (!tag.opens) --depth;
         const bool outermost = depth == 0;

@@ -16,6 +16,7 @@ public:
 
 protected:
     void write_text(std::string& result, std::string_view text) const override;
-    void write_tag(std::string& result, const std::string& tag, bool opens) const override;
+    void write_tag(std::string& result, const std::string& tag, TextItemStyle::Kind kind,
+                   bool opens) const override;
     std::string compose(std::string_view text, const std::vector<Tag>& tags) const override;
 };

@@ -16,6 +16,7 @@ class StylePiece : public TextItemStyle {
 public:
     explicit StylePiece(THandle<TextItemStyle> whole) : whole_(std::move(whole)) {}
 
+    Kind kind() const override { return whole_->kind(); }
     std::string start_tag(const RichTextTagFactory& factory) const override {
         return whole_->start_tag(factory);
     }

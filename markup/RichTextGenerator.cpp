@@ -73,63 +73,36 @@ std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
     current_invisible_ = {};
     current_greek_ = {};
     current_replacement_text_ = {};
+    note_all_starts(data);
+
+    const std::string_view text = data.characters();
+    const unsigned int n = length_of(text);
+    std::string result;
+    result.reserve(n + 16 * data.styles().size());
+    Progress progress{data, result, starts_.cbegin()};
+    // Each turn stands where something begins or ends and goes on to the next such position.
+    for (unsigned int i = 0;;) {
+        append_closing_tags(result, i);
+        append_opening_tags(i, progress);
+        if (i == n) return result;
+        const unsigned int plain_from = write_cover(i, progress);
+        i = std::min(
+            {n, position_of(*progress.start), pending_.empty() ? n : due_at(pending_.front())});
+        if (plain_from < i) {
+            add_text_block(result, text.substr(plain_from, i - plain_from), progress.column,
+                           data.line_length());
+        }
+    }
+}
+
+void RichTextGenerator::note_all_starts(const RichTextData& data) const {
     starts_.clear();
     note_starts(data.styles(), tag_list);
     note_starts(data.invisible(), invisible_list);
     note_starts(data.replacement_text(), replacement_list);
     note_starts(data.greek(), greek_list);
     sort_runs(starts_);
-    starts_.push_back(start_key(no_position, tag_list, 0));  // behind every position
-
-    const std::string_view text = data.characters();
-    const unsigned int n = length_of(text);
-    std::string result;
-    result.reserve(n + 16 * data.styles().size());
-    unsigned int column = 0;
-    unsigned int covered_until = 0;
-    auto start = starts_.cbegin();
-    // Each turn stands where something begins or ends and goes on to the next such position.
-    for (unsigned int i = 0;;) {
-        append_closing_tags(result, i);
-        if (*start < start_key(i, tag_list + 1, 0)) {
-            beginning_.clear();
-            for (; *start < start_key(i, tag_list + 1, 0); ++start) {
-                const TextItemStyle& style = *data.styles()[index_of(*start)];
-                if (!style.slice().empty()) beginning_.push_back(&style);
-            }
-            open(result);
-        }
-        if (i == n) return result;
-        unsigned int plain_from = i;
-        if (*start < start_key(i, lists, 0)) {
-            plain_from = i + 1;  // what covers swallows at least one character
-            const unsigned int index = index_of(*start);
-            switch (list_of(*start)) {
-                case invisible_list:
-                    covered_until = data.invisible()[index]->to();
-                    break;
-                case replacement_list: {
-                    const ReplacementTextStyle& style = *data.replacement_text()[index];
-                    covered_until = style.to();
-                    add_text_block(result, style.replacement_text(), column, data.line_length());
-                    break;
-                }
-                default: {
-                    const GreekStyle& style = *data.greek()[index];
-                    covered_until = style.to();
-                    add_letter(result, greek_converter_->convert(style.symbol()), column,
-                               data.line_length());
-                }
-            }
-            while (*start < start_key(i, lists, 0)) ++start;
-        }
-        i = std::min({n, position_of(*start), pending_.empty() ? n : due_at(pending_.front())});
-        plain_from = std::max(plain_from, covered_until);
-        if (plain_from < i) {
-            add_text_block(result, text.substr(plain_from, i - plain_from), column,
-                           data.line_length());
-        }
-    }
+    starts_.push_back(start_key(no_position, tag_list, 0));
 }
 
 template <class Style>
@@ -156,7 +129,7 @@ void RichTextGenerator::add_letter(std::string& result, const std::string& lette
 }
 
 void RichTextGenerator::write_tag(std::string& result, const std::string& tag,
-                                  bool /*opens*/) const {
+                                  TextItemStyle::Kind /*kind*/, bool /*opens*/) const {
     result += tag;
 }
 
@@ -182,7 +155,8 @@ std::string RichTextGenerator::opening_tags(unsigned int position, Styles styles
 
 void RichTextGenerator::append_closing_tags(std::string& result, unsigned int position) const {
     const auto write = [&](std::uint64_t pending) {
-        write_tag(result, end_tags_[no_position - static_cast<unsigned int>(pending)], false);
+        const EndTag& tag = end_tags_[no_position - static_cast<unsigned int>(pending)];
+        write_tag(result, tag.text, tag.kind, false);
     };
     if (!pending_.empty() && due_at(pending_.front()) < position) {
         // Tags that a caller has passed over stay pending, but not in the way of those due here.
@@ -202,6 +176,44 @@ void RichTextGenerator::append_closing_tags(std::string& result, unsigned int po
     if (pending_.empty()) end_tags_.clear();
 }
 
+void RichTextGenerator::append_opening_tags(unsigned int position, Progress& progress) const {
+    const std::uint64_t behind = start_key(position, tag_list + 1, 0);
+    if (*progress.start >= behind) return;
+    beginning_.clear();
+    for (; *progress.start < behind; ++progress.start) {
+        const TextItemStyle& style = *progress.data.styles()[index_of(*progress.start)];
+        if (!style.slice().empty()) beginning_.push_back(&style);
+    }
+    open(progress.result);
+}
+
+unsigned int RichTextGenerator::write_cover(unsigned int position, Progress& progress) const {
+    const std::uint64_t behind = start_key(position, lists, 0);
+    if (*progress.start >= behind) return std::max(position, progress.covered_until);
+    const RichTextData& data = progress.data;
+    const unsigned int index = index_of(*progress.start);
+    switch (list_of(*progress.start)) {
+        case invisible_list:
+            progress.covered_until = data.invisible()[index]->to();
+            break;
+        case replacement_list: {
+            const ReplacementTextStyle& style = *data.replacement_text()[index];
+            progress.covered_until = style.to();
+            add_text_block(progress.result, style.replacement_text(), progress.column,
+                           data.line_length());
+            break;
+        }
+        default: {
+            const GreekStyle& style = *data.greek()[index];
+            progress.covered_until = style.to();
+            add_letter(progress.result, greek_converter_->convert(style.symbol()), progress.column,
+                       data.line_length());
+        }
+    }
+    while (*progress.start < behind) ++progress.start;
+    return std::max(position + 1, progress.covered_until);  // it swallows at least one character
+}
+
 void RichTextGenerator::open(std::string& result) const {
     if (beginning_.size() > 1) {
         std::stable_sort(
@@ -212,10 +224,11 @@ void RichTextGenerator::open(std::string& result) const {
         const std::string start_tag = style->start_tag(*tag_factory_);
         std::string end_tag = style->end_tag(*tag_factory_);
         if (start_tag.empty() && end_tag.empty()) continue;
-        write_tag(result, start_tag, true);
+        const TextItemStyle::Kind kind = style->kind();
+        write_tag(result, start_tag, kind, true);
         pending_.push_back(std::uint64_t{style->to()} << 32 |
                            (no_position - to_position(end_tags_.size())));
-        end_tags_.push_back(std::move(end_tag));
+        end_tags_.push_back({std::move(end_tag), kind});
         std::push_heap(pending_.begin(), pending_.end(), std::greater());
     }
 }

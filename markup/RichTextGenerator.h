@@ -8,6 +8,7 @@
 
 #include "host/THandle.h"
 #include "markup/RichTextData.h"
+#include "text/TextItemStyle.h"
 
 class RichTextTagFactory;
 class TextItemToOtherGreek;
@@ -56,9 +57,10 @@ protected:
     virtual void add_letter(std::string& result, const std::string& letter, unsigned int& column,
                             unsigned int line_length) const;
 
-    /// Writes the tag that opens or closes a style. Called in pairs; a style without any tag is
-    /// left out.
-    virtual void write_tag(std::string& result, const std::string& tag, bool opens) const;
+    /// Writes the tag that opens or closes a style of that kind. Called in pairs; a style without
+    /// any tag is left out.
+    virtual void write_tag(std::string& result, const std::string& tag, TextItemStyle::Kind kind,
+                           bool opens) const;
 
     /// The factory, which lives as long as this; raises the null-handle error without one.
     const RichTextTagFactory& tag_factory() const { return *tag_factory_; }
@@ -93,10 +95,29 @@ protected:
                         unsigned int line_length) const;
 
 private:
+    struct EndTag {
+        std::string text;
+        TextItemStyle::Kind kind;
+    };
+    /// One text, and what of it is written.
+    struct Progress {
+        const RichTextData& data;
+        std::string& result;
+        std::vector<std::uint64_t>::const_iterator start;  // of the next style that begins
+        unsigned int column = 0;
+        unsigned int covered_until = 0;
+    };
+
+    /// Fills starts_, with an end behind every position.
+    void note_all_starts(const RichTextData& data) const;
     template <class Style>
     void note_starts(const std::vector<THandle<Style>>& styles, unsigned int list) const;
     /// What closing_tags() returns, at the end of `result`.
     void append_closing_tags(std::string& result, unsigned int position) const;
+    void append_opening_tags(unsigned int position, Progress& progress) const;
+    /// Writes what a style shows in place of the characters from `position` on; returns the first
+    /// position whose character is to be written as it is.
+    unsigned int write_cover(unsigned int position, Progress& progress) const;
     /// Writes the opening tags of beginning_, which begin at one position and are not empty, and
     /// remembers the closing ones.
     void open(std::string& result) const;
@@ -107,7 +128,7 @@ private:
     // The closing tags in the order of opening, and a heap of those that are pending: the position
     // where each is due before the complement of its index, so that of those due at one position
     // the last opened comes first.
-    mutable std::vector<std::string> end_tags_;
+    mutable std::vector<EndTag> end_tags_;
     mutable std::vector<std::uint64_t> pending_;
     mutable THandle<TextItemStyle> current_invisible_;
     mutable THandle<GreekStyle> current_greek_;

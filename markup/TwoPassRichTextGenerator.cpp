@@ -10,7 +10,7 @@ std::string TwoPassRichTextGenerator::mark_up_text(const RichTextData& data) con
 }
 
 void TwoPassRichTextGenerator::write_tag(std::string& result, const std::string& tag,
-                                         bool opens) const {
+                                         TextItemStyle::Kind kind, bool opens) const {
     const std::size_t index = tags_.size();
     std::size_t partner = index;
     if (opens) {
@@ -20,5 +20,5 @@ void TwoPassRichTextGenerator::write_tag(std::string& result, const std::string&
         open_.pop_back();
         tags_[partner].partner = index;
     }
-    tags_.push_back({result.size(), tag, opens, partner});
+    tags_.push_back({result.size(), tag, kind, opens, partner});
 }

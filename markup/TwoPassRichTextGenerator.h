@@ -12,8 +12,9 @@ public:
     struct Tag {
         std::size_t position;  ///< In bytes of the text of the first pass, where the tag belongs.
         std::string text;      ///< The factory's; the text of the first pass does not hold it.
-        bool opens;            ///< Whether it opens its style, and does not close it.
-        std::size_t partner;   ///< The index of the tag that closes or opens the same style.
+        TextItemStyle::Kind kind;  ///< Of its style.
+        bool opens;                ///< Whether it opens its style, and does not close it.
+        std::size_t partner;       ///< The index of the tag that closes or opens the same style.
     };
 
     using NestingRichTextGenerator::NestingRichTextGenerator;
@@ -28,7 +29,8 @@ protected:
     virtual std::string compose(std::string_view text, const std::vector<Tag>& tags) const = 0;
 
     /// Notes the tag.
-    void write_tag(std::string& result, const std::string& tag, bool opens) const override;
+    void write_tag(std::string& result, const std::string& tag, TextItemStyle::Kind kind,
+                   bool opens) const override;
 
 private:
     // Scratch of one call.

@@ -50,20 +50,11 @@ static_assert(is_ascending());
 
 using Script = char32_t ScriptForms::*;
 
-/// The tags that do more than to be written.
-struct Vocabulary {
-    explicit Vocabulary(const RichTextTagFactory& factory)
-        : superscript(factory.start_superscript()),
-          subscript(factory.start_subscript()),
-          bar(factory.start_overstrike()) {}
-
-    Script script_of(std::string_view start_tag) const {
-        if (start_tag == superscript) return &ScriptForms::superscript;
-        return start_tag == subscript ? &ScriptForms::subscript : nullptr;
-    }
-
-    std::string superscript, subscript, bar;
-};
+/// Null for what is not a script.
+Script script_of(TextItemStyle::Kind kind) {
+    if (kind == TextItemStyle::Kind::superscript) return &ScriptForms::superscript;
+    return kind == TextItemStyle::Kind::subscript ? &ScriptForms::subscript : nullptr;
+}
 
 /// The form of the character at the front of `text`, or 0.
 char32_t script_form(std::string_view text, Script script) {
@@ -85,13 +76,12 @@ bool has_script_forms(std::string_view text, Script script) {
 /// For the two tags of each script that is written in characters of its own: which. Null for
 /// others.
 std::vector<Script> scripts_with_forms(std::string_view text,
-                                       const std::vector<TwoPassRichTextGenerator::Tag>& tags,
-                                       const Vocabulary& vocabulary) {
+                                       const std::vector<TwoPassRichTextGenerator::Tag>& tags) {
     std::vector<Script> scripts(tags.size(), nullptr);
     std::size_t innermost = tags.size();  // the script that stands open with none inside so far
     for (std::size_t i = 0; i < tags.size(); ++i) {
         const std::size_t start = tags[i].opens ? i : tags[i].partner;
-        const Script script = vocabulary.script_of(tags[start].text);
+        const Script script = script_of(tags[i].kind);
         if (!script) continue;
         const std::size_t from = tags[start].position;
         if (i != start && innermost == start &&
@@ -160,13 +150,16 @@ void UnicodeRichTextGenerator::write_text(std::string& result, std::string_view 
     });
 }
 
-void UnicodeRichTextGenerator::append_invisible_tag(std::string& /*result*/,
-                                                    const std::string& /*tag*/) const {}
-
 std::string UnicodeRichTextGenerator::compose(std::string_view text,
                                               const std::vector<Tag>& tags) const {
-    const Vocabulary vocabulary(tag_factory());
-    const std::vector<Script> scripts = scripts_with_forms(text, tags, vocabulary);
+    std::vector<Tag> left_out;
+    return compose_text(text, tags, left_out);
+}
+
+std::string UnicodeRichTextGenerator::compose_text(std::string_view text,
+                                                   const std::vector<Tag>& tags,
+                                                   std::vector<Tag>& left_out) const {
+    const std::vector<Script> scripts = scripts_with_forms(text, tags);
     std::string result;
     result.reserve(text.size() + 8 * tags.size());
     Lines lines(result, line_length_, tag_factory().line_break());
@@ -201,14 +194,14 @@ std::string UnicodeRichTextGenerator::compose(std::string_view text,
         const Tag& tag = tags[i];
         write(text.substr(written, tag.position - written));
         written = tag.position;
-        const std::string& start_tag = tags[tag.opens ? i : tag.partner].text;
         if (scripts[i]) {
             script = tag.opens ? scripts[i] : nullptr;
-        } else if (vocabulary.script_of(start_tag)) {
+        } else if (script_of(tag.kind)) {
             lines.put(tag.text, static_cast<unsigned int>(tag.text.size()));
         } else {
-            if (start_tag == vocabulary.bar) bars = tag.opens ? bars + 1 : bars - 1;
-            append_invisible_tag(result, tag.text);
+            if (tag.kind == TextItemStyle::Kind::overstrike) bars = tag.opens ? bars + 1 : bars - 1;
+            left_out.push_back(tag);
+            left_out.back().position = result.size();
         }
     }
     write(text.substr(written));

@@ -23,8 +23,10 @@ protected:
 
     std::string compose(std::string_view text, const std::vector<Tag>& tags) const override;
 
-    /// Appends a tag that takes no room on the line; plain text shows none.
-    virtual void append_invisible_tag(std::string& result, const std::string& tag) const;
+    /// What compose() gives, for a subclass whose tags take no room on the line: appends those that
+    /// the result lacks to `left_out`, with their positions in it and no partners.
+    std::string compose_text(std::string_view text, const std::vector<Tag>& tags,
+                             std::vector<Tag>& left_out) const;
 
 private:
     mutable unsigned int line_length_ = 0;  // of the text in work

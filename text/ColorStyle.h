@@ -11,6 +11,7 @@ public:
     explicit ColorStyle(TextItem::ColorName color) : color_(color) {}
     ~ColorStyle() override;
 
+    Kind kind() const override { return Kind::color; }
     std::string start_tag(const RichTextTagFactory& factory) const override;
     std::string end_tag(const RichTextTagFactory& factory) const override;
     void text_atom_begin(TextAtomPropertyBuilder& builder) const override;

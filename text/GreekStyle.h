@@ -13,6 +13,7 @@ public:
     /// The letter; what no_symbol shows is each generator's affair.
     TextItem::GreekSymbol symbol() const { return symbol_; }
 
+    Kind kind() const override { return Kind::greek; }
     std::string start_tag(const RichTextTagFactory& factory) const override;
     std::string end_tag(const RichTextTagFactory& factory) const override;
     void text_atom_begin(TextAtomPropertyBuilder& builder) const override;

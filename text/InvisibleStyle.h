@@ -7,6 +7,7 @@ class InvisibleStyle : public TextItemStyle {
 public:
     ~InvisibleStyle() override;
 
+    Kind kind() const override { return Kind::invisible; }
     std::string start_tag(const RichTextTagFactory& factory) const override;
     std::string end_tag(const RichTextTagFactory& factory) const override;
     void text_atom_begin(TextAtomPropertyBuilder& builder) const override;

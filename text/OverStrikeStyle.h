@@ -7,6 +7,7 @@ class OverStrikeStyle : public TextItemStyle {
 public:
     ~OverStrikeStyle() override;
 
+    Kind kind() const override { return Kind::overstrike; }
     std::string start_tag(const RichTextTagFactory& factory) const override;
     std::string end_tag(const RichTextTagFactory& factory) const override;
     void text_atom_begin(TextAtomPropertyBuilder& builder) const override;

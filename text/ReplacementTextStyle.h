@@ -12,6 +12,7 @@ public:
     /// A copy of the text.
     std::string replacement_text() const { return replacement_text_; }
 
+    Kind kind() const override { return Kind::replacement_text; }
     std::string start_tag(const RichTextTagFactory& factory) const override;
     std::string end_tag(const RichTextTagFactory& factory) const override;
     void text_atom_begin(TextAtomPropertyBuilder& builder) const override;

@@ -12,12 +12,28 @@ class TextAtomPropertyBuilder;
 /// slice, and only read from then on.
 class TextItemStyle {
 public:
+    /// What a style does to its slice. Targets whose tags depend on what they enclose ask for it.
+    enum class Kind {
+        other,  ///< A style of an application's own: targets write its tags and know no more.
+        bold,
+        italic,
+        overstrike,
+        invisible,
+        subscript,
+        superscript,
+        greek,
+        replacement_text,
+        color
+    };
+
     /// On no slice yet.
     TextItemStyle() : slice_(0, 0) {}
     TextItemStyle(const TextItemStyle&) = delete;
     TextItemStyle& operator=(const TextItemStyle&) = delete;
     virtual ~TextItemStyle();
 
+    /// The base's is `other`. It never changes.
+    virtual Kind kind() const { return Kind::other; }
     /// The factory's text that opens, and that closes, this style; throws what the factory throws.
     /// @{
     virtual std::string start_tag(const RichTextTagFactory& factory) const = 0;

@@ -9,6 +9,7 @@ public:
     explicit VerticalAlignStyle(int alignment) : alignment_(alignment) {}
     ~VerticalAlignStyle() override;
 
+    Kind kind() const override { return alignment_ < 0 ? Kind::subscript : Kind::superscript; }
     std::string start_tag(const RichTextTagFactory& factory) const override;
     std::string end_tag(const RichTextTagFactory& factory) const override;
     void text_atom_begin(TextAtomPropertyBuilder& builder) const override;

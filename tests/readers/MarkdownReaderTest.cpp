@@ -48,7 +48,8 @@ protected:
             text.remove_prefix(character.size);
         }
     }
-    void write_tag(std::string& /*result*/, const std::string& tag, bool opens) const override {
+    void write_tag(std::string& /*result*/, const std::string& tag, TextItemStyle::Kind /*kind*/,
+                   bool opens) const override {
         const std::size_t name = opens ? 1 : 2;
         shown.open(std::string_view(tag).substr(name, tag.size() - name - 1), opens ? 1 : -1);
     }
