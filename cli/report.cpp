@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <string_view>
 
-#include "markup/controls.h"
+#include "markup/internal/controls.h"
 
 namespace {
 

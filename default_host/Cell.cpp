@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "default_host/unit_cell.h"
+#include "default_host/internal/unit_cell.h"
 
 double Cell::volume() const {
     for (const UncertainValue& edge : {a, b, c}) {

@@ -2,7 +2,7 @@
 
 #include <gemmi/cellred.hpp>
 
-#include "default_host/unit_cell.h"
+#include "default_host/internal/unit_cell.h"
 
 std::optional<ReducedCell> ReducedCell::of(const Cell& cell, char centring) {
     if (cell.volume() == 0) return std::nullopt;

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <stdexcept>
 
-#include "default_host/RegexMatch.h"
+#include "default_host/internal/RegexMatch.h"
 
 namespace {
 

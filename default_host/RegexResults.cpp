@@ -3,7 +3,7 @@
 #include <new>
 #include <stdexcept>
 
-#include "default_host/RegexMatch.h"
+#include "default_host/internal/RegexMatch.h"
 
 void RegexResults::Match::prepare(unsigned int numbers) {
     size = 0;

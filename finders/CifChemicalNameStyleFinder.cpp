@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "text/character_class.h"
+#include "text/internal/character_class.h"
 #include "text/regex_grep.h"
 
 namespace {

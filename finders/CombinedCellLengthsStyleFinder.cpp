@@ -1,6 +1,6 @@
 #include "finders/CombinedCellLengthsStyleFinder.h"
 
-#include "finders/find_first.h"
+#include "finders/internal/find_first.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "text/character_class.h"
+#include "text/internal/character_class.h"
 
 namespace {
 

@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "finders/TevoChemicalNameToTextItemGreek.h"
+#include "finders/internal/GreekNameScanner.h"
 #include "text/Position.h"
 
 namespace {
@@ -31,8 +33,30 @@ void find_shifts(std::string_view text, char opener, char closer, std::vector<St
     }
 }
 
-bool is_one_of(const std::string& character, std::string_view set) {
+/// One for all finders: made when the first of them looks for letters.
+const GreekNameScanner& scanner() {
+    static const GreekNameScanner names;
+    return names;
+}
+
+bool is_one_of(std::string_view character, std::string_view set) {
     return set.find(character) != std::string_view::npos;
+}
+
+/// Whether the name is a tail behind that character; none where it begins the text.
+bool is_tail(const std::string& name, std::string_view prior_char) {
+    if (prior_char.empty()) return false;
+    if (name == Names::pi_) return is_one_of(prior_char, "AaEeIiOoUu");
+    if (name == Names::eta_) return is_one_of(prior_char, "BbHhMmZz");
+    if (name == Names::delta_ || name == Names::lambda_) return prior_char == "c";
+    return false;
+}
+
+/// Whether the name is a head before that character; none where it ends the text.
+bool is_head(const std::string& name, std::string_view next_char) {
+    if (next_char.empty() || is_one_of(next_char, "-,$()'*!HRS:")) return false;
+    // A coordinating atom may follow kappa at once.
+    return name != Names::kappa_ || !is_one_of(next_char, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
 }
 
 }  // namespace
@@ -62,50 +86,35 @@ void TevoChemicalNameStyleFinder::greek(std::vector<GreekSlice>& out) const {
         unsigned int name, from, to;
     };
     const std::string_view name_text = text();
-    const std::vector<std::string>& names = names_.tevo_chemical_name_greek();
+    const GreekNameScanner& names = scanner();
     std::vector<Hit> hits;
     // A name is not looked for inside its own last occurrence, whether that was a letter or not.
     std::array<unsigned int, TextItem::clambda> next_allowed{};
-    for (std::size_t at = names_.next_candidate(name_text, 0); at < name_text.size();
-         at = names_.next_candidate(name_text, at + 1)) {
-        const unsigned int pos = to_position(at);
-        const std::uint64_t characters = Names::characters_at(name_text, pos);
-        const auto [first, last] = names_.names_beginning_with(name_text[pos]);
-        for (unsigned int i = first; i < last; ++i) {
-            if (!names_.begins(i, characters) || pos < next_allowed[i]) continue;
-            const std::string& name = names[i];
-            const unsigned int end = pos + length_of(name);
-            next_allowed[i] = end;
-            const std::string prior_char(name_text.substr(pos > 0 ? pos - 1 : 0, pos > 0 ? 1 : 0));
-            const std::string next_char(name_text.substr(end, 1));
-            if (greek_fragment(name, prior_char)) continue;
-            if (word_fragment(name, prior_char, next_char)) continue;
-            hits.push_back({i, pos, end});
-        }
-    }
+    names.scan(name_text, [&](unsigned int i, unsigned int pos) {
+        if (pos < next_allowed[i]) return;
+        const std::string& name = names.name(i);
+        const unsigned int end = pos + length_of(name);
+        next_allowed[i] = end;
+        if (is_tail(name, name_text.substr(pos > 0 ? pos - 1 : 0, pos > 0 ? 1 : 0))) return;
+        if (is_head(name, name_text.substr(end, 1))) return;
+        hits.push_back({i, pos, end});
+    });
     std::sort(hits.begin(), hits.end(), [](const Hit& a, const Hit& b) {
         return a.name != b.name ? a.name < b.name : a.from < b.from;
     });
     out.reserve(out.size() + hits.size());
-    for (const Hit& hit : hits) out.emplace_back(hit.from, hit.to, names_.symbol_of(hit.name));
+    for (const Hit& hit : hits) out.emplace_back(hit.from, hit.to, names.symbol(hit.name));
 }
 
 bool TevoChemicalNameStyleFinder::greek_fragment(const std::string& name,
                                                  const std::string& prior_char) const {
-    if (prior_char.empty()) return false;
     if (prior_char.size() > 1) throw std::runtime_error("illegal 'prior_char' length");
-    if (name == Names::pi_) return is_one_of(prior_char, "AaEeIiOoUu");
-    if (name == Names::eta_) return is_one_of(prior_char, "BbHhMmZz");
-    if (name == Names::delta_ || name == Names::lambda_) return prior_char == "c";
-    return false;
+    return is_tail(name, prior_char);
 }
 
 bool TevoChemicalNameStyleFinder::word_fragment(const std::string& name,
                                                 const std::string& /*prior_char*/,
                                                 const std::string& next_char) const {
-    if (next_char.empty()) return false;
     if (next_char.size() > 1) throw std::runtime_error("illegal 'next_char' length");
-    if (is_one_of(next_char, "-,$()'*!HRS:")) return false;
-    // A coordinating atom may follow kappa at once.
-    return name != Names::kappa_ || !is_one_of(next_char, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    return is_head(name, next_char);
 }

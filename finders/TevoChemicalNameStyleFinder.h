@@ -1,7 +1,6 @@
 #pragma once
 
 #include "finders/InputTextStyleFinder.h"
-#include "finders/TevoChemicalNameToTextItemGreek.h"
 
 /// Finds the styles of a chemical name in the database's own mark-up: Greek letters spelled out in
 /// lower case, subscripts as "!2$" and superscripts as "$2!", whose markers are invisible.
@@ -31,7 +30,4 @@ public:
     /// std::runtime_error "illegal 'next_char' length" for more than one character.
     bool word_fragment(const std::string& name, const std::string& prior_char,
                        const std::string& next_char) const;
-
-private:
-    TevoChemicalNameToTextItemGreek names_;
 };

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <numeric>
 
 const std::string TevoChemicalNameToTextItemGreek::alpha_ = "alpha";
 const std::string TevoChemicalNameToTextItemGreek::beta_ = "beta";
@@ -75,24 +74,6 @@ TevoChemicalNameToTextItemGreek::TevoChemicalNameToTextItemGreek() {
     names_.reserve(std::size(name_rows));
     for (const NameRow& row : name_rows) names_.push_back(*row.name);
     std::sort(names_.begin(), names_.end());
-    for (std::size_t i = 0; i < names_.size(); ++i) {
-        const std::string& name = names_[i];
-        symbols_[i] = greek_symbol(name);
-        packed_names_[i] = {characters_at(name, 0),
-                            characters_at(std::string(name.size(), '\xFF'), 0)};
-        ++first_name_[static_cast<unsigned int>(name[0] - 'a') + 1];
-        second_letters_[static_cast<unsigned char>(name[0])] |= 1U << (name[1] & 31);
-    }
-    std::partial_sum(first_name_.begin(), first_name_.end(), first_name_.begin());
-}
-
-std::size_t TevoChemicalNameToTextItemGreek::next_candidate(std::string_view text,
-                                                            std::size_t position) const {
-    for (; position + 1 < text.size(); ++position) {
-        const auto first = static_cast<unsigned char>(text[position]);
-        if ((second_letters_[first] >> (text[position + 1] & 31) & 1) != 0) return position;
-    }
-    return text.size();
 }
 
 TextItem::GreekSymbol TevoChemicalNameToTextItemGreek::greek_symbol(const std::string& name) const {

@@ -1,6 +1,6 @@
 #include "finders/TevoPublicationStyleFinder.h"
 
-#include "finders/find_first.h"
+#include "finders/internal/find_first.h"
 #include "suppliers/CombinedPublicationTagSupplier.h"
 #include "text/Position.h"
 

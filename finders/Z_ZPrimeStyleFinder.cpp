@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "finders/find_first.h"
+#include "finders/internal/find_first.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "markup/AnsiTagFactory.h"
-#include "markup/controls.h"
+#include "markup/internal/controls.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "markup/Html5TagFactory.h"
 #include "markup/TextItemToHtml5Greek.h"
-#include "markup/controls.h"
+#include "markup/internal/controls.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "markup/LatexTagFactory.h"
 #include "markup/TextItemToLatexGreek.h"
-#include "markup/controls.h"
+#include "markup/internal/controls.h"
 
 namespace {
 

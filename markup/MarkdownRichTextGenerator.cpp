@@ -4,7 +4,7 @@
 
 #include "markup/MarkdownTagFactory.h"
 #include "markup/TextItemToUnicodeGreek.h"
-#include "markup/controls.h"
+#include "markup/internal/controls.h"
 
 namespace {
 

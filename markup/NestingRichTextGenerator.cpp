@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "markup/NestedStyles.h"
 #include "markup/RichTextTagFactory.h"
 #include "markup/Utf8.h"
+#include "markup/internal/NestedStyles.h"
 #include "text/GreekStyle.h"
 #include "text/Position.h"
 

@@ -9,10 +9,10 @@
 #include "host/VectorOutput.h"
 #include "markup/RichTextTagFactory.h"
 #include "markup/TextItemToOtherGreek.h"
+#include "markup/internal/sort_runs.h"
 #include "text/GreekStyle.h"
 #include "text/Position.h"
 #include "text/ReplacementTextStyle.h"
-#include "text/sort_runs.h"
 
 namespace {
 
@@ -62,6 +62,122 @@ RichTextGenerator::RichTextGenerator(THandle<RichTextTagFactory> tag_factory,
 
 RichTextGenerator::~RichTextGenerator() = default;
 
+void RichTextGenerator::append_closing_tags(std::string& result, unsigned int position) const {
+    const auto write = [&](std::uint64_t pending) {
+        const EndTag& tag = end_tags_[no_position - static_cast<unsigned int>(pending)];
+        write_tag(result, tag.text, tag.kind, false);
+    };
+    if (!pending_.empty() && due_at(pending_.front()) < position) {
+        // Tags that a caller has passed over stay pending, but not in the way of those due here.
+        const auto due =
+            std::partition(pending_.begin(), pending_.end(),
+                           [&](std::uint64_t pending) { return due_at(pending) != position; });
+        std::sort(due, pending_.end());
+        std::for_each(due, pending_.end(), write);
+        pending_.erase(due, pending_.end());
+        std::make_heap(pending_.begin(), pending_.end(), std::greater());
+    }
+    while (!pending_.empty() && due_at(pending_.front()) == position) {
+        write(pending_.front());
+        std::pop_heap(pending_.begin(), pending_.end(), std::greater());
+        pending_.pop_back();
+    }
+    if (pending_.empty()) end_tags_.clear();
+}
+
+void RichTextGenerator::open(std::string& result) const {
+    if (beginning_.size() > 1) {
+        std::stable_sort(
+            beginning_.begin(), beginning_.end(),
+            [](const TextItemStyle* a, const TextItemStyle* b) { return a->to() > b->to(); });
+    }
+    for (const TextItemStyle* style : beginning_) {
+        const std::string start_tag = style->start_tag(*tag_factory_);
+        EndTag end{style->end_tag(*tag_factory_), style->kind()};
+        if (start_tag.empty() && end.text.empty()) continue;
+        write_tag(result, start_tag, end.kind, true);
+        pending_.push_back(std::uint64_t{style->to()} << 32 |
+                           (no_position - to_position(end_tags_.size())));
+        end_tags_.push_back(std::move(end));
+        std::push_heap(pending_.begin(), pending_.end(), std::greater());
+    }
+}
+
+/// One call of mark_up_text(): the text, and how much of it is written.
+struct RichTextGenerator::Pass {
+    Pass(const RichTextGenerator& writer, const RichTextData& rich_text)
+        : generator(writer), data(rich_text) {
+        generator.starts_.clear();
+        note_starts(data.styles(), tag_list);
+        note_starts(data.invisible(), invisible_list);
+        note_starts(data.replacement_text(), replacement_list);
+        note_starts(data.greek(), greek_list);
+        sort_runs(generator.starts_);
+        generator.starts_.push_back(start_key(no_position, tag_list, 0));  // behind every position
+        start = generator.starts_.data();
+    }
+
+    template <class Style>
+    void note_starts(const std::vector<THandle<Style>>& styles, unsigned int list) {
+        if (styles.size() > most_styles) throw std::length_error("too many styles error");
+        unsigned int index = 0;
+        for (const THandle<Style>& style : styles) {
+            generator.starts_.push_back(start_key(style->from(), list, index++));
+        }
+    }
+
+    void append_opening_tags(unsigned int position) {
+        if (*start >= start_key(position, tag_list + 1, 0)) return;
+        generator.beginning_.clear();
+        for (; *start < start_key(position, tag_list + 1, 0); ++start) {
+            const TextItemStyle& style = *data.styles()[index_of(*start)];
+            if (!style.slice().empty()) generator.beginning_.push_back(&style);
+        }
+        generator.open(result);
+    }
+
+    /// Writes what a style shows in place of the characters from `position` on; returns the first
+    /// position whose character is to be written as it is.
+    unsigned int write_cover(unsigned int position) {
+        if (*start >= start_key(position, lists, 0)) return std::max(position, covered_until);
+        const unsigned int index = index_of(*start);
+        switch (list_of(*start)) {
+            case invisible_list:
+                covered_until = data.invisible()[index]->to();
+                break;
+            case replacement_list: {
+                const ReplacementTextStyle& style = *data.replacement_text()[index];
+                covered_until = style.to();
+                generator.add_text_block(result, style.replacement_text(), column,
+                                         data.line_length());
+                break;
+            }
+            default: {
+                const GreekStyle& style = *data.greek()[index];
+                covered_until = style.to();
+                generator.add_letter(result, generator.greek_converter_->convert(style.symbol()),
+                                     column, data.line_length());
+            }
+        }
+        while (*start < start_key(position, lists, 0)) ++start;
+        return std::max(position + 1, covered_until);  // it swallows at least one character
+    }
+
+    /// Where something begins or ends next, at most `end`.
+    unsigned int next_turn(unsigned int end) const {
+        const std::vector<std::uint64_t>& pending = generator.pending_;
+        return std::min(
+            {end, position_of(*start), pending.empty() ? end : due_at(pending.front())});
+    }
+
+    const RichTextGenerator& generator;
+    const RichTextData& data;
+    const std::uint64_t* start = nullptr;  // of the next style that begins
+    std::string result;
+    unsigned int column = 0;
+    unsigned int covered_until = 0;
+};
+
 std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
     if (KOVRLog::is_open(debug_level)) {
         KOVRLog::start_debug_line(debug_level)
@@ -73,45 +189,21 @@ std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
     current_invisible_ = {};
     current_greek_ = {};
     current_replacement_text_ = {};
-    note_all_starts(data);
-
+    Pass pass(*this, data);
     const std::string_view text = data.characters();
     const unsigned int n = length_of(text);
-    std::string result;
-    result.reserve(n + 16 * data.styles().size());
-    Progress progress{data, result, starts_.cbegin()};
+    pass.result.reserve(n + 16 * data.styles().size());
     // Each turn stands where something begins or ends and goes on to the next such position.
     for (unsigned int i = 0;;) {
-        append_closing_tags(result, i);
-        append_opening_tags(i, progress);
-        if (i == n) return result;
-        const unsigned int plain_from = write_cover(i, progress);
-        i = std::min(
-            {n, position_of(*progress.start), pending_.empty() ? n : due_at(pending_.front())});
+        append_closing_tags(pass.result, i);
+        pass.append_opening_tags(i);
+        if (i == n) return std::move(pass.result);
+        const unsigned int plain_from = pass.write_cover(i);
+        i = pass.next_turn(n);
         if (plain_from < i) {
-            add_text_block(result, text.substr(plain_from, i - plain_from), progress.column,
+            add_text_block(pass.result, text.substr(plain_from, i - plain_from), pass.column,
                            data.line_length());
         }
-    }
-}
-
-void RichTextGenerator::note_all_starts(const RichTextData& data) const {
-    starts_.clear();
-    note_starts(data.styles(), tag_list);
-    note_starts(data.invisible(), invisible_list);
-    note_starts(data.replacement_text(), replacement_list);
-    note_starts(data.greek(), greek_list);
-    sort_runs(starts_);
-    starts_.push_back(start_key(no_position, tag_list, 0));
-}
-
-template <class Style>
-void RichTextGenerator::note_starts(const std::vector<THandle<Style>>& styles,
-                                    unsigned int list) const {
-    if (styles.size() > most_styles) throw std::length_error("too many styles error");
-    unsigned int index = 0;
-    for (const THandle<Style>& style : styles) {
-        starts_.push_back(start_key(style->from(), list, index++));
     }
 }
 
@@ -151,86 +243,6 @@ std::string RichTextGenerator::opening_tags(unsigned int position, Styles styles
     std::string tags;
     open(tags);
     return tags;
-}
-
-void RichTextGenerator::append_closing_tags(std::string& result, unsigned int position) const {
-    const auto write = [&](std::uint64_t pending) {
-        const EndTag& tag = end_tags_[no_position - static_cast<unsigned int>(pending)];
-        write_tag(result, tag.text, tag.kind, false);
-    };
-    if (!pending_.empty() && due_at(pending_.front()) < position) {
-        // Tags that a caller has passed over stay pending, but not in the way of those due here.
-        const auto due =
-            std::partition(pending_.begin(), pending_.end(),
-                           [&](std::uint64_t pending) { return due_at(pending) != position; });
-        std::sort(due, pending_.end());
-        std::for_each(due, pending_.end(), write);
-        pending_.erase(due, pending_.end());
-        std::make_heap(pending_.begin(), pending_.end(), std::greater());
-    }
-    while (!pending_.empty() && due_at(pending_.front()) == position) {
-        write(pending_.front());
-        std::pop_heap(pending_.begin(), pending_.end(), std::greater());
-        pending_.pop_back();
-    }
-    if (pending_.empty()) end_tags_.clear();
-}
-
-void RichTextGenerator::append_opening_tags(unsigned int position, Progress& progress) const {
-    const std::uint64_t behind = start_key(position, tag_list + 1, 0);
-    if (*progress.start >= behind) return;
-    beginning_.clear();
-    for (; *progress.start < behind; ++progress.start) {
-        const TextItemStyle& style = *progress.data.styles()[index_of(*progress.start)];
-        if (!style.slice().empty()) beginning_.push_back(&style);
-    }
-    open(progress.result);
-}
-
-unsigned int RichTextGenerator::write_cover(unsigned int position, Progress& progress) const {
-    const std::uint64_t behind = start_key(position, lists, 0);
-    if (*progress.start >= behind) return std::max(position, progress.covered_until);
-    const RichTextData& data = progress.data;
-    const unsigned int index = index_of(*progress.start);
-    switch (list_of(*progress.start)) {
-        case invisible_list:
-            progress.covered_until = data.invisible()[index]->to();
-            break;
-        case replacement_list: {
-            const ReplacementTextStyle& style = *data.replacement_text()[index];
-            progress.covered_until = style.to();
-            add_text_block(progress.result, style.replacement_text(), progress.column,
-                           data.line_length());
-            break;
-        }
-        default: {
-            const GreekStyle& style = *data.greek()[index];
-            progress.covered_until = style.to();
-            add_letter(progress.result, greek_converter_->convert(style.symbol()), progress.column,
-                       data.line_length());
-        }
-    }
-    while (*progress.start < behind) ++progress.start;
-    return std::max(position + 1, progress.covered_until);  // it swallows at least one character
-}
-
-void RichTextGenerator::open(std::string& result) const {
-    if (beginning_.size() > 1) {
-        std::stable_sort(
-            beginning_.begin(), beginning_.end(),
-            [](const TextItemStyle* a, const TextItemStyle* b) { return a->to() > b->to(); });
-    }
-    for (const TextItemStyle* style : beginning_) {
-        const std::string start_tag = style->start_tag(*tag_factory_);
-        std::string end_tag = style->end_tag(*tag_factory_);
-        if (start_tag.empty() && end_tag.empty()) continue;
-        const TextItemStyle::Kind kind = style->kind();
-        write_tag(result, start_tag, kind, true);
-        pending_.push_back(std::uint64_t{style->to()} << 32 |
-                           (no_position - to_position(end_tags_.size())));
-        end_tags_.push_back({std::move(end_tag), kind});
-        std::push_heap(pending_.begin(), pending_.end(), std::greater());
-    }
 }
 
 bool RichTextGenerator::has_invisible_style(unsigned int position, Styles styles) const {

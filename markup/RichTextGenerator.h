@@ -99,28 +99,15 @@ private:
         std::string text;
         TextItemStyle::Kind kind;
     };
-    /// One text, and what of it is written.
-    struct Progress {
-        const RichTextData& data;
-        std::string& result;
-        std::vector<std::uint64_t>::const_iterator start;  // of the next style that begins
-        unsigned int column = 0;
-        unsigned int covered_until = 0;
-    };
+    struct Pass;
 
-    /// Fills starts_, with an end behind every position.
-    void note_all_starts(const RichTextData& data) const;
-    template <class Style>
-    void note_starts(const std::vector<THandle<Style>>& styles, unsigned int list) const;
+    // Inlined in the source, which alone uses them: every turn of mark_up_text() comes by both.
     /// What closing_tags() returns, at the end of `result`.
-    void append_closing_tags(std::string& result, unsigned int position) const;
-    void append_opening_tags(unsigned int position, Progress& progress) const;
-    /// Writes what a style shows in place of the characters from `position` on; returns the first
-    /// position whose character is to be written as it is.
-    unsigned int write_cover(unsigned int position, Progress& progress) const;
+    [[gnu::always_inline]] inline void append_closing_tags(std::string& result,
+                                                           unsigned int position) const;
     /// Writes the opening tags of beginning_, which begin at one position and are not empty, and
     /// remembers the closing ones.
-    void open(std::string& result) const;
+    [[gnu::always_inline]] inline void open(std::string& result) const;
 
     THandle<RichTextTagFactory> tag_factory_;
     THandle<TextItemToOtherGreek> greek_converter_;

@@ -7,7 +7,7 @@
 #include "markup/TextItemToUnicodeGreek.h"
 #include "markup/UnicodeTagFactory.h"
 #include "markup/Utf8.h"
-#include "markup/controls.h"
+#include "markup/internal/controls.h"
 
 namespace {
 

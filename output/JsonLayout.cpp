@@ -8,7 +8,7 @@
 #include "markup/TextItemToHtml5Greek.h"
 #include "markup/TextItemToStringColor.h"
 #include "markup/Utf8.h"
-#include "markup/controls.h"
+#include "markup/internal/controls.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
 

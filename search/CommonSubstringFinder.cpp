@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "search/SuffixAutomaton.h"
+#include "search/internal/SuffixAutomaton.h"
 #include "text/Position.h"
 
 namespace {

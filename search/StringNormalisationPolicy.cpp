@@ -1,6 +1,6 @@
 #include "search/StringNormalisationPolicy.h"
 
-#include "text/character_class.h"
+#include "text/internal/character_class.h"
 
 StringNormalisationPolicy::StringNormalisationPolicy(unsigned int flags,
                                                      const std::string& extra_characters)

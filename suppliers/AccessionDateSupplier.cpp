@@ -1,6 +1,6 @@
 #include "suppliers/AccessionDateSupplier.h"
 
-#include "suppliers/printed.h"
+#include "suppliers/internal/printed.h"
 
 AccessionDateSupplier::~AccessionDateSupplier() = default;
 

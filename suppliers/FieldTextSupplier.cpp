@@ -11,9 +11,9 @@
 #include "suppliers/SohnckeGroupSupplier.h"
 #include "suppliers/SynonymSupplier.h"
 #include "suppliers/Z_ZPrimeSupplier.h"
-#include "suppliers/joined.h"
-#include "suppliers/printed.h"
-#include "suppliers/space_group_text.h"
+#include "suppliers/internal/joined.h"
+#include "suppliers/internal/printed.h"
+#include "suppliers/internal/space_group_text.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "suppliers/ModificationDateSupplier.h"
 
-#include "suppliers/printed.h"
+#include "suppliers/internal/printed.h"
 
 ModificationDateSupplier::~ModificationDateSupplier() = default;
 

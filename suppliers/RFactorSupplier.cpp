@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "suppliers/printed.h"
+#include "suppliers/internal/printed.h"
 
 RFactorSupplier::~RFactorSupplier() = default;
 

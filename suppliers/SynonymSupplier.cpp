@@ -1,6 +1,6 @@
 #include "suppliers/SynonymSupplier.h"
 
-#include "suppliers/joined.h"
+#include "suppliers/internal/joined.h"
 
 SynonymSupplier::~SynonymSupplier() = default;
 

@@ -1,6 +1,6 @@
 #include "suppliers/Z_ZPrimeSupplier.h"
 
-#include "suppliers/printed.h"
+#include "suppliers/internal/printed.h"
 
 Z_ZPrimeSupplier::~Z_ZPrimeSupplier() = default;
 

@@ -21,16 +21,10 @@
 #include "text/TextAtom.h"
 #include "text/TextAtomPropertyBuilder.h"
 #include "text/VerticalAlignStyle.h"
+#include "text/internal/StyleRules.h"
 
 namespace {
 
-// Callers show and match these texts: their wording is interface, slips included.
-constexpr char beyond_end[] = "stlye extends beyond end of string error";
-constexpr char overlapping[] = "creating an overlapping style error";
-constexpr char second_color[] = "color begins at same node as existing color error";
-constexpr char within_replacement[] = "style within replacement text style error";
-constexpr char nested_replacements[] = "nested replacement texts errror";
-constexpr char enclosing_replacement[] = "nascent replacement text enclosing existing style error";
 constexpr char bad_line_length[] = "TextItem line length < zero error";
 
 template <class Style, class... Payload>
@@ -86,37 +80,79 @@ void create_each(const InputTextStyleFinder& finder,
 
 }  // namespace
 
-TextItem::TextItem(THandle<InputTextStyleFinder> finder) : finder_(std::move(finder)) {}
+struct TextItem::Content {
+    explicit Content(THandle<InputTextStyleFinder> reader) : finder(std::move(reader)) {}
+
+    /// Adds a style that breaks no rule, to `own_list` too; leaves everything as it was when memory
+    /// runs out.
+    /// @{
+    void append(THandle<TextItemStyle> style,
+                void (StyleRules::*add)(const StringSlice&) = &StyleRules::add_overlay) {
+        make_room(styles);
+        (rules.*add)(style->slice());
+        styles.push_back(std::move(style));
+    }
+    template <class Style, class Base>
+    void append(const THandle<Style>& style, std::vector<THandle<Base>>& own_list,
+                void (StyleRules::*add)(const StringSlice&) = &StyleRules::add_overlay) {
+        make_room(own_list);
+        append(style, add);
+        own_list.push_back(style);
+    }
+    /// @}
+
+    THandle<InputTextStyleFinder> finder;
+    std::string text;
+    unsigned int line_length = 0;
+    // In order of creation. The last three hold styles of the first a second time.
+    std::vector<THandle<TextItemStyle>> styles;
+    std::vector<THandle<TextItemStyle>> invisible_styles;
+    std::vector<THandle<GreekStyle>> greek_styles;
+    std::vector<THandle<ReplacementTextStyle>> replacement_text_styles;
+    StyleRules rules;
+};
+
+TextItem::TextItem(THandle<InputTextStyleFinder> finder)
+    : content_(std::make_unique<Content>(std::move(finder))) {}
 
 TextItem::TextItem(THandle<InputTextStyleFinder> finder, const std::string& text)
     : TextItem(std::move(finder)) {
     set_text(text);
 }
 
+TextItem::TextItem(const TextItem& other) : content_(std::make_unique<Content>(*other.content_)) {}
+TextItem::TextItem(TextItem&& other) noexcept = default;
+
+TextItem& TextItem::operator=(const TextItem& other) { return *this = TextItem(other); }
+TextItem& TextItem::operator=(TextItem&& other) noexcept = default;
+
+TextItem::~TextItem() = default;
+
+const std::string& TextItem::characters() const { return content_->text; }
+
 void TextItem::set_text(const std::string& text) {
     const unsigned int length = length_of(text);
-    text_ = text;
-    styles_.clear();
-    invisible_styles_.clear();
-    color_styles_.clear();
-    greek_styles_.clear();
-    replacement_text_styles_.clear();
-    nodes_.reset(length);
-    replacement_texts_.clear();
-    colors_begin_.clear();
+    Content& content = *content_;
+    content.text = text;
+    content.styles.clear();
+    content.invisible_styles.clear();
+    content.greek_styles.clear();
+    content.replacement_text_styles.clear();
+    content.rules.reset(length);
     create_input_text_styles();
 }
 
 void TextItem::create_input_text_styles() {
     using Finder = InputTextStyleFinder;
-    finder_->set_text(text_);
+    const THandle<Finder>& finder = content_->finder;
+    finder->set_text(content_->text);
 
     std::vector<StringSlice> slices;
     slices.reserve(16);  // for one usual text
     const auto create_plain = [&](void (Finder::*query)(std::vector<StringSlice>&) const,
                                   void (TextItem::*create)(unsigned int, unsigned int)) {
         slices.clear();
-        ((*finder_).*query)(slices);
+        ((*finder).*query)(slices);
         for (const StringSlice& slice : slices) (this->*create)(slice.from(), slice.to());
     };
     // Replacement texts and colours come last: what they may not enclose must stand already.
@@ -124,105 +160,101 @@ void TextItem::create_input_text_styles() {
     create_plain(&Finder::superscripts, &TextItem::create_superscript);
     create_plain(&Finder::overstrike, &TextItem::create_overstrike);
     create_plain(&Finder::invisible, &TextItem::create_invisible);
-    create_each(*finder_, &Finder::greek, [this](const GreekSlice& slice) {
+    create_each(*finder, &Finder::greek, [this](const GreekSlice& slice) {
         create_greek(slice.from(), slice.to(), slice.symbol());
     });
     create_plain(&Finder::bold, &TextItem::create_bold);
     create_plain(&Finder::italic, &TextItem::create_italic);
-    create_each(*finder_, &Finder::replacement_text, [this](const ReplacementTextSlice& slice) {
+    create_each(*finder, &Finder::replacement_text, [this](const ReplacementTextSlice& slice) {
         create_replacement_text(slice.from(), slice.to(), slice.text());
     });
-    create_each(*finder_, &Finder::color, [this](const ColorSlice& slice) {
+    create_each(*finder, &Finder::color, [this](const ColorSlice& slice) {
         create_color(slice.from(), slice.to(), slice.color());
     });
 }
 
 void TextItem::set_line_length(unsigned int n) {
     if (n == no_position) throw std::range_error(bad_line_length);
-    line_length_ = n < length_of(text_) ? n : 0;
+    content_->line_length = n < length_of(content_->text) ? n : 0;
 }
 
+void TextItem::set_no_linebreak() { content_->line_length = 0; }
+
+unsigned int TextItem::line_length() const { return content_->line_length; }
+
 void TextItem::create_bold(unsigned int from, unsigned int to) {
-    check_overlay(from, to);
-    append(activated<BoldStyle>(from, to));
+    content_->rules.check_overlay(from, to);
+    content_->append(activated<BoldStyle>(from, to));
 }
 
 void TextItem::create_italic(unsigned int from, unsigned int to) {
-    check_overlay(from, to);
-    append(activated<ItalicStyle>(from, to));
+    content_->rules.check_overlay(from, to);
+    content_->append(activated<ItalicStyle>(from, to));
 }
 
 void TextItem::create_overstrike(unsigned int from, unsigned int to) {
-    check_overlay(from, to);
-    append(activated<OverStrikeStyle>(from, to));
+    content_->rules.check_overlay(from, to);
+    content_->append(activated<OverStrikeStyle>(from, to));
 }
 
 void TextItem::create_invisible(unsigned int from, unsigned int to) {
-    check_overlay(from, to);
-    append(activated<InvisibleStyle>(from, to), invisible_styles_);
+    content_->rules.check_overlay(from, to);
+    content_->append(activated<InvisibleStyle>(from, to), content_->invisible_styles);
 }
 
 void TextItem::create_superscript(unsigned int from, unsigned int to) {
-    check_overlay(from, to);
-    append(activated<VerticalAlignStyle>(from, to, 1));
+    content_->rules.check_overlay(from, to);
+    content_->append(activated<VerticalAlignStyle>(from, to, 1));
 }
 
 void TextItem::create_subscript(unsigned int from, unsigned int to) {
-    check_overlay(from, to);
-    append(activated<VerticalAlignStyle>(from, to, -1));
+    content_->rules.check_overlay(from, to);
+    content_->append(activated<VerticalAlignStyle>(from, to, -1));
 }
 
 void TextItem::create_greek(unsigned int from, unsigned int to, GreekSymbol symbol) {
-    check_overlay(from, to);
-    append(activated<GreekStyle>(from, to, symbol), greek_styles_);
+    content_->rules.check_overlay(from, to);
+    content_->append(activated<GreekStyle>(from, to, symbol), content_->greek_styles);
 }
 
 void TextItem::create_color(unsigned int from, unsigned int to, ColorName color) {
-    check_overlay(from, to);
-    color_at_same_from(from);
-    const auto style = activated<ColorStyle>(from, to, color);
-    colors_begin_.resize(text_.size() + 1);
-    append(style, color_styles_);
-    colors_begin_[from] = true;
+    content_->rules.check_color(from, to);
+    content_->append(activated<ColorStyle>(from, to, color), &StyleRules::add_color);
 }
 
 void TextItem::create_replacement_text(unsigned int from, unsigned int to,
                                        const std::string& text) {
-    validate_to(to);
-    check_no_partial_intersection(from, to);
-    check_no_replacement_text_style_nesting(from, to);
-    check_no_style_enclosed_by_replacement_text(from, to);
-    const auto style = activated<ReplacementTextStyle>(from, to, text);
-    std::map<unsigned int, StringSlice> added;
-    if (from < to) added.emplace(from, style->slice());
-    append(style, replacement_text_styles_);
-    replacement_texts_.merge(added);
+    content_->rules.check_replacement_text(from, to);
+    content_->append(activated<ReplacementTextStyle>(from, to, text),
+                     content_->replacement_text_styles, &StyleRules::add_replacement_text);
 }
 
 std::string TextItem::mark_up_text(RichTextGenerator& generator) const {
-    return generator.mark_up_text(RichTextData(text_, line_length_, styles_, invisible_styles_,
-                                               greek_styles_, replacement_text_styles_));
+    const Content& content = *content_;
+    return generator.mark_up_text(RichTextData(content.text, content.line_length, content.styles,
+                                               content.invisible_styles, content.greek_styles,
+                                               content.replacement_text_styles));
 }
 
 bool TextItem::is_active_node(unsigned int pos) const {
-    return std::any_of(styles_.begin(), styles_.end(), [pos](const auto& style) {
+    return std::any_of(content_->styles.begin(), content_->styles.end(), [pos](const auto& style) {
         return style->from() == pos || style->to() == pos;
     });
 }
 
 void TextItem::update_props(unsigned int pos, TextAtomPropertyBuilder& builder) const {
-    for (const auto& style : styles_) {
+    for (const auto& style : content_->styles) {
         if (style->to() == pos && style->from() != pos) style->text_atom_end(builder);
     }
-    for (const auto& style : styles_) {
+    for (const auto& style : content_->styles) {
         if (style->from() == pos) style->text_atom_begin(builder);
     }
 }
 
 std::vector<TextAtom> TextItem::atomize() const {
-    const std::vector<Boundary> boundaries = sorted_boundaries(styles_);
-    const unsigned int end = std::max(length_of(text_), 1U);
-    const std::string_view text(text_.c_str(), end);  // an empty text shows its NUL
+    const std::vector<Boundary> boundaries = sorted_boundaries(content_->styles);
+    const unsigned int end = std::max(length_of(content_->text), 1U);
+    const std::string_view text(content_->text.c_str(), end);  // an empty text shows its NUL
     TextAtomPropertyBuilder builder{TextAtomProperty()};
     std::vector<TextAtom> atoms;
     unsigned int run = 0;
@@ -240,61 +272,7 @@ std::vector<TextAtom> TextItem::atomize() const {
 }
 
 void TextItem::print(std::ostream& os) const {
-    for (const auto& style : styles_) style->print(os);
-}
-
-void TextItem::validate_to(unsigned int to) const {
-    if (to > length_of(text_)) throw std::range_error(beyond_end);
-}
-
-void TextItem::check_no_partial_intersection(unsigned int from, unsigned int to) const {
-    if (nodes_.crosses(StringSlice(from, to))) throw std::range_error(overlapping);
-}
-
-void TextItem::check_not_within_replacement_text_style(unsigned int from, unsigned int to) const {
-    // Replacement texts are disjoint: only the last that begins at `from` or before can reach `to`.
-    const auto next = replacement_texts_.upper_bound(from);
-    if (next == replacement_texts_.begin()) return;
-    if (std::prev(next)->second.has_proper_subset(StringSlice(from, to))) {
-        throw std::range_error(within_replacement);
-    }
-}
-
-void TextItem::check_no_replacement_text_style_nesting(unsigned int from, unsigned int to) const {
-    const StringSlice slice(from, to);
-    const auto next = replacement_texts_.upper_bound(from);
-    if ((next != replacement_texts_.begin() && std::prev(next)->second.are_subsets(slice)) ||
-        (next != replacement_texts_.end() && next->second.are_subsets(slice))) {
-        throw std::range_error(nested_replacements);
-    }
-}
-
-void TextItem::check_no_style_enclosed_by_replacement_text(unsigned int from, unsigned int to) {
-    // Nothing crosses the slice, so a style with an end inside lies inside as a whole.
-    if (nodes_.any_inside(StringSlice(from, to))) throw std::range_error(enclosing_replacement);
-}
-
-void TextItem::color_at_same_from(unsigned int from) const {
-    if (from < colors_begin_.size() && colors_begin_[from]) throw std::range_error(second_color);
-}
-
-void TextItem::check_overlay(unsigned int from, unsigned int to) const {
-    validate_to(to);
-    check_no_partial_intersection(from, to);
-    check_not_within_replacement_text_style(from, to);
-}
-
-void TextItem::append(THandle<TextItemStyle> style) {
-    make_room(styles_);
-    nodes_.add(style->slice());
-    styles_.push_back(std::move(style));
-}
-
-template <class Style, class Base>
-void TextItem::append(const THandle<Style>& style, std::vector<THandle<Base>>& own_list) {
-    make_room(own_list);
-    append(style);
-    own_list.push_back(style);
+    for (const auto& style : content_->styles) style->print(os);
 }
 
 std::ostream& operator<<(std::ostream& os, const TextItem& item) {

@@ -1,20 +1,16 @@
 #pragma once
 
 #include <iosfwd>
-#include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "host/THandle.h"
-#include "text/StyleNodes.h"
 
-class GreekStyle;
 class InputTextStyleFinder;
-class ReplacementTextStyle;
 class RichTextGenerator;
 class TextAtom;
 class TextAtomPropertyBuilder;
-class TextItemStyle;
 
 /// Rich text: one plain string with styles laid on slices of it, which its finder reads out of the
 /// string or the creators add. No two styles ever cross, so that every item can be written as
@@ -78,6 +74,16 @@ public:
     explicit TextItem(THandle<InputTextStyleFinder> finder);
     /// An item with the styles that the finder reports for `text`; throws what set_text() throws.
     TextItem(THandle<InputTextStyleFinder> finder, const std::string& text);
+    /// A copy has text and styles of its own and shares the finder, which serves one text at a
+    /// time: set_text() of either asks it anew and leaves the other as it is. What was moved from
+    /// may only be assigned to or destroyed.
+    /// @{
+    TextItem(const TextItem& other);
+    TextItem(TextItem&& other) noexcept;
+    TextItem& operator=(const TextItem& other);
+    TextItem& operator=(TextItem&& other) noexcept;
+    /// @}
+    ~TextItem();
 
     /// Replaces text and styles; the line length stays. Asks the finder for subscripts,
     /// superscripts, overstrike, invisible, Greek, bold, italic, replacement texts and colours, in
@@ -86,14 +92,16 @@ public:
     /// m styles, and the finder's own work.
     void set_text(const std::string& text);
     /// A copy, O(n).
-    std::string text() const { return text_; }
+    std::string text() const { return characters(); }
+    /// The text itself, until the next set_text().
+    const std::string& characters() const;
 
     /// Wanted length of an output line in characters; a length that the present text does not
     /// exceed means, as 0 does, that lines are not broken. Throws "TextItem line length < zero
     /// error" for 4294967295, the unsigned form of -1.
     void set_line_length(unsigned int n);
-    void set_no_linebreak() { line_length_ = 0; }              ///< Lines are not broken.
-    unsigned int line_length() const { return line_length_; }  ///< 0: lines are not broken.
+    void set_no_linebreak();           ///< Lines are not broken.
+    unsigned int line_length() const;  ///< 0: lines are not broken.
 
     /// The creators lay one style on [from, to). They throw, in this order,
     ///   "stlye extends beyond end of string error",
@@ -136,36 +144,11 @@ public:
     void print(std::ostream& os) const;
 
 private:
+    struct Content;
+
     void create_input_text_styles();
 
-    void validate_to(unsigned int to) const;
-    void check_no_partial_intersection(unsigned int from, unsigned int to) const;
-    void check_not_within_replacement_text_style(unsigned int from, unsigned int to) const;
-    void check_no_replacement_text_style_nesting(unsigned int from, unsigned int to) const;
-    /// Only for a slice that crosses no style.
-    void check_no_style_enclosed_by_replacement_text(unsigned int from, unsigned int to);
-    void color_at_same_from(unsigned int from) const;
-    /// The checks that all styles but replacement texts share.
-    void check_overlay(unsigned int from, unsigned int to) const;
-
-    void append(THandle<TextItemStyle> style);
-    template <class Style, class Base>
-    void append(const THandle<Style>& style, std::vector<THandle<Base>>& own_list);
-
-    unsigned int line_length_ = 0;
-    // In order of creation. The last four hold styles of styles_ a second time.
-    std::vector<THandle<TextItemStyle>> styles_;
-    std::vector<THandle<TextItemStyle>> invisible_styles_;
-    std::vector<THandle<TextItemStyle>> color_styles_;
-    std::vector<THandle<GreekStyle>> greek_styles_;
-    std::vector<THandle<ReplacementTextStyle>> replacement_text_styles_;
-    std::string text_;
-    THandle<InputTextStyleFinder> finder_;
-
-    // What the checks look up, so that none of them walks the styles.
-    StyleNodes nodes_;
-    std::map<unsigned int, StringSlice> replacement_texts_;  // not empty, by their from
-    std::vector<bool> colors_begin_;                         // by position; empty without colours
+    std::unique_ptr<Content> content_;
 };
 
 /// Calls print().

@@ -34,8 +34,7 @@ constexpr std::array<bool, 256> ascii_but(std::string_view signs) {
     return stands_for_itself;
 }
 
-[[gnu::visibility("hidden")]] inline constexpr std::array<bool, 256> printable_ascii =
-    ascii_but("");
+constexpr std::array<bool, 256> printable_ascii = ascii_but("");
 
 /// Whether a harmless character of two bytes begins the text, told without decoding it: most
 /// letters beyond ASCII are such.

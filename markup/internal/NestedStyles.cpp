@@ -1,13 +1,13 @@
-#include "markup/NestedStyles.h"
+#include "markup/internal/NestedStyles.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <utility>
 
 #include "markup/Utf8.h"
+#include "markup/internal/sort_runs.h"
 #include "text/Position.h"
 #include "text/TextItemStyle.h"
-#include "text/sort_runs.h"
 
 namespace {
 

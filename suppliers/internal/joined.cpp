@@ -1,4 +1,4 @@
-#include "suppliers/joined.h"
+#include "suppliers/internal/joined.h"
 
 std::string joined(const std::vector<std::string>& texts, std::string_view separator) {
     std::string result;

@@ -1,4 +1,4 @@
-#include "suppliers/space_group_text.h"
+#include "suppliers/internal/space_group_text.h"
 
 #include <sstream>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "finders/find_first.h"
+#include "finders/internal/find_first.h"
 
 #include <stdexcept>
 

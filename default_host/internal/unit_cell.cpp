@@ -1,4 +1,4 @@
-#include "default_host/unit_cell.h"
+#include "default_host/internal/unit_cell.h"
 
 gemmi::UnitCell unit_cell(const Cell& cell) {
     return {cell.a.value,

@@ -1,4 +1,4 @@
-#include "text/StyleNodes.h"
+#include "text/internal/StyleNodes.h"
 
 #include <algorithm>
 

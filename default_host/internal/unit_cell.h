@@ -5,4 +5,4 @@
 #include "host/Cell.h"
 
 /// The cell as gemmi has it.
-[[gnu::visibility("hidden")]] gemmi::UnitCell unit_cell(const Cell& cell);
+gemmi::UnitCell unit_cell(const Cell& cell);

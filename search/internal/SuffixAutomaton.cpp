@@ -1,4 +1,4 @@
-#include "search/SuffixAutomaton.h"
+#include "search/internal/SuffixAutomaton.h"
 
 #include "text/Position.h"
 

@@ -1,9 +1,0 @@
-#pragma once
-
-#include <string>
-#include <string_view>
-
-/// The position of the first `label` in `text`; throws std::runtime_error `error` when there is
-/// none.
-[[gnu::visibility("hidden")]] unsigned int find_first(const std::string& text,
-                                                      std::string_view label, const char* error);
