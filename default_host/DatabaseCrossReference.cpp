@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include "markup/EnumTextMapping.h"
+
 namespace {
 
 using Mapping = EnumTextMapping<DatabaseCrossReference::CrossReferenceType>;

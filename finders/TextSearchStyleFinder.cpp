@@ -211,7 +211,7 @@ void TextSearchStyleFinder::calc_tag_positions() {
     std::erase_if(matches_, [&](const StringSlice& match) { return hidden(match); });
     if (KOVRLog::is_open(debug_level)) {
         KOVRLog::start_debug_line(debug_level)
-            << "TextSearchStyleFinder::combined matches: " << matches_;
+            << "TextSearchStyleFinder::combined matches: " << VectorOutput(matches_);
         KOVRLog::end_debug_line();
     }
 }

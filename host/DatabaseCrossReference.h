@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "markup/EnumTextMapping.h"
+template <class T>
+class EnumTextMapping;
 
 /// The same or a related structure in a database.
 struct DatabaseCrossReference {

@@ -3,7 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "markup/EnumTextMapping.h"
+template <class T>
+class EnumTextMapping;
 
 /// Under which numbers an entry was deposited.
 struct DepositionInfo {

@@ -181,7 +181,7 @@ struct RichTextGenerator::Pass {
 std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
     if (KOVRLog::is_open(debug_level)) {
         KOVRLog::start_debug_line(debug_level)
-            << "RichTextGenerator::mark_up_text all styles" << data.styles();
+            << "RichTextGenerator::mark_up_text all styles" << VectorOutput(data.styles());
         KOVRLog::end_debug_line();
     }
     end_tags_.clear();

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <optional>
 
+#include "markup/EnumTextMapping.h"
 #include "suppliers/AccessionDateSupplier.h"
 #include "suppliers/CombinedPublicationTagSupplier.h"
 #include "suppliers/ModificationDateSupplier.h"

@@ -76,7 +76,7 @@ struct StyleLists {
     }
 
     friend std::ostream& operator<<(std::ostream& os, const StyleLists& lists) {
-        return os << lists.styles;
+        return os << VectorOutput(lists.styles);
     }
 
 private:

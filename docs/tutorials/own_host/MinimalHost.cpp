@@ -15,6 +15,7 @@
 #include "host/RegexResults.h"
 #include "host/THandleCommon.h"
 #include "host/split.h"
+#include "markup/EnumTextMapping.h"
 
 void THandleCommon::null_handle_error() { throw std::logic_error("own_host: null handle"); }
 
