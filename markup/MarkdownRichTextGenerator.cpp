@@ -5,14 +5,12 @@
 #include "markup/MarkdownTagFactory.h"
 #include "markup/TextItemToUnicodeGreek.h"
 #include "markup/internal/controls.h"
+#include "text/Position.h"
+#include "text/internal/ascii.h"
 
 namespace {
 
 using Kind = TextItemStyle::Kind;
-
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-
-bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 bool begins_line(std::string_view result) { return result.empty() || result.back() == '\n'; }
 
@@ -20,7 +18,7 @@ bool begins_line(std::string_view result) { return result.empty() || result.back
 bool follows_item_number(std::string_view result) {
     const std::size_t earliest = result.size() - std::min<std::size_t>(result.size(), 9);
     std::size_t start = result.size();
-    while (start > earliest && is_digit(result[start - 1])) --start;
+    while (start > earliest && is_ascii_digit(result[start - 1])) --start;
     return start < result.size() && begins_line(result.substr(0, start));
 }
 
@@ -31,7 +29,7 @@ bool must_escape(std::string_view result, std::string_view text) {
     const char c = text.front();
     if (always.find(c) != std::string_view::npos) return true;
     // Lines of headings, rules and lists; "-1" and "2.5" are not among them.
-    const bool goes_on = text.size() > 1 && (is_letter(text[1]) || is_digit(text[1]));
+    const bool goes_on = text.size() > 1 && (is_ascii_letter(text[1]) || is_ascii_digit(text[1]));
     if (c == '#' || c == '=') return begins_line(result);
     if (c == '-' || c == '+') return !goes_on && begins_line(result);
     return (c == '.' || c == ')') && !goes_on && follows_item_number(result);
@@ -45,7 +43,7 @@ bool ends_with_word(std::string_view text, std::string_view word) {
     if (text.size() < word.size()) return false;
     text.remove_prefix(text.size() - word.size());
     return std::equal(word.begin(), word.end(), text.begin(), [](char small, char c) {
-        return is_letter(c) &&
+        return is_ascii_letter(c) &&
                (static_cast<unsigned char>(c) | 0x20U) == static_cast<unsigned char>(small);
     });
 }
@@ -93,7 +91,7 @@ bool is_letter_beyond_ascii(char32_t code) {
 Neighbour neighbour(std::string_view text) {
     if (text.empty() || text.front() == ' ' || text.front() == '\n') return Neighbour::blank;
     const char c = text.front();
-    if (is_letter(c) || is_digit(c)) return Neighbour::letter;
+    if (is_ascii_letter(c) || is_ascii_digit(c)) return Neighbour::letter;
     if (c > ' ' && c < '\x7F') return Neighbour::punctuation;
     const Utf8Character character = first_character(text);
     return is_letter_beyond_ascii(character.code) ? Neighbour::letter : Neighbour::unsafe;
@@ -101,8 +99,7 @@ Neighbour neighbour(std::string_view text) {
 
 Neighbour neighbour_before(std::string_view text) {
     if (text.empty()) return Neighbour::blank;
-    const auto last = static_cast<unsigned int>(text.size() - 1);
-    return neighbour(text.substr(start_of_character(text, last)));
+    return neighbour(text.substr(start_of_character(text, to_position(text.size() - 1))));
 }
 
 /// Whether stars between the two count, `inner` being on the side that they enclose.

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "markup/TextItemToOtherGreek.h"
+#include "markup/TextItemToUnicodeGreek.h"
 
-/// Writes the letters themselves, in UTF-8; nothing for no_symbol.
-class TextItemToHtml5Greek : public TextItemToOtherGreek {
+/// The same under a name of its own in errors.
+class TextItemToHtml5Greek : public TextItemToUnicodeGreek {
 public:
+    TextItemToHtml5Greek() : TextItemToUnicodeGreek("TextItemToHtml5Greek") {}
     ~TextItemToHtml5Greek() override;
-
-    std::string convert(TextItem::GreekSymbol symbol) const override;
 };

@@ -5,5 +5,5 @@
 TextItemToUnicodeGreek::~TextItemToUnicodeGreek() = default;
 
 std::string TextItemToUnicodeGreek::convert(TextItem::GreekSymbol symbol) const {
-    return greek_text(symbol, &GreekLetter::unicode, "TextItemToUnicodeGreek");
+    return greek_text(symbol, &GreekLetter::unicode, name_);
 }

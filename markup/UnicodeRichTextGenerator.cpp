@@ -8,6 +8,7 @@
 #include "markup/UnicodeTagFactory.h"
 #include "markup/Utf8.h"
 #include "markup/internal/controls.h"
+#include "text/Position.h"
 
 namespace {
 
@@ -197,7 +198,7 @@ std::string UnicodeRichTextGenerator::compose_text(std::string_view text,
         if (scripts[i]) {
             script = tag.opens ? scripts[i] : nullptr;
         } else if (script_of(tag.kind)) {
-            lines.put(tag.text, static_cast<unsigned int>(tag.text.size()));
+            lines.put(tag.text, length_of(tag.text));
         } else {
             if (tag.kind == TextItemStyle::Kind::overstrike) bars = tag.opens ? bars + 1 : bars - 1;
             left_out.push_back(tag);

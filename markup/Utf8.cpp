@@ -6,8 +6,6 @@ namespace {
 
 constexpr char32_t replacement_character = 0xFFFD;
 
-bool continues(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
-
 /// The bytes of a character by its first one; 0 where no character begins so.
 std::size_t size_by_lead(unsigned char lead) {
     if (lead < 0x80) return 1;
@@ -46,7 +44,7 @@ Utf8Character first_character(std::string_view text) {
     const std::size_t size = size_by_lead(lead);
     char32_t code = lead & (0x7FU >> size);
     std::size_t read = 1;
-    for (; read < size && read < text.size() && continues(text[read]); ++read) {
+    for (; read < size && read < text.size() && is_continuation_byte(text[read]); ++read) {
         const auto byte = static_cast<unsigned char>(text[read]);
         if (read == 1 && !may_follow(lead, byte)) break;
         code = code << 6 | (byte & 0x3FU);
@@ -66,10 +64,10 @@ std::size_t end_of_character(std::string_view text) {
 }
 
 unsigned int start_of_character(std::string_view text, unsigned int position) {
-    if (position >= text.size() || !continues(text[position])) return position;
+    if (position >= text.size() || !is_continuation_byte(text[position])) return position;
     const unsigned int earliest = position - std::min(position, 3U);
     for (unsigned int start = position; start-- > earliest;) {
-        if (continues(text[start])) continue;
+        if (is_continuation_byte(text[start])) continue;
         const Utf8Character character = first_character(text.substr(start));
         return character.valid && start + character.size > position ? start : position;
     }

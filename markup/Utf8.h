@@ -14,6 +14,11 @@ struct Utf8Character {
     bool valid;        ///< Whether the bytes are UTF-8.
 };
 
+/// Whether the byte continues a character and begins none.
+constexpr bool is_continuation_byte(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
 /// Decodes the front of `text`, which is not empty.
 Utf8Character first_character(std::string_view text);
 

@@ -41,7 +41,8 @@ constexpr std::array<bool, 256> printable_ascii = ascii_but("");
 inline bool begins_with_harmless_pair(std::string_view text) {
     const auto lead = static_cast<unsigned char>(text[0]);
     const bool may_act = lead == 0xC2 || lead == 0xD8;  // U+0080 and U+061C begin so
-    return lead >= 0xC2 && lead < 0xE0 && !may_act && text.size() > 1 && (text[1] & 0xC0) == 0x80;
+    return lead >= 0xC2 && lead < 0xE0 && !may_act && text.size() > 1 &&
+           is_continuation_byte(text[1]);
 }
 
 /// The size of the front of `text` that may be written as it is: characters of ASCII that stand for

@@ -3,9 +3,9 @@
 #include <sstream>
 #include <vector>
 
-namespace {
+#include "text/internal/ascii.h"
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
+namespace {
 
 std::vector<std::string> directions_of(const std::string& symbol) {
     std::vector<std::string> directions;
@@ -22,10 +22,10 @@ std::vector<std::string> directions_of(const std::string& symbol) {
 std::string tagged(const std::string& direction) {
     std::string text;
     for (std::size_t i = 0; i < direction.size(); ++i) {
-        const bool before_digit = i + 1 < direction.size() && is_digit(direction[i + 1]);
+        const bool before_digit = i + 1 < direction.size() && is_ascii_digit(direction[i + 1]);
         if (direction[i] == '-' && before_digit) {
             text += "<bar>" + direction.substr(++i, 1) + "</bar>";
-        } else if (is_digit(direction[i]) && before_digit) {
+        } else if (is_ascii_digit(direction[i]) && before_digit) {
             text += direction[i];
             text += "<sub>" + direction.substr(++i, 1) + "</sub>";
         } else {
