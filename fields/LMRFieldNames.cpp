@@ -1,9 +1,9 @@
 #include "fields/LMRFieldNames.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <stdexcept>
-#include <string_view>
 
 namespace {
 
@@ -109,11 +109,25 @@ const Field* find_field(LMRFieldNames::TextID id) {
     return index < std::size(field_rows) ? &field_rows[index] : nullptr;
 }
 
-void fields_if(bool (*shown)(const Field&), std::vector<LMRFieldNames::TextID>& out) {
-    out.clear();
-    for (const Field& field : field_rows) {
-        if (shown(field)) out.push_back(static_cast<LMRFieldNames::TextID>(&field - field_rows));
-    }
+constexpr std::size_t external_count =
+    static_cast<std::size_t>(std::count_if(std::begin(field_rows), std::end(field_rows),
+                                           [](const Field& field) { return field.is_external; }));
+
+constexpr auto internal_rows = [] {
+    std::array<LMRFieldNames::TextID, std::size(field_rows)> ids{};
+    for (std::size_t i = 0; i < ids.size(); ++i) ids[i] = static_cast<LMRFieldNames::TextID>(i);
+    return ids;
+}();
+
+constexpr auto external_rows = [] {
+    std::array<LMRFieldNames::TextID, external_count> ids{};
+    std::copy_if(internal_rows.begin(), internal_rows.end(), ids.begin(),
+                 [](LMRFieldNames::TextID id) { return field_rows[id].is_external; });
+    return ids;
+}();
+
+void assign(std::vector<LMRFieldNames::TextID>& out, std::span<const LMRFieldNames::TextID> list) {
+    out.assign(list.begin(), list.end());
 }
 
 }  // namespace
@@ -124,16 +138,20 @@ const char* LMRFieldNames::text(TextID id) {
     return field->label;
 }
 
-bool LMRFieldNames::valid_id(TextID id) { return find_field(id) != nullptr; }
+bool LMRFieldNames::valid_id(TextID id) noexcept { return find_field(id) != nullptr; }
 
 bool LMRFieldNames::find_id(const char* name, TextID& id) {
-    const std::string_view label = name;
+    const std::optional<TextID> found = id_of(name);
+    if (found) id = *found;
+    return found.has_value();
+}
+
+std::optional<LMRFieldNames::TextID> LMRFieldNames::id_of(std::string_view label) noexcept {
     const auto* const field =
         std::find_if(std::begin(field_rows), std::end(field_rows),
                      [&](const Field& candidate) { return candidate.label == label; });
-    if (field == std::end(field_rows)) return false;
-    id = static_cast<TextID>(field - field_rows);
-    return true;
+    if (field == std::end(field_rows)) return std::nullopt;
+    return static_cast<TextID>(field - field_rows);
 }
 
 const char* LMRFieldNames::group(TextID id) {
@@ -142,16 +160,22 @@ const char* LMRFieldNames::group(TextID id) {
     return field->group;
 }
 
-void LMRFieldNames::default_fields(std::vector<TextID>& out) {
-    out.assign(std::begin(default_rows), std::end(default_rows));
+void LMRFieldNames::default_fields(std::vector<TextID>& out) { assign(out, default_list()); }
+
+void LMRFieldNames::external_fields(std::vector<TextID>& out) { assign(out, external_list()); }
+
+void LMRFieldNames::internal_fields(std::vector<TextID>& out) { assign(out, internal_list()); }
+
+std::span<const LMRFieldNames::TextID> LMRFieldNames::default_list() noexcept {
+    return default_rows;
 }
 
-void LMRFieldNames::external_fields(std::vector<TextID>& out) {
-    fields_if([](const Field& field) { return field.is_external; }, out);
+std::span<const LMRFieldNames::TextID> LMRFieldNames::external_list() noexcept {
+    return external_rows;
 }
 
-void LMRFieldNames::internal_fields(std::vector<TextID>& out) {
-    fields_if([](const Field&) { return true; }, out);
+std::span<const LMRFieldNames::TextID> LMRFieldNames::internal_list() noexcept {
+    return internal_rows;
 }
 
 void LMRFieldNames::fields(FieldVisibility visibility, std::vector<TextID>& out) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <span>
+#include <string_view>
 #include <vector>
 
 /// The catalogue of the fields of a database entry: their labels, their groups and the lists in
@@ -79,10 +82,12 @@ public:
     /// Error: Invalid field name requested in LMRFieldNames::text " unless valid_id().
     static const char* text(TextID id);
     /// Whether it is one of the enumerators.
-    static bool valid_id(TextID id);
+    static bool valid_id(TextID id) noexcept;
     /// Stores in `id` the field of that label, to the byte; returns false, with `id` as it was,
     /// when there is none. O(f) for the f fields of the catalogue.
     static bool find_id(const char* name, TextID& id);
+    /// The same: the field, or none.
+    [[nodiscard]] static std::optional<TextID> id_of(std::string_view label) noexcept;
     /// The group under which the field is listed. Throws std::invalid_argument "Internal Error:
     /// Invalid field name requested in LMRFieldNames::group" for fields without one: sohncke_group,
     /// isomer and those that are not valid_id().
@@ -93,6 +98,12 @@ public:
     static void default_fields(std::vector<TextID>& out);
     static void external_fields(std::vector<TextID>& out);
     static void internal_fields(std::vector<TextID>& out);
+    /// @}
+    /// The same lists, which live as long as the program.
+    /// @{
+    static std::span<const TextID> default_list() noexcept;
+    static std::span<const TextID> external_list() noexcept;
+    static std::span<const TextID> internal_list() noexcept;
     /// @}
     /// external_fields() for the public, else internal_fields().
     static void fields(FieldVisibility visibility, std::vector<TextID>& out);

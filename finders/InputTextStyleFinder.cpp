@@ -16,7 +16,7 @@ void InputTextStyleFinder::color(std::vector<ColorSlice>& /*out*/) const {}
 void InputTextStyleFinder::calc_tag_positions() {}
 
 void InputTextStyleFinder::set_text(const std::string& text) {
-    length_of(text);  // throws where positions would not do
+    check_length(text);  // throws where positions would not do
     text_ = text;
     calc_tag_positions();
 }

@@ -5,7 +5,6 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "finders/TevoChemicalNameToTextItemGreek.h"
 #include "finders/internal/GreekNameScanner.h"
 #include "text/Position.h"
 

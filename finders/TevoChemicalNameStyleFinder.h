@@ -1,6 +1,7 @@
 #pragma once
 
 #include "finders/InputTextStyleFinder.h"
+#include "finders/TevoChemicalNameToTextItemGreek.h"  // the names, for callers
 
 /// Finds the styles of a chemical name in the database's own mark-up: Greek letters spelled out in
 /// lower case, subscripts as "!2$" and superscripts as "$2!", whose markers are invisible.

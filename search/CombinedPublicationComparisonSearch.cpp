@@ -36,7 +36,7 @@ CombinedPublicationComparisonSearch::~CombinedPublicationComparisonSearch() = de
 
 bool CombinedPublicationComparisonSearch::comparison_search(
     const std::string& term, const std::string& text, std::vector<StringSlice>& slices) const {
-    length_of(text);  // throws where positions would not do
+    check_length(text);  // throws where positions would not do
     const CombinedPublicationTagSupplier tags;
     const std::pair<std::string, std::string> parts[] = {{tags.begin_jnl(), tags.end_jnl()},
                                                          {tags.begin_year(), tags.end_year()},

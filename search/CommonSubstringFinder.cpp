@@ -87,7 +87,7 @@ public:
 
     /// Notes the match [., a_end) and [b_from, b_end).
     void cover(unsigned int a_end, unsigned int b_from, unsigned int b_end) {
-        const unsigned int last = std::min(b_end, static_cast<unsigned int>(starts_.size()));
+        const unsigned int last = std::min(b_end, to_position(starts_.size()));
         for (unsigned int j = b_from; j < last; ++j) {
             if (starts_[j].a_end >= a_end) continue;
             starts_[j].a_end = a_end;
@@ -156,8 +156,8 @@ void for_each_match(std::string_view a, std::string_view b, unsigned int min_mat
 }
 
 void check(const std::string& a, const std::string& b, unsigned int min_match_length) {
-    length_of(a);  // both throw where positions would not do
-    length_of(b);
+    check_length(a);  // both throw where positions would not do
+    check_length(b);
     if (min_match_length == 0) throw std::range_error(bad_length);
 }
 

@@ -80,7 +80,7 @@ bool MultipleLineTextComparison::comparison_search(const std::string& term, cons
             << "MultipleLineTextComparison search: " << term << "\ntext: " << text;
         KOVRLog::end_debug_line();
     }
-    length_of(text);  // throws where positions would not do
+    check_length(text);  // throws where positions would not do
     const std::vector<std::string> term_lines = split_lines(term);
     const std::vector<OffsetLine> text_lines = make_offsets(split_lines(text));
     StringSliceReducer matches;

@@ -11,10 +11,11 @@ StringSlice NormalisedString::denormalise_slice(const StringSlice& slice) const 
     if (slice.empty()) return slice;
     const auto begin = differences_.begin();
     const auto end = differences_.end();
-    const auto before_from = std::upper_bound(begin, end, Difference{slice.from(), '\0'}) - begin;
-    const auto before_to = std::lower_bound(begin, end, Difference{slice.to(), '\0'}) - begin;
-    return {slice.from() + static_cast<unsigned int>(before_from),
-            slice.to() + static_cast<unsigned int>(before_to)};
+    const auto raw = [begin](unsigned int position, auto dropped_behind) {
+        return position + to_position(static_cast<std::size_t>(dropped_behind - begin));
+    };
+    return {raw(slice.from(), std::upper_bound(begin, end, Difference{slice.from(), '\0'})),
+            raw(slice.to(), std::lower_bound(begin, end, Difference{slice.to(), '\0'}))};
 }
 
 std::string NormalisedString::normalise(const StringNormalisationPolicy& policy,

@@ -35,7 +35,7 @@ void strip_spaces(Entry& entry) {
 }
 
 std::vector<Entry> separate_names(const std::string& text) {
-    length_of(text);  // throws where positions would not do
+    check_length(text);  // throws where positions would not do
     std::vector<Entry> names;
     split_text_on(names, text, ",", 0);
     for (Entry& name : names) strip_spaces(name);

@@ -5,7 +5,7 @@
 TextComparisonSearch::~TextComparisonSearch() = default;
 
 bool TextComparisonSearch::search(const std::string& text, std::vector<StringSlice>& slices) const {
-    length_of(text);  // throws where positions would not do
+    check_length(text);  // throws where positions would not do
     return comparison_search(term_, text, slices);
 }
 

@@ -16,19 +16,19 @@ void StringSlice::refuse() const {
     throw std::range_error(bad_position);
 }
 
-bool StringSlice::has_proper_subset(const StringSlice& other) const {
+bool StringSlice::has_proper_subset(const StringSlice& other) const noexcept {
     return has_subset(other) && *this != other;
 }
 
-bool StringSlice::overlaps(const StringSlice& other) const {
+bool StringSlice::overlaps(const StringSlice& other) const noexcept {
     return !empty() && !other.empty() && from_ < other.to_ && other.from_ < to_;
 }
 
-bool StringSlice::are_subsets(const StringSlice& other) const {
+bool StringSlice::are_subsets(const StringSlice& other) const noexcept {
     return has_subset(other) || other.has_subset(*this);
 }
 
-bool StringSlice::partial_intersection(const StringSlice& other) const {
+bool StringSlice::partial_intersection(const StringSlice& other) const noexcept {
     return overlaps(other) && !are_subsets(other);
 }
 

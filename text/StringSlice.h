@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <compare>
 #include <iosfwd>
 
 #include "text/Position.h"
@@ -15,28 +16,28 @@ public:
         if (to < from || to == no_position) refuse();
     }
 
-    unsigned int from() const { return from_; }          ///< The first position.
-    unsigned int to() const { return to_; }              ///< One past the last position.
-    bool empty() const { return from_ == to_; }          ///< Whether it holds no position.
-    unsigned int length() const { return to_ - from_; }  ///< How many positions it holds.
+    unsigned int from() const noexcept { return from_; }          ///< The first position.
+    unsigned int to() const noexcept { return to_; }              ///< One past the last position.
+    bool empty() const noexcept { return from_ == to_; }          ///< Whether it holds no position.
+    unsigned int length() const noexcept { return to_ - from_; }  ///< How many positions it holds.
 
     /// Whether every position of `other` is one of this slice; false when either is empty.
-    bool has_subset(const StringSlice& other) const {
+    bool has_subset(const StringSlice& other) const noexcept {
         return !empty() && !other.empty() && from_ <= other.from_ && other.to_ <= to_;
     }
     /// has_subset() without equality.
-    bool has_proper_subset(const StringSlice& other) const;
+    bool has_proper_subset(const StringSlice& other) const noexcept;
     /// Whether `pos` is one of its positions; `to()` is not.
-    bool contains(unsigned int pos) const { return from_ <= pos && pos < to_; }
+    bool contains(unsigned int pos) const noexcept { return from_ <= pos && pos < to_; }
     /// Whether the two share a position; slices that only touch do not.
-    bool overlaps(const StringSlice& other) const;
+    bool overlaps(const StringSlice& other) const noexcept;
     /// Whether one of the two has the other as its subset.
-    bool are_subsets(const StringSlice& other) const;
+    bool are_subsets(const StringSlice& other) const noexcept;
     /// Whether the two cross: they overlap, and each holds a position that the other lacks.
-    bool partial_intersection(const StringSlice& other) const;
+    bool partial_intersection(const StringSlice& other) const noexcept;
 
     /// The smallest slice over both, with the gap between them; an empty one adds nothing.
-    StringSlice combine(const StringSlice& other) const {
+    [[nodiscard]] StringSlice combine(const StringSlice& other) const noexcept {
         if (other.empty()) return *this;
         if (empty()) return other;
         return {std::min(from_, other.from_), std::max(to_, other.to_)};
@@ -45,6 +46,8 @@ public:
     /// Writes from, a blank and to: "3 7".
     void print(std::ostream& os) const;
 
+    /// By from, then by to.
+    friend std::strong_ordering operator<=>(const StringSlice&, const StringSlice&) = default;
     friend bool operator==(const StringSlice&, const StringSlice&) = default;
 
 private:

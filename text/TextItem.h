@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/THandle.h"
+#include "text/StringSlice.h"  // in which finders and searches speak of it
 
 class InputTextStyleFinder;
 class RichTextGenerator;

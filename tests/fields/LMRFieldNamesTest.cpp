@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::StrEq;
 using testing::ThrowsMessage;
 
@@ -78,4 +79,5 @@ TEST(LMRFieldNames, ViewsListTheirFieldsAndNoOthers) {
                         std::back_inserter(hidden));
     EXPECT_EQ(shown.size(), 49U);
     EXPECT_THAT(hidden, ElementsAre(5, 10, 18, 26, 28, 31, 33, 34, 39, 42, 56, 59, 60, 61));
+    EXPECT_THAT(shown, ElementsAreArray(Names::external_list()));
 }

@@ -204,3 +204,24 @@ TEST(TextItem, LineLengthIsValidatedAgainstTheText) {
     item.set_line_length(4);
     EXPECT_EQ(item.line_length(), 0U);
 }
+
+TEST(TextItem, ACopyGoesItsOwnWay) {
+    TextItem item = plain_item("abcdef");
+    item.create_bold(1, 3);
+    item.set_line_length(4);
+    TextItem copy = item;
+    copy.create_color(0, 4, TextItem::red);
+    EXPECT_EQ(copy.line_length(), 4U);
+    EXPECT_EQ(printed(item), "BoldStyle: From 1 To 3\n");
+    EXPECT_THAT([&] { copy.create_italic(2, 5); },
+                ThrowsMessage<std::range_error>(StrEq(overlapping)));
+    item.set_text("xyz");
+    EXPECT_EQ(html(copy), "<font color=red>a<b>bc</b>d<br></font>ef<p>");
+
+    TextItem moved = std::move(copy);
+    copy = item;
+    copy.create_italic(0, 3);
+    EXPECT_EQ(moved.characters(), "abcdef");
+    EXPECT_EQ(html(copy), "<i>xyz</i><p>");
+    EXPECT_EQ(printed(item), "");
+}
