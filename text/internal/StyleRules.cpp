@@ -39,6 +39,8 @@ void StyleRules::check_replacement_text(unsigned int from, unsigned int to) {
     if (nodes_.any_inside(StringSlice(from, to))) throw std::range_error(enclosing_replacement);
 }
 
+void StyleRules::add_overlay(const StringSlice& style) { nodes_.add(style); }
+
 void StyleRules::add_color(const StringSlice& style) {
     colors_begin_.resize(text_length_ + std::size_t{1});
     nodes_.add(style);

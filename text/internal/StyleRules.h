@@ -23,7 +23,7 @@ public:
     /// Remembers a style that has passed its check; leaves everything as it was when memory runs
     /// out.
     /// @{
-    void add_overlay(const StringSlice& style) { nodes_.add(style); }
+    void add_overlay(const StringSlice& style);
     void add_color(const StringSlice& style);
     void add_replacement_text(const StringSlice& style);
     /// @}
