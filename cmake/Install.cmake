@@ -28,7 +28,7 @@ if(LMRTEXT_BUILD_PROGRAM)
     install(TARGETS lmrtext_program)
 endif()
 if(LMRTEXT_BUILD_PROGRAM AND NOT CMAKE_CROSSCOMPILING)
-    set(texts ${PROJECT_BINARY_DIR}/app)
+    set(texts ${PROJECT_BINARY_DIR}/cli)
     install(FILES ${texts}/lmrtext.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
     install(FILES ${texts}/lmrtext.bash RENAME lmrtext
             DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)

@@ -21,7 +21,7 @@
 #include "text/TextAtom.h"
 #include "text/TextAtomPropertyBuilder.h"
 #include "text/VerticalAlignStyle.h"
-#include "text/internal/StyleRules.h"
+#include "text/internal/TextItemContent.h"
 
 namespace {
 
@@ -32,12 +32,6 @@ THandle<Style> activated(unsigned int from, unsigned int to, const Payload&... p
     auto style = make_handle<Style>(payload...);
     style->activate(from, to);
     return style;
-}
-
-/// Sees to it that the next push_back() cannot fail.
-template <class List>
-void make_room(List& list) {
-    if (list.size() == list.capacity()) list.reserve(2 * list.size() + 8);
 }
 
 /// One end of a style, where it switches its property on or off.
@@ -79,38 +73,6 @@ void create_each(const InputTextStyleFinder& finder,
 }
 
 }  // namespace
-
-struct TextItem::Content {
-    explicit Content(THandle<InputTextStyleFinder> reader) : finder(std::move(reader)) {}
-
-    /// Adds a style that breaks no rule, to `own_list` too; leaves everything as it was when memory
-    /// runs out.
-    /// @{
-    void append(THandle<TextItemStyle> style,
-                void (StyleRules::*add)(const StringSlice&) = &StyleRules::add_overlay) {
-        make_room(styles);
-        (rules.*add)(style->slice());
-        styles.push_back(std::move(style));
-    }
-    template <class Style, class Base>
-    void append(const THandle<Style>& style, std::vector<THandle<Base>>& own_list,
-                void (StyleRules::*add)(const StringSlice&) = &StyleRules::add_overlay) {
-        make_room(own_list);
-        append(style, add);
-        own_list.push_back(style);
-    }
-    /// @}
-
-    THandle<InputTextStyleFinder> finder;
-    std::string text;
-    unsigned int line_length = 0;
-    // In order of creation. The last three hold styles of the first a second time.
-    std::vector<THandle<TextItemStyle>> styles;
-    std::vector<THandle<TextItemStyle>> invisible_styles;
-    std::vector<THandle<GreekStyle>> greek_styles;
-    std::vector<THandle<ReplacementTextStyle>> replacement_text_styles;
-    StyleRules rules;
-};
 
 TextItem::TextItem(THandle<InputTextStyleFinder> finder)
     : content_(std::make_unique<Content>(std::move(finder))) {}
