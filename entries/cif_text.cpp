@@ -1,9 +1,10 @@
 #include "entries/cif_text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <system_error>
+
+#include "entries/read_whole.h"
+#include "markup/Utf8.h"
 
 namespace {
 
@@ -23,18 +24,6 @@ std::string_view take_part(std::string_view& text, char separator) {
     return part;
 }
 
-template <class Number>
-std::optional<Number> read_whole(std::string_view text) {
-    Number number{};
-    const char* const end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number);
-    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-    return number;
-}
-
-/// Whether a byte of UTF-8 is not the first of its character.
-bool continues_character(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
-
 /// "Yi-Zhi J." as "Y.-Z.J.".
 std::string initials(std::string_view given_names) {
     std::string result;
@@ -48,7 +37,7 @@ std::string initials(std::string_view given_names) {
         }
         if (!begins_name) continue;
         result += c;
-        while (i + 1 < given_names.size() && continues_character(given_names[i + 1])) {
+        while (i + 1 < given_names.size() && is_continuation_byte(given_names[i + 1])) {
             result += given_names[++i];
         }
         result += '.';

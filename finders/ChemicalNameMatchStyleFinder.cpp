@@ -20,3 +20,5 @@ ChemicalNameMatchStyleFinder::ChemicalNameMatchStyleFinder(THandle<InputTextStyl
           std::move(finder)) {}
 
 ChemicalNameMatchStyleFinder::~ChemicalNameMatchStyleFinder() = default;
+
+const StringNormalisationPolicy& ChemicalNameMatchStyleFinder::normalisation() { return policy; }

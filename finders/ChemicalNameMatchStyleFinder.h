@@ -2,6 +2,8 @@
 
 #include "finders/TextSearchStyleFinder.h"
 
+class StringNormalisationPolicy;
+
 /// Highlights what a chemical name has in common with a queried one: runs of 3 characters and more,
 /// punctuation and white space left out. Costs what CommonSubstringFinder and TextSearchStyleFinder
 /// cost.
@@ -10,4 +12,7 @@ public:
     /// `finder` sees the name's own styles.
     explicit ChemicalNameMatchStyleFinder(THandle<InputTextStyleFinder> finder);
     ~ChemicalNameMatchStyleFinder() override;
+
+    /// What is left out of names before they are compared.
+    static const StringNormalisationPolicy& normalisation();
 };

@@ -3,8 +3,8 @@
 #include <exception>
 
 #include "fuzz/Input.h"
+#include "fuzz/shown_text.h"
 #include "output/text_lines.h"
-#include "tests/markup/shown_text.h"
 #include "text/TextItem.h"
 
 namespace {

@@ -10,9 +10,9 @@
 #include "finders/TevoPublicationStyleFinder.h"
 #include "finders/Z_ZPrimeStyleFinder.h"
 #include "fuzz/Input.h"
+#include "fuzz/shown_text.h"
 #include "markup/RichTextTarget.h"
 #include "markup/TextItemToUnicodeGreek.h"
-#include "tests/markup/shown_text.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
 

@@ -1,8 +1,8 @@
 // Lists of styles that no item would allow, into every generator.
 #include "fuzz/Input.h"
+#include "fuzz/StyleLists.h"
+#include "fuzz/shown_text.h"
 #include "markup/RichTextTarget.h"
-#include "tests/markup/StyleLists.h"
-#include "tests/markup/shown_text.h"
 
 namespace {
 

@@ -10,36 +10,16 @@
 #include "markup/RichTextTagFactory.h"
 #include "markup/TextItemToOtherGreek.h"
 #include "markup/internal/sort_runs.h"
+#include "markup/internal/style_starts.h"
 #include "text/GreekStyle.h"
 #include "text/Position.h"
 #include "text/ReplacementTextStyle.h"
 
+using namespace style_starts;
+
 namespace {
 
 constexpr int debug_level = 3;
-
-// The lists of a text's styles, in the order in which they are asked at one position.
-enum List : unsigned int { tag_list, invisible_list, replacement_list, greek_list, lists };
-
-constexpr unsigned int index_bits = 30;
-constexpr std::size_t most_styles = std::size_t{1} << index_bits;  // in a list
-
-/// Orders the beginnings of styles by position, list and index in the list.
-std::uint64_t start_key(unsigned int position, unsigned int list, unsigned int index) {
-    return (std::uint64_t{position} * lists + list) << index_bits | index;
-}
-
-unsigned int position_of(std::uint64_t start_key) {
-    return static_cast<unsigned int>((start_key >> index_bits) / lists);
-}
-
-unsigned int list_of(std::uint64_t start_key) {
-    return static_cast<unsigned int>(start_key >> index_bits) % lists;
-}
-
-unsigned int index_of(std::uint64_t start_key) {
-    return static_cast<unsigned int>(start_key & (most_styles - 1));
-}
 
 unsigned int due_at(std::uint64_t pending) { return static_cast<unsigned int>(pending >> 32); }
 

@@ -1,9 +1,10 @@
 #include "tasks/SearchKind.h"
 
-#include <charconv>
 #include <cmath>
 #include <optional>
 
+#include "entries/read_whole.h"
+#include "finders/ChemicalNameMatchStyleFinder.h"
 #include "search/CombinedPublicationComparisonSearch.h"
 #include "search/CommonSubstringFinderAdapter.h"
 #include "search/EntireTextComparison.h"
@@ -13,16 +14,6 @@
 #include "suppliers/CombinedPublicationTagSupplier.h"
 
 namespace {
-
-/// The number that the whole text is, if it is one.
-template <class Number>
-std::optional<Number> read(const std::string& text) {
-    Number number{};
-    const char* const end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number);
-    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-    return number;
-}
 
 template <class Search>
 THandle<TextSearch> make(const SearchSettings& /*settings*/) {
@@ -34,17 +25,16 @@ THandle<TextSearch> make_line_search(const SearchSettings& /*settings*/) {
 }
 
 THandle<TextSearch> make_numeric_search(const SearchSettings& settings) {
-    const std::optional<int> whole = read<int>(settings.tolerance);
+    const std::optional<int> whole = read_whole<int>(settings.tolerance);
     if (whole) return make_handle<NumericComparison>(*whole);
-    return make_handle<NumericComparison>(read<double>(settings.tolerance).value());
+    return make_handle<NumericComparison>(read_whole<double>(settings.tolerance).value());
 }
 
 template <CommonSubstringFinderAdapter::Effort effort>
 THandle<TextSearch> make_substring_search(const SearchSettings& settings) {
-    const StringNormalisationPolicy policy(
-        StringNormalisationPolicy::drop_punct | StringNormalisationPolicy::drop_space, "");
-    return make_handle<CommonSubstringFinderAdapter>(policy, settings.min_match_length,
-                                                     std::string(), effort);
+    return make_handle<CommonSubstringFinderAdapter>(ChemicalNameMatchStyleFinder::normalisation(),
+                                                     settings.min_match_length, std::string(),
+                                                     effort);
 }
 
 bool any(const std::string& /*term*/) { return true; }
@@ -91,6 +81,6 @@ constexpr SearchKind kind_rows[] = {
 std::span<const SearchKind> search_kinds() { return kind_rows; }
 
 bool is_tolerance(const std::string& tolerance) {
-    const std::optional<double> number = read<double>(tolerance);
+    const std::optional<double> number = read_whole<double>(tolerance);
     return number && std::isfinite(*number) && *number >= 0;
 }

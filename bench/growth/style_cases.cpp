@@ -8,9 +8,9 @@
 #include "finders/TevoChemicalNameStyleFinder.h"
 #include "finders/TevoPublicationStyleFinder.h"
 #include "finders/TextSearchStyleFinder.h"
+#include "fuzz/StyleLists.h"
 #include "markup/RichTextTarget.h"
 #include "search/NumericComparison.h"
-#include "tests/markup/StyleLists.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
 

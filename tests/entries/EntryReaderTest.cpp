@@ -10,6 +10,12 @@ using testing::ElementsAreArray;
 
 namespace {
 
+std::string repeated(const std::string& unit, int times) {
+    std::string text;
+    for (int i = 0; i < times; ++i) text += unit;
+    return text;
+}
+
 /// The fields that have a text, as "Label: text".
 std::vector<std::string> fields_of(const CifEntry& entry) {
     std::vector<LMRFieldNames::TextID> ids;
@@ -69,6 +75,15 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
          {}},
         {"_space_group_name_Hall '-P 2ybc'\n",
          {"Space Group: P2<sub>1</sub>/c", "Sohncke Group: no"},
+         {}},
+        {"loop_\n_space_group_symop_operation_xyz\nx,y,z\n" + repeated("-x,-y,-z\n", 191),
+         {"Space Group: P<bar>1</bar>", "Sohncke Group: no"},
+         {}},
+        {"loop_\n_space_group_symop_operation_xyz\n" + repeated("x,y,z\n", 193),
+         {},
+         {"2 x _space_group_symop_operation_xyz: 193 operations, expected up to 192"}},
+        {"_space_group_symop_operation_xyz 99999999*x+99999999*x,y,z\n",  // would overflow
+         {},
          {}},
         {"_audit_creation_date 2001-02-30\n",
          {},
@@ -152,13 +167,15 @@ TEST(CifDocument, SaysInWhichLineWhatIsNoCif) {
         {"data_x\n_chemical_name_common 'unclosed\n", {2, "unterminated 'string'"}},
         {"data_x\n;\n", {2, "parse error"}},
         {"data_x\nloop_\n_a _b\n1 2 3\n", {2, "Wrong number of values in the loop"}},
-        {"x", {1, "expected block header (data_)"}},
+        {"\xEF\xBB\xBF# one\n#two\n\t GLOBAL_\n_cell_length_a ?\n", {0, ""}},
+        {" \r\n# one\ndat", {3, "expected block header (data_)"}},
+        {"_cell_length_a 1\ndata_x\n", {1, "expected block header (data_)"}},
         {" # only\n", {1, "expected a data block"}},
     };
     for (const auto& [cif, expected] : cases) {
         try {
             const CifDocument document(cif);
-            ADD_FAILURE() << cif;
+            EXPECT_EQ(expected.first, 0U) << cif;
         } catch (const CifError& error) {
             EXPECT_EQ(error.line(), expected.first) << cif;
             EXPECT_STREQ(error.what(), expected.second) << cif;

@@ -6,6 +6,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "fuzz/StyleLists.h"
 #include "host/KOVRLog.h"
 #include "markup/CifRichTextGenerator.h"
 #include "markup/HtmlRichTextGenerator.h"
@@ -14,7 +15,6 @@
 #include "markup/TevoRichTextGenerator.h"
 #include "markup/TextItemToTevoGreek.h"
 #include "tests/Random.h"
-#include "tests/markup/StyleLists.h"
 #include "text/Position.h"
 
 using testing::HasSubstr;

@@ -2,9 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include "fuzz/StyleLists.h"
+#include "fuzz/shown_text.h"
 #include "tests/Random.h"
-#include "tests/markup/StyleLists.h"
-#include "tests/markup/shown_text.h"
 #include "text/Position.h"
 
 namespace {

@@ -4,12 +4,12 @@
 
 #include <memory>
 
+#include "fuzz/StyleLists.h"
 #include "markup/Html5TagFactory.h"
 #include "markup/MarkdownRichTextGenerator.h"
 #include "markup/TextItemToUnicodeGreek.h"
 #include "markup/Utf8.h"
 #include "tests/Random.h"
-#include "tests/markup/StyleLists.h"
 
 namespace {
 
