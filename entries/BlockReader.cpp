@@ -19,7 +19,7 @@ const CifItem* BlockReader::item(std::string_view tag) {
 }
 
 CifBlock::Items BlockReader::items(std::string_view prefix) {
-    const CifBlock::Items found = block_.find_all(prefix);
+    CifBlock::Items found = block_.find_all(prefix);
     asked_for_.insert(asked_for_.end(), found.begin(), found.end());
     return found;
 }

@@ -87,7 +87,8 @@ int main(int argc, char** argv) {
         written += stream.good() ? 1 : 0;
     }
     if (argc <= 3 || std::string(argv[3]) == "sparse.cif") {
-        std::ofstream(folder / "sparse.cif");
+        std::ofstream sparse(folder / "sparse.cif");
+        sparse.close();
         std::filesystem::resize_file(folder / "sparse.cif", std::uintmax_t{size} << 20);
         ++written;
     }

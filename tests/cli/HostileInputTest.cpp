@@ -54,16 +54,17 @@ TEST_F(HostileInput, AFileIsRefusedForItsBeginning) {
 TEST_F(HostileInput, MemoryThatEndsCostsOneTextAndThreadsThatAreRefusedCostNone) {
     if (!limits_bind) GTEST_SKIP();
     file("a", "a\n");
-    for (const std::string jobs : {" -j 1 ", " -j 3 "}) {
-        const std::string files = jobs + "a long_line a";
-        const Result converted = run_beside("long_line", 40960, 150000,
-                                            program + "convert --from plain --to tevo" + files);
+    for (const char* jobs : {"-j 1", "-j 3"}) {
+        const auto run_limited = [&](const char* command) {
+            return run_beside("long_line", 40960, 150000,
+                              words({program, command, jobs, "a long_line a"}));
+        };
+        const Result converted = run_limited("convert --from plain --to tevo");
         EXPECT_THAT(converted.err,
                     testing::MatchesRegex("(lmrtext: long_line|long_line:1): out of memory\n"));
         EXPECT_THAT(converted.out, testing::AnyOf("a\n\na\n", "a\na\n"));
         EXPECT_EQ(converted.status, 1);
-        const Result searched = run_beside(
-            "long_line", 40960, 150000, program + "search --how exact --term a --matching" + files);
+        const Result searched = run_limited("search --how exact --term a --matching");
         EXPECT_THAT(searched.err, EndsWith(": out of memory\n"));
         EXPECT_EQ(searched.status, 2);
     }
@@ -84,15 +85,15 @@ TEST_F(HostileInput, NamesOfFilesAreTakenAsTheyAre) {
     file("in.cif", "data_in\n");
     for (const auto& [name, block] : cases) {
         const std::string text = block + std::string("\n");
-        EXPECT_EQ(run(std::string("convert --from plain --to tevo ") + name).out, text);
-        EXPECT_EQ(run(std::string("search --how exact --term a --to tevo ") + name).out, text);
-        EXPECT_THAT(run(std::string("show ") + name).out, HasSubstr(": " + text));
-        EXPECT_THAT(run(std::string("compare ") + name + " " + name).out, HasSubstr(text));
-        const std::string output = std::string("show in.cif -o ") + name;
-        EXPECT_THAT(run_in_shell(program + output + "; cat " + name).out, HasSubstr("<html"));
-        const std::string term = std::string("search --how exact --to slices --term ") + name;
-        EXPECT_THAT(run_in_shell("echo " + std::string(name) + " | " + program + term).out,
-                    StartsWith("true\t"));
+        EXPECT_EQ(run(words({"convert --from plain --to tevo", name})).out, text);
+        EXPECT_EQ(run(words({"search --how exact --term a --to tevo", name})).out, text);
+        EXPECT_THAT(run(words({"show", name})).out, HasSubstr(text));
+        EXPECT_THAT(run(words({"compare", name, name})).out, HasSubstr(text));
+        const std::string shown = words({program, "show in.cif -o", name, "; cat", name});
+        EXPECT_THAT(run_in_shell(shown).out, HasSubstr("<html"));
+        const std::string searched =
+            words({"echo", name, "|", program, "search --how exact --to slices --term", name});
+        EXPECT_THAT(run_in_shell(searched).out, StartsWith("true\t"));
     }
     EXPECT_THAT(run("show -- -x").out, HasSubstr("data_dash\n"));
     EXPECT_EQ(run("show ''").err, "lmrtext: '': No such file or directory\n");

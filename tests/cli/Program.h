@@ -16,6 +16,13 @@ inline std::string contents(const std::filesystem::path& path) {
     return all.str();
 }
 
+/// The words with blanks between them.
+inline std::string words(std::initializer_list<std::string_view> list) {
+    std::string all;
+    for (const std::string_view word : list) all.append(word).push_back(' ');
+    return all;
+}
+
 struct Result {
     int status;
     std::string out, err;

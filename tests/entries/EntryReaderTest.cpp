@@ -5,7 +5,6 @@
 #include "entries/CifBeginning.h"
 #include "suppliers/FieldTextSupplier.h"
 
-using testing::ElementsAre;
 using testing::ElementsAreArray;
 
 namespace {

@@ -144,6 +144,7 @@ TEST(RichTextTarget, AnsiSelectsWhatALineNeedsAndResetsIt) {
 
 TEST(RichTextTarget, NothingOfATextActsWhereItIsShown) {
     std::vector<std::string> units;
+    units.reserve(0x2100 + 0x80);
     for (int byte = 0; byte < 256; ++byte) units.emplace_back(1, static_cast<char>(byte));
     for (char32_t code = 0x80; code < 0x2100; ++code) append_utf8(units.emplace_back(), code);
     for (const std::string name : {"ansi", "unicode", "html5", "markdown", "latex"}) {
@@ -151,7 +152,11 @@ TEST(RichTextTarget, NothingOfATextActsWhereItIsShown) {
         for (const std::string& c : units) {
             // Bytes make one character when what stands between them is hidden.
             const unsigned int size = length_of(c);
-            const std::string text = c + "a\xC2" + c + c + "\xC2x" + c + "\xE2\x80x" + c;
+            std::string text;
+            for (const std::string_view piece :
+                 {std::string_view(c), {"a\xC2"}, {c}, {c}, {"\xC2x"}, {c}, {"\xE2\x80x"}, {c}}) {
+                text += piece;
+            }
             std::string shown = generator->mark_up_text(S().bold(size, size + 2)
                                                             .bar(2 * size + 2, 3 * size + 2)
                                                             .invisible(3 * size + 3, 3 * size + 4)
