@@ -7,12 +7,12 @@
 
 /// What programs put around the rows of labels and texts that they write in a target's mark-up.
 struct RichTextLayout {
-    const char* before_title;
-    const char* behind_title;
-    const char* before_row;
-    const char* indent;  ///< Before the label of a row that no sign stands before.
-    const char* behind_label;
-    const char* foot;  ///< Behind the last row.
+    const char* before_title;  ///< In front of the title, which is text.
+    const char* behind_title;  ///< Behind it.
+    const char* before_row;    ///< In front of each row.
+    const char* indent;        ///< Before the label of a row that no sign stands before.
+    const char* behind_label;  ///< Between the label, which is text, and the mark-up.
+    const char* foot;          ///< Behind the last row.
 };
 
 /// One kind of mark-up that the library writes, as programs offer it to their users.
@@ -23,9 +23,16 @@ struct RichTextTarget {
     bool escapes;        ///< Whether texts without styles must go through the generator too.
     /// Makes a new generator, for one thread.
     THandle<RichTextGenerator> (*make_generator)();
-    RichTextLayout layout;
-    /// What programs choose it for where nobody has chosen.
-    enum class Use { none, database, page, terminal, plain_terminal } use;
+    RichTextLayout layout;  ///< How entries are laid out in it.
+    /// What programs choose a target for where nobody has chosen.
+    enum class Use {
+        none,            ///< Nothing.
+        database,        ///< Output that is no terminal.
+        page,            ///< Pages, and files of unknown kinds.
+        terminal,        ///< Terminals.
+        plain_terminal,  ///< Terminals without colours.
+    };
+    Use use;  ///< What they choose this one for.
 };
 
 /// All targets: first the four of the database and its old displays, then those for others'
