@@ -67,11 +67,11 @@ private:
     bool compare(const std::vector<CifEntry>& left, const std::vector<CifEntry>& right) {
         TextOutput output;
         const std::unique_ptr<ComparisonLayout> layout = make_comparison_layout(*to_);
-        const std::vector<LMRFieldNames::TextID> ids = fields_.list();
+        const std::vector<Field> wanted = fields_.list();
         bool same = true;
         output.write(layout->head("Comparison"));
         for (std::size_t i = 0; i < std::min(left.size(), right.size()); ++i) {
-            const EntryComparison compared(left[i], right[i], ids, settings_);
+            const EntryComparison compared(left[i], right[i], wanted, settings_);
             same = same && compared.same;
             for (const Problem& problem : compared.problems) {
                 report(problem);

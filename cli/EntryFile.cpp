@@ -42,7 +42,7 @@ bool EntryFile::next(std::optional<CifEntry>& entry) {
     for (Problem& problem : entry->problems) {
         problem.file = path_;
         report(problem);
-        good_ = false;
+        good_ = good_ && problem.level != Problem::Level::error;
     }
     return true;
 }

@@ -16,7 +16,7 @@ public:
 
     /// Reads the next entry, which refers to this file; false at the end.
     bool next(std::optional<CifEntry>& entry);
-    /// Whether nothing has been reported so far.
+    /// Whether no error has been reported so far; doubts about what was read are none.
     bool good() const { return good_; }
 
 private:

@@ -8,11 +8,9 @@ namespace {
 class FieldsCommand : public Command {
 public:
     int run() override {
-        std::vector<LMRFieldNames::TextID> fields;
-        view_->list(fields);
         TextOutput output;
-        for (const LMRFieldNames::TextID id : fields) {
-            output.write(std::string(LMRFieldNames::text(id)) + '\t' + group_of(id) + '\n');
+        for (const Field& field : view_->fields()) {
+            output.write(std::string(field.label) + '\t' + field.group + '\n');
         }
         output.close();
         return exit_success;

@@ -49,7 +49,7 @@ private:
             .add_option_function<std::string>(
                 "--field",
                 [this](const std::string& label) {
-                    const Field field = field_of(known_fields(field_named, label));
+                    const Field field = known_fields(field_named, label);
                     options_.from = field.source;
                     options_.how = field.search;
                 },

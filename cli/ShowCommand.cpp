@@ -61,14 +61,14 @@ private:
     /// Shows one file after the other; returns whether nothing was reported.
     bool show(TextOutput& output) const {
         const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty());
-        const std::vector<LMRFieldNames::TextID> ids = fields_.list();
+        const std::vector<Field> wanted = fields_.list();
         bool good = true;
         bool shown_any = false;
         output.write(layout->head("Crystal structures"));
         for (const std::string& file : files_) {
             EntryFile entries(file);
             for (std::optional<CifEntry> entry; entries.next(entry);) {
-                EntryFields shown(*entry, ids, term_);
+                EntryFields shown(*entry, wanted, term_);
                 for (Problem& problem : shown.problems) {
                     problem.file = file;
                     report(problem);

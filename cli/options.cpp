@@ -38,11 +38,7 @@ void add_batch_options(CLI::App& command, TextBatch& batch) {
     command.add_option("FILE", batch.files, "Files to read; none or -: standard input");
 }
 
-std::vector<LMRFieldNames::TextID> ChosenFields::list() const {
-    std::vector<LMRFieldNames::TextID> fields = named;
-    if (fields.empty()) view->list(fields);
-    return fields;
-}
+std::vector<Field> ChosenFields::list() const { return named.empty() ? view->fields() : named; }
 
 void add_field_options(CLI::App& command, Choices& choices, ChosenFields& fields) {
     fields.view = row_named(views(), "default");

@@ -7,7 +7,6 @@
 
 #include "cli/Choices.h"
 #include "cli/TextBatch.h"
-#include "fields/LMRFieldNames.h"
 #include "output/Output.h"
 #include "tasks/SearchKind.h"
 #include "tasks/UnknownField.h"
@@ -54,10 +53,10 @@ void add_batch_options(CLI::App& command, TextBatch& batch);
 /// The fields that a command is about.
 struct ChosenFields {
     const View* view = nullptr;
-    std::vector<LMRFieldNames::TextID> named;
+    std::vector<Field> named;
 
     /// Those that were named, or else those of the view.
-    std::vector<LMRFieldNames::TextID> list() const;
+    std::vector<Field> list() const;
 };
 
 /// Adds the options that choose fields.

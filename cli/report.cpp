@@ -34,6 +34,7 @@ std::string place_of(const Problem& problem) {
 std::string sentence(const Problem& problem) {
     std::string text;
     if (problem.level == Problem::Level::warning) text += "warning: ";
+    if (problem.level == Problem::Level::note) text += "note: ";
     if (problem.block) text += "data_" + *problem.block;
     if (problem.other_block) text += " and data_" + *problem.other_block;
     if (problem.block) text += ": ";

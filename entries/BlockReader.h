@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "entries/CifDocument.h"
+#include "entries/EntryText.h"
 #include "entries/Problem.h"
 #include "host/CrystalStructureDatabaseEntry.h"
 #include "host/UncertainValue.h"
@@ -57,14 +58,18 @@ public:
     void add_problem(const Value& value, std::string what);
     void add_unexpected(const Value& value, std::string expected);
     /// @}
+    /// Adds a text of a field that says more than the records.
+    void add_text(EntryText text) { texts_.push_back(std::move(text)); }
     /// Adds a problem for each item that has been asked for and is given again.
     void note_repetitions();
+    std::vector<EntryText> take_texts() { return std::move(texts_); }
     std::vector<Problem> take_problems() { return std::move(problems_); }
 
 private:
     const CifDocument& document_;
     CifBlock block_;
     CifBlock::Items asked_for_;
+    std::vector<EntryText> texts_;
     std::vector<Problem> problems_;
 };
 

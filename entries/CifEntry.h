@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "entries/CifDocument.h"
+#include "entries/EntryText.h"
 #include "entries/Problem.h"
 #include "host/CrystalStructureDatabaseEntry.h"
 #include "host/THandle.h"
@@ -12,5 +13,9 @@
 struct CifEntry {
     CifBlock block;  ///< Where its values stand; its document must live on.
     THandle<CrystalStructureDatabaseEntry> entry;
-    std::vector<Problem> problems;  ///< The items that could not be read.
+    std::vector<EntryText> texts;   ///< The fields of which more is known than `entry` holds.
+    std::vector<Problem> problems;  ///< The items that could not be read, and doubts.
+
+    /// The text of that field among `texts`, or null.
+    const EntryText* text(std::string_view label) const;
 };

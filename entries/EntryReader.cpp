@@ -1,6 +1,7 @@
 #include "entries/EntryReader.h"
 
 #include "entries/BlockReader.h"
+#include "entries/further_fields.h"
 
 CifEntry EntryReader::operator[](std::size_t index) const {
     BlockReader block(document_, document_.block(index));
@@ -14,6 +15,7 @@ CifEntry EntryReader::operator[](std::size_t index) const {
     read_space_group(block, *entry);
     read_measurements(block, *entry);
     read_atoms(block, *entry);
+    read_further_fields(block);
     block.note_repetitions();
-    return {block.block(), entry, block.take_problems()};
+    return {block.block(), entry, block.take_texts(), block.take_problems()};
 }

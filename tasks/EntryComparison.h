@@ -5,8 +5,7 @@
 #include <vector>
 
 #include "entries/CifEntry.h"
-#include "fields/LMRFieldNames.h"
-#include "tasks/SearchKind.h"
+#include "tasks/Field.h"
 #include "text/TextItem.h"
 
 /// One field of two entries, with what they have in common highlighted.
@@ -19,8 +18,8 @@ struct ComparedField {
 /// The fields of two entries that have a text on either side, and the problems of those that cannot
 /// be compared.
 struct EntryComparison {
-    EntryComparison(const CifEntry& left, const CifEntry& right,
-                    std::span<const LMRFieldNames::TextID> ids, const SearchSettings& settings);
+    EntryComparison(const CifEntry& left, const CifEntry& right, std::span<const Field> wanted,
+                    const SearchSettings& settings);
 
     std::vector<ComparedField> fields;
     std::vector<Problem> problems;

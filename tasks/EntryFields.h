@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "entries/CifEntry.h"
-#include "fields/LMRFieldNames.h"
+#include "tasks/Field.h"
 #include "text/TextItem.h"
 
 /// One field of an entry with its styles.
@@ -17,10 +17,9 @@ struct EntryField {
 
 /// The fields of an entry that have a text, and the problems of those that cannot be styled.
 struct EntryFields {
-    /// The fields in the order of `ids`, with the matches of `term` highlighted as suits each
+    /// The fields in the order of `wanted`, with the matches of `term` highlighted as suits each
     /// field; an empty term is not searched.
-    EntryFields(const CifEntry& entry, std::span<const LMRFieldNames::TextID> ids,
-                const std::string& term = "");
+    EntryFields(const CifEntry& entry, std::span<const Field> wanted, const std::string& term = "");
 
     std::vector<EntryField> fields;
     std::vector<Problem> problems;

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <iterator>
+#include <vector>
 
+#include "entries/further_fields.h"
+#include "suppliers/FieldTextSupplier.h"
 #include "tasks/row_named.h"
 
 namespace {
@@ -46,17 +49,40 @@ constexpr Row rows[] = {
     {Names::authors, "plain", "surnames"},
 };
 
-}  // namespace
-
-Field field_of(Names::TextID id) {
-    static_cast<void>(Names::text(id));  // throws for what is not a field
+Field field_in_catalogue(Names::TextID id) {
     const auto* const row = std::find_if(std::begin(rows), std::end(rows),
                                          [id](const Row& candidate) { return candidate.id == id; });
     const bool special = row != std::end(rows);
-    return {id, row_named(sources(), special ? row->source : "plain"),
-            row_named(search_kinds(), special ? row->search : "exact")};
+    const bool lacks_group = id == Names::sohncke_group || id == Names::isomer;
+    return {Names::text(id), lacks_group ? "Other" : Names::group(id),
+            row_named(sources(), special ? row->source : "plain"),
+            row_named(search_kinds(), special ? row->search : "exact"), id};
 }
 
-const char* group_of(Names::TextID id) {
-    return id == Names::sohncke_group || id == Names::isomer ? "Other" : Names::group(id);
+}  // namespace
+
+std::span<const Field> fields() {
+    static const std::vector<Field> all = [] {
+        std::vector<Field> fields;
+        for (int id = 0; Names::valid_id(static_cast<Names::TextID>(id)); ++id) {
+            fields.push_back(field_in_catalogue(static_cast<Names::TextID>(id)));
+        }
+        for (const FurtherField& row : further_fields()) {
+            fields.push_back({row.label, further_group, row_named(sources(), row.source),
+                              row_named(search_kinds(), row.search), std::nullopt});
+        }
+        return fields;
+    }();
+    return all;
+}
+
+const Field& field_of(Names::TextID id) {
+    static_cast<void>(Names::text(id));  // throws for what is not a field
+    return fields()[static_cast<std::size_t>(id)];
+}
+
+FieldText text_of(const CifEntry& entry, const Field& field) {
+    const EntryText* const text = entry.text(field.label);
+    if (text) return {text->text, row_named(sources(), text->source)};
+    return {field.id ? FieldTextSupplier(*field.id).text(entry.entry) : "", field.source};
 }

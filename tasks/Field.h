@@ -1,18 +1,31 @@
 #pragma once
 
+#include <optional>
+#include <span>
+#include <string>
+
+#include "entries/CifEntry.h"
 #include "fields/LMRFieldNames.h"
 #include "tasks/SearchKind.h"
 #include "tasks/Source.h"
 
-/// How a field of the catalogue is styled and searched; its text is what FieldTextSupplier gives.
+/// How a field is called, styled and searched.
 struct Field {
-    LMRFieldNames::TextID id;
-    const Source* source;
+    const char* label;
+    const char* group;     ///< "Other" where the catalogue has none.
+    const Source* source;  ///< Of the texts in the records.
     const SearchKind* search;
+    std::optional<LMRFieldNames::TextID> id;  ///< None: beyond the catalogue.
 };
 
-/// Throws what LMRFieldNames::text() throws.
-Field field_of(LMRFieldNames::TextID id);
+/// All fields, those of the catalogue first, in its order.
+std::span<const Field> fields();
+/// A field of the catalogue. Throws what LMRFieldNames::text() throws.
+const Field& field_of(LMRFieldNames::TextID id);
 
-/// The group of a field, or "Other" where the catalogue has none.
-const char* group_of(LMRFieldNames::TextID id);
+/// What an entry has of a field.
+struct FieldText {
+    std::string text;      ///< Empty: nothing.
+    const Source* source;  ///< The kind of text that it is.
+};
+FieldText text_of(const CifEntry& entry, const Field& field);

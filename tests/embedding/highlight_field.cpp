@@ -7,7 +7,7 @@
 
 int main() {
     const EntryReader reader("data_x _chemical_name_systematic 'trans-platin\\b'");
-    const LMRFieldNames::TextID ids[] = {LMRFieldNames::compound_name};
+    const Field ids[] = {field_of(LMRFieldNames::compound_name)};
     const EntryFields fields(reader[0], ids, "platin");
     Html5RichTextGenerator generator;
     std::cout << fields.fields.at(0).item.mark_up_text(generator) << '\n';

@@ -90,5 +90,5 @@ TEST(Search, WritesEachTextWithItsMatches) {
         EXPECT_EQ(done.good, std::string(c.texts).find("</j><j>") == std::string::npos);
     }
     EXPECT_FALSE(row_named(search_kinds(), "numeric")->takes("gluco"));
-    EXPECT_EQ(field_of(fields_named("Z, Z',Color").at(0)).source->name, std::string("z"));
+    EXPECT_EQ(fields_named("Z, Z',Color").at(0).source->name, std::string("z"));
 }

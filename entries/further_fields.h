@@ -1,0 +1,23 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "entries/BlockReader.h"
+
+/// A field beyond the catalogue, which a CIF file may tell of an entry besides.
+struct FurtherField {
+    const char* label;
+    const char* source;  ///< The kind of its texts.
+    const char* search;  ///< How it is searched and compared.
+    /// Its text, empty where the block has none.
+    std::string (*text_of)(BlockReader& block);
+};
+
+std::span<const FurtherField> further_fields();
+
+/// The group under which they are listed, behind those of the catalogue.
+inline constexpr char further_group[] = "Further Details";
+
+/// Adds a text for each of them that the block has.
+void read_further_fields(BlockReader& block);
