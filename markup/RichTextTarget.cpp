@@ -6,6 +6,7 @@
 
 #include "markup/AnsiRichTextGenerator.h"
 #include "markup/CifRichTextGenerator.h"
+#include "markup/CifTextRichTextGenerator.h"
 #include "markup/Html5RichTextGenerator.h"
 #include "markup/HtmlRichTextGenerator.h"
 #include "markup/LatexRichTextGenerator.h"
@@ -37,6 +38,9 @@ constexpr RichTextTarget target_rows[] = {
      make<HtmlRichTextGenerator>, lines, Use::none},
     {"qt", "html", "Qt rich text; the text is not escaped", false, make<QtRichTextGenerator>, lines,
      Use::none},
+    {"cif-text", "cif",
+     "texts of CIF files, whole: codes for all that ASCII lacks and has a code, <i>, <b>", true,
+     make<CifTextRichTextGenerator>, lines, Use::none},
     {"html5", "html", "HTML5 for pages: text escaped, Greek letters in Unicode, bars as overlines",
      true, make<Html5RichTextGenerator>, lines, Use::page},
     {"latex", "tex", "LaTeX, with the package xcolor for colours; the text is escaped", true,

@@ -8,46 +8,12 @@
 #include "markup/UnicodeTagFactory.h"
 #include "markup/Utf8.h"
 #include "markup/internal/controls.h"
+#include "markup/internal/script_forms.h"
 #include "text/Position.h"
 
 namespace {
 
 constexpr std::string_view overline = "\u0305";
-
-/// The characters that stand for another in a script; 0 where there is none.
-struct ScriptForms {
-    char32_t base;
-    char32_t superscript;
-    char32_t subscript;
-};
-
-// As Unicode's compatibility decompositions have them, ascending; the hyphen shares the forms of
-// the minus sign. Those of C, F, Q and q are so young that fonts lack them.
-constexpr ScriptForms script_forms[] = {
-    {U'(', U'⁽', U'₍'}, {U')', U'⁾', U'₎'}, {U'+', U'⁺', U'₊'}, {U'-', U'⁻', U'₋'},
-    {U'0', U'⁰', U'₀'}, {U'1', U'¹', U'₁'}, {U'2', U'²', U'₂'}, {U'3', U'³', U'₃'},
-    {U'4', U'⁴', U'₄'}, {U'5', U'⁵', U'₅'}, {U'6', U'⁶', U'₆'}, {U'7', U'⁷', U'₇'},
-    {U'8', U'⁸', U'₈'}, {U'9', U'⁹', U'₉'}, {U'=', U'⁼', U'₌'}, {U'A', U'ᴬ', 0},
-    {U'B', U'ᴮ', 0},    {U'D', U'ᴰ', 0},    {U'E', U'ᴱ', 0},    {U'G', U'ᴳ', 0},
-    {U'H', U'ᴴ', 0},    {U'I', U'ᴵ', 0},    {U'J', U'ᴶ', 0},    {U'K', U'ᴷ', 0},
-    {U'L', U'ᴸ', 0},    {U'M', U'ᴹ', 0},    {U'N', U'ᴺ', 0},    {U'O', U'ᴼ', 0},
-    {U'P', U'ᴾ', 0},    {U'R', U'ᴿ', 0},    {U'T', U'ᵀ', 0},    {U'U', U'ᵁ', 0},
-    {U'V', U'ⱽ', 0},    {U'W', U'ᵂ', 0},    {U'a', U'ᵃ', U'ₐ'}, {U'b', U'ᵇ', 0},
-    {U'c', U'ᶜ', 0},    {U'd', U'ᵈ', 0},    {U'e', U'ᵉ', U'ₑ'}, {U'f', U'ᶠ', 0},
-    {U'g', U'ᵍ', 0},    {U'h', U'ʰ', U'ₕ'}, {U'i', U'ⁱ', U'ᵢ'}, {U'j', U'ʲ', U'ⱼ'},
-    {U'k', U'ᵏ', U'ₖ'}, {U'l', U'ˡ', U'ₗ'}, {U'm', U'ᵐ', U'ₘ'}, {U'n', U'ⁿ', U'ₙ'},
-    {U'o', U'ᵒ', U'ₒ'}, {U'p', U'ᵖ', U'ₚ'}, {U'r', U'ʳ', U'ᵣ'}, {U's', U'ˢ', U'ₛ'},
-    {U't', U'ᵗ', U'ₜ'}, {U'u', U'ᵘ', U'ᵤ'}, {U'v', U'ᵛ', U'ᵥ'}, {U'w', U'ʷ', 0},
-    {U'x', U'ˣ', U'ₓ'}, {U'y', U'ʸ', 0},    {U'z', U'ᶻ', 0},    {U'β', U'ᵝ', U'ᵦ'},
-    {U'γ', U'ᵞ', U'ᵧ'}, {U'δ', U'ᵟ', 0},    {U'θ', U'ᶿ', 0},    {U'ρ', 0, U'ᵨ'},
-    {U'φ', U'ᵠ', U'ᵩ'}, {U'χ', U'ᵡ', U'ᵪ'}, {U'−', U'⁻', U'₋'}};
-
-constexpr bool is_ascending() {
-    return std::is_sorted(
-        std::begin(script_forms), std::end(script_forms),
-        [](const ScriptForms& a, const ScriptForms& b) { return a.base < b.base; });
-}
-static_assert(is_ascending());
 
 using Script = char32_t ScriptForms::*;
 
@@ -59,11 +25,8 @@ Script script_of(TextItemStyle::Kind kind) {
 
 /// The form of the character at the front of `text`, or 0.
 char32_t script_form(std::string_view text, Script script) {
-    const Utf8Character character = first_character(text);
-    const ScriptForms* row =
-        std::lower_bound(std::begin(script_forms), std::end(script_forms), character.code,
-                         [](const ScriptForms& forms, char32_t code) { return forms.base < code; });
-    return row != std::end(script_forms) && row->base == character.code ? row->*script : 0;
+    const ScriptForms* const forms = script_forms_of(first_character(text).code);
+    return forms ? forms->*script : 0;
 }
 
 bool has_script_forms(std::string_view text, Script script) {

@@ -2,11 +2,13 @@
 
 #include "finders/CellAngleStyleFinder.h"
 #include "finders/CifChemicalNameStyleFinder.h"
+#include "finders/CifTextStyleFinder.h"
 #include "finders/CombinedCellLengthsStyleFinder.h"
 #include "finders/SpaceGroupStyleFinder.h"
 #include "finders/TevoChemicalFormulaStyleFinder.h"
 #include "finders/TevoChemicalNameStyleFinder.h"
 #include "finders/TevoPublicationStyleFinder.h"
+#include "finders/UnicodeTextStyleFinder.h"
 #include "finders/Z_ZPrimeStyleFinder.h"
 
 namespace {
@@ -23,6 +25,12 @@ constexpr Source source_rows[] = {
      make<TevoChemicalNameStyleFinder>, false},
     {"cif-name", "a chemical name in the text conventions of CIF files: \\a, ~2~, ^2^",
      make<CifChemicalNameStyleFinder>, true},
+    {"cif-text",
+     "a text of a CIF file with all its codes: \\a, \\'e, \\\\times, ~2~, ^2^, <i>, &lt;",
+     make<CifTextStyleFinder>, false},
+    {"unicode",
+     "a text pasted from a page or a paper: Greek letters, raised and lowered characters",
+     make<UnicodeTextStyleFinder>, false},
     {"formula", "a chemical formula: C6 H12 N1 O2 1+", make<TevoChemicalFormulaStyleFinder>, false},
     {"spacegroup", "a space-group symbol: P2<sub>1</sub>/c, P<bar>1</bar>",
      make<SpaceGroupStyleFinder>, false},

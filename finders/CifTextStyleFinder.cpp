@@ -1,0 +1,36 @@
+#include "finders/CifTextStyleFinder.h"
+
+#include "finders/internal/CifTextParser.h"
+
+namespace {
+
+void append(std::vector<StringSlice>& out, const std::vector<StringSlice>& slices) {
+    out.insert(out.end(), slices.begin(), slices.end());
+}
+
+}  // namespace
+
+CifTextStyleFinder::~CifTextStyleFinder() = default;
+
+void CifTextStyleFinder::bold(std::vector<StringSlice>& out) const { append(out, found_.bold); }
+void CifTextStyleFinder::italic(std::vector<StringSlice>& out) const { append(out, found_.italic); }
+void CifTextStyleFinder::subscripts(std::vector<StringSlice>& out) const {
+    append(out, found_.subscripts);
+}
+void CifTextStyleFinder::superscripts(std::vector<StringSlice>& out) const {
+    append(out, found_.superscripts);
+}
+void CifTextStyleFinder::invisible(std::vector<StringSlice>& out) const {
+    append(out, found_.invisible);
+}
+void CifTextStyleFinder::replacement_text(std::vector<ReplacementTextSlice>& out) const {
+    out.insert(out.end(), found_.replacements.begin(), found_.replacements.end());
+}
+void CifTextStyleFinder::greek(std::vector<GreekSlice>& out) const {
+    out.insert(out.end(), found_.greek.begin(), found_.greek.end());
+}
+
+void CifTextStyleFinder::calc_tag_positions() {
+    found_ = {};
+    CifTextParser(text(), found_).parse();
+}

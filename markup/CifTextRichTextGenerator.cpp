@@ -1,0 +1,168 @@
+#include "markup/CifTextRichTextGenerator.h"
+
+#include "markup/CifTextTagFactory.h"
+#include "markup/TextItemToUnicodeGreek.h"
+#include "markup/Utf8.h"
+#include "markup/internal/cif_codes.h"
+#include "markup/internal/compositions.h"
+#include "markup/internal/controls.h"
+
+namespace {
+
+using Kind = TextItemStyle::Kind;
+
+constexpr std::string_view overline = "\u0305";
+constexpr std::array<bool, 256> stands_for_itself = ascii_but("\\~^&<-+");
+constexpr std::size_t longest_code = 16;
+
+/// The code of a letter, with those of its accents; empty where it has none.
+std::string letter_code(char32_t letter) {
+    std::string code;
+    while (true) {
+        if (letter < 0x80) return code += static_cast<char>(letter);
+        if (const CifCode* const known = cif_code_of(letter)) return code.append(known->code);
+        const std::optional<Accented> parts = decomposed(letter);
+        if (!parts || cif_accent_of(parts->mark) == 0) return {};
+        code += {'\\', cif_accent_of(parts->mark)};
+        letter = parts->letter;
+    }
+}
+
+/// A character that is alone, or carries marks that Unicode has no character with.
+struct Unit {
+    std::string code;  // empty: the characters stay
+    std::size_t size;
+};
+
+Unit first_unit(std::string_view text) {
+    const Utf8Character first = first_character(text);
+    Unit unit{first.valid ? letter_code(first.code) : "", first.size};
+    if (unit.code.empty() || !is_letter_of_text(first.code)) return unit;
+    char32_t single = first.code;
+    while (unit.size < text.size()) {
+        const Utf8Character mark = first_character(text.substr(unit.size));
+        const char accent = cif_accent_of(mark.code);
+        if (accent == 0 || composed(single, mark.code) != 0) break;
+        unit.code.insert(0, {'\\', accent});
+        unit.size += mark.size;
+        single = 0;
+    }
+    return unit;
+}
+
+bool is_dash(char c) { return c == '-' || c == '+'; }
+
+/// Whether a code that begins with a dash or a plus would be read with what stands before it.
+bool would_join(std::string_view result, std::string_view code) {
+    return !result.empty() && is_dash(result.back()) && is_dash(code.front()) &&
+           (result.back() == '-' || code.front() == '-');
+}
+
+/// Whether a sign of ASCII would be read as the beginning of something.
+bool begins_something(std::string_view text) {
+    return text.front() == '\\' || ((text.front() == '&' || text.front() == '<' ||
+                                     text.front() == '~' || text.front() == '^') &&
+                                    may_begin_entity_or_mark(text));
+}
+
+void append_entity(std::string& result, char32_t code) {
+    if (code == '&' || code == '<') {
+        result += code == '&' ? "&amp;" : "&lt;";
+        return;
+    }
+    int digits = 2;
+    while (code >> 4 * digits != 0) ++digits;
+    result += "&#x";
+    append_hexadecimal(result, code, digits);
+    result += ';';
+}
+
+}  // namespace
+
+CifTextRichTextGenerator::CifTextRichTextGenerator()
+    : NestingRichTextGenerator(make_handle<CifTextTagFactory>(),
+                               make_handle<TextItemToUnicodeGreek>()) {}
+
+CifTextRichTextGenerator::~CifTextRichTextGenerator() = default;
+
+std::string CifTextRichTextGenerator::mark_up_text(const RichTextData& data) const {
+    scripts_.clear();
+    script_is_open_.fill(false);
+    bars_ = 0;
+    return NestingRichTextGenerator::mark_up_text(data);
+}
+
+void CifTextRichTextGenerator::write_text(std::string& result, std::string_view text) const {
+    while (!text.empty()) {
+        std::size_t plain = 0;
+        while (plain < text.size() && bars_ == 0 &&
+               stands_for_itself[static_cast<unsigned char>(text[plain])]) {
+            ++plain;
+        }
+        // The last may carry an accent; the first may go on a code that stands before it.
+        if (plain > 2) {
+            const std::size_t first = write_character(result, text);
+            result += text.substr(first, plain - 1 - first);
+            text.remove_prefix(plain - 1);
+        }
+        text.remove_prefix(write_character(result, text));
+    }
+}
+
+/// Appends the character at the front of `text`, with its marks; returns its size.
+std::size_t CifTextRichTextGenerator::write_character(std::string& result,
+                                                      std::string_view text) const {
+    const Unit unit = first_unit(text);
+    const std::string_view characters = text.substr(0, unit.size);
+    const Utf8Character first = first_character(text);
+    const bool is_ascii = unit.size == 1 && first.code < 0x80;
+    const std::string_view behind = text.substr(unit.size, longest_code);
+    if (is_ascii && (begins_something(text) || would_join(result, characters))) {
+        append_entity(result, first.code);
+    } else if (is_ascii || unit.code.empty()) {
+        const bool degree = result.ends_with("\\%") && (first.code == 'a' || first.code == 'A');
+        const bool similar = result.ends_with("\\\\sim") && (text.starts_with("eq") || text == "e");
+        if (degree || similar) {
+            append_entity(result, first.code);
+        } else {
+            result += characters;
+        }
+    } else {
+        const CifCode* const code = first_cif_code(unit.code + std::string(behind));
+        const bool goes_on = code && unit.code.size() < code->code.size();
+        if (goes_on || would_join(result, unit.code)) {
+            result += characters;
+        } else {
+            result += unit.code;
+            if (code && takes_blank(*code)) result += ' ';
+        }
+    }
+    if (bars_ > 0) result += overline;
+    return unit.size;
+}
+
+void CifTextRichTextGenerator::write_tag(std::string& result, const std::string& tag, Kind kind,
+                                         bool opens) const {
+    if (kind == Kind::overstrike) {
+        bars_ = opens ? bars_ + 1 : bars_ - 1;
+    } else if (kind != Kind::subscript && kind != Kind::superscript) {
+        result += tag;
+    } else if (opens) {
+        // A second tilde would close the first.
+        bool& open = script_is_open_[kind == Kind::subscript ? 0 : 1];
+        const char* const nested = kind == Kind::subscript ? "sub>" : "sup>";
+        scripts_.push_back({result.size(), open ? nested : tag, open ? nullptr : &open});
+        result.append(open ? "<" : "").append(scripts_.back().tag);
+        open = true;
+    } else {
+        const Script script = scripts_.back();
+        scripts_.pop_back();
+        if (script.is_open) *script.is_open = false;
+        const std::size_t size = script.tag.size() + (script.is_open ? 0 : 1);
+        if (result.size() == script.from + size) {
+            result.resize(script.from);  // two tildes beside each other are no script
+        } else {
+            result.append(script.is_open ? "" : "</").append(script.tag);
+        }
+    }
+}

@@ -1,0 +1,3 @@
+#include "markup/CifTextTagFactory.h"
+
+CifTextTagFactory::~CifTextTagFactory() = default;

@@ -1,0 +1,148 @@
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "fuzz/cif_text_round_trips.h"
+#include "tests/Random.h"
+
+namespace {
+
+std::string unicode_of(const std::string& cif_text) {
+    return written_by<UnicodeRichTextGenerator>({make_handle<CifTextStyleFinder>(), cif_text});
+}
+
+std::string cif_text_of(const std::string& unicode) {
+    return written_by<CifTextRichTextGenerator>({make_handle<UnicodeTextStyleFinder>(), unicode});
+}
+
+struct Row {
+    std::string kind, code, character;
+};
+
+/// The codes as the journals list them.
+std::vector<Row> all_codes() {
+    std::ifstream file(CIF_TEXT_CODES);
+    std::vector<Row> rows;
+    std::string line;
+    std::getline(file, line);
+    while (std::getline(file, line)) {
+        std::istringstream columns(line);
+        Row& row = rows.emplace_back();
+        std::getline(columns, row.kind, '\t');
+        std::getline(columns, row.code, '\t');
+        std::getline(columns, row.character, '\t');
+    }
+    return rows;
+}
+
+}  // namespace
+
+TEST(CifText, EveryCodeIsReadAndWritten) {
+    const std::vector<Row> rows = all_codes();
+    ASSERT_EQ(rows.size(), 91U);
+    for (const Row& row : rows) {
+        const bool is_accent = row.kind == "accent", is_script = row.kind == "script";
+        const std::string code = is_accent ? row.code + "q" : row.code;
+        const std::string shown = is_accent ? "q" + row.character : row.character;
+        if (is_script) {
+            EXPECT_EQ(unicode_of("U" + code + "2" + code), code == "~" ? "U₂" : "U²");
+            EXPECT_EQ(cif_text_of(code == "~" ? "U₂" : "U²"), "U" + code + "2" + code);
+            continue;
+        }
+        EXPECT_EQ(unicode_of(code), shown);
+        const bool takes_blank = code.ends_with("b") && row.kind == "named";
+        EXPECT_EQ(unicode_of("C" + code + " C"), "C" + shown + (takes_blank ? "C" : " C"));
+        EXPECT_EQ(cif_text_of(shown), shown == "=" ? "=" : code + (takes_blank ? " " : ""));
+    }
+}
+
+TEST(CifText, ShowsWhatTheAuthorMeant) {
+    const struct {
+        std::string text, shown;
+        std::vector<std::string> doubts;
+    } cases[] = {
+        {"I.C\\'\\i \\\"\\?i \\'\\=u \\'e\\`A", "I.Cί ı̈ ū́ éÀ", {}},
+        {"U~eq~ U~iso~ F^2^ 10^-3^ a~1^b^~", "U_{eq} Uᵢₛₒ F² 10⁻³ a_{1ᵇ}", {}},
+        {"\\\\simeq\\\\simx\\\\db C", "≃∼x=C", {}},
+        {"5\\%A \\% a+-b-+c--d---e-----f", "5Å ° a±b∓c–d—e-----f", {}},
+        {"&lt;&amp;lt;&#181;&#x00B5;&alpha;&Omega;&quot;", "<&lt;µµαΩ\"", {}},
+        {"\\\nfol\\\nded \\\na", "folded a", {}},
+        {"<i>N</i>-<b>b<sub>c</sub></b>", "N-b_{c}", {}},
+        {"R&D a<b <c> 5 < 6 & 7", "R&D a<b <c> 5 < 6 & 7", {}},
+        {"\\j a\\ b\\\\frac{} \\", "\\j a\\ b\\\\frac{} \\", {"\\j", "\\", "\\\\frac", "\\"}},
+        {"\\' \\'5 \\~", "\\' \\'5 \\~", {"\\'", "\\'", "\\~"}},
+        {"&foo; &#xD800; &#1114112; &#0;",
+         "&foo; &#xD800; &#1114112; &#0;",
+         {"&foo;", "&#xD800;", "&#1114112;", "&#0;"}},
+        {"~5 a^b~c^ <i>d </b>", "_{5 a^b}c^ <i>d </b>", {"^", "^", "<i>", "</b>"}},
+        {"a~~b~", "a~~b~", {"~~", "~"}},
+        {"</i>x<sub>", "</i>x<sub>", {"</i>", "<sub>"}},
+        {"\xFF\\'\xFF", "\uFFFD\\'\uFFFD", {"\xFF", "\\'", "\xFF"}},
+        {"&#x202E;", "<U+202E>", {}},
+    };
+    for (const auto& test : cases) {
+        const auto finder = make_handle<CifTextStyleFinder>();
+        EXPECT_EQ(written_by<UnicodeRichTextGenerator>({finder, test.text}), test.shown);
+        std::vector<std::string> doubts;
+        for (const CifTextStyleFinder::Doubt& doubt : finder->doubts()) {
+            doubts.push_back(test.text.substr(doubt.place.from(), doubt.place.length()));
+        }
+        EXPECT_EQ(doubts, test.doubts) << test.text;
+    }
+}
+
+TEST(CifText, IsWrittenSoThatNothingIsReadOtherwise) {
+    const struct {
+        std::string unicode, codes;
+    } cases[] = {
+        {"∼eq ∼x °a °C", "∼eq \\\\simx °a \\%C"},
+        {"--- +- –- ±", "-&#x2D;- +&#x2D; –- +-"},
+        {"\\a ~^ &lt; &x R&D <i> <j>", "&#x5C;a &#x7E;&#x5E; &amp;lt; &x R&D &lt;i> <j>"},
+        {"Å ǖ ḗ ќ e\u0301 q\u0301", "\\%A \\=\\\"u \\'\\=e ќ e\u0301 \\'q"},
+        {"x_{a^{b_{c}}}²", "x~a^b<sub>c</sub>^~^2^"},
+        {"P1̅ µ ∆ ς", "P1̅ \\m \\D ς"},
+    };
+    for (const auto& test : cases) EXPECT_EQ(cif_text_of(test.unicode), test.codes);
+}
+
+TEST(CifText, ComesBackAsItWas) {
+    std::vector<std::string> pieces = {"~",    "^",    "<i>", "</i>", "<sub>", "</sub>", "<b>",
+                                       "</b>", "&lt;", "&",   "-",    "+",     "\\",     "a",
+                                       "A",    "e",    "q",   " ",    "2",     "C",      "²",
+                                       "₂",    "_{",   "^{",  "}",    "eq",    "\u0305", "\u0301"};
+    for (const Row& row : all_codes()) {
+        pieces.push_back(row.code);
+        if (!row.character.empty()) pieces.push_back(row.character);
+    }
+    Random random(14);
+    for (int i = 0; i < 30000; ++i) {
+        std::string text;
+        for (unsigned int length = random() % 12; length > 0; --length) {
+            text += pieces[random() % pieces.size()];
+        }
+        ASSERT_EQ(complaint_of_cif_text(text), "") << text;
+    }
+}
+
+TEST(CifText, IsAsciiWhereThereAreCodes) {
+    std::vector<std::string> letters = {"a", "A", "C", "e", "q", " ", "2", "-", "₂", "²", "⁻", "₊",
+                                        "é", "ü", "ō", "à", "ñ", "ż", "â", "ą", "š", "ç", "ő", "ğ"};
+    for (const Row& row : all_codes()) {
+        if (row.kind == "script" || row.kind == "accent") continue;
+        // Beside others of their kind, some would be read otherwise.
+        const bool joins = row.code[0] != '\\' || row.code == "\\%" || row.code == "\\\\sim";
+        letters.push_back(joins ? " " + row.character + " " : row.character);
+    }
+    Random random(15);
+    for (int i = 0; i < 30000; ++i) {
+        std::string text;
+        for (unsigned int length = random() % 12; length > 0; --length) {
+            text += letters[random() % letters.size()];
+        }
+        const std::string codes = cif_text_of(text);
+        ASSERT_EQ(unicode_of(codes), text) << codes;
+        const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+        ASSERT_TRUE(std::all_of(codes.begin(), codes.end(), is_ascii)) << codes;
+    }
+}
