@@ -16,6 +16,11 @@ public:
                 "says more)");
             return exit_trouble;
         }
+        if (ascii_) options_.ascii = ascii_form_of(*options_.to);
+        if (ascii_ && !options_.ascii) {
+            report(std::string(options_.to->name) + " cannot be written in ASCII alone");
+            return exit_trouble;
+        }
         const BatchOutcome outcome = batch_.process([&] { return make_conversion(options_); });
         return outcome.good ? exit_success : exit_failure;
     }
@@ -40,9 +45,13 @@ private:
             .add_option("--line-length", options_.line_length,
                         "Break lines after that many characters; 0: do not break")
             ->check(CLI::Range(0U, longest_line));
+        command.add_flag("--ascii", ascii_)
+            ->description(
+                "Write ASCII alone: the nearest letters, or references in cif-text and HTML");
         add_batch_options(command, batch_);
     }
 
+    bool ascii_ = false;
     ConvertOptions options_;
     TextBatch batch_;
 };

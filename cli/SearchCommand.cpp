@@ -22,6 +22,7 @@ public:
                    " (lmrtext search --help says more)");
             return exit_trouble;
         }
+        options_.positions = positions_.chosen();
         const BatchOutcome outcome = batch_.process([&] { return make_search(options_); });
         if (!outcome.good) return exit_trouble;
         return outcome.matched ? exit_success : exit_no_match;
@@ -66,11 +67,13 @@ private:
                        "What the texts are; plain unless given");
         add_row_option(command, choices, "--to", options_.to, search_outputs(),
                        "What to write; unless given, ansi on a terminal and html5 elsewhere");
+        add_position_options(command, choices, positions_);
         command.add_flag("--matching", options_.only_matching, "Write only the texts that match");
         add_batch_options(command, batch_);
     }
 
     SearchOptions options_;
+    ChosenPositions positions_;
     TextBatch batch_;
 };
 

@@ -6,6 +6,12 @@ namespace {
 
 constexpr unsigned int most_jobs = 1024;
 
+constexpr UnitRow unit_rows[] = {
+    {"bytes", "bytes of UTF-8", DisplayedText::bytes},
+    {"characters", "characters of Unicode", DisplayedText::characters},
+    {"utf16", "units of UTF-16, as in JavaScript and Qt", DisplayedText::utf16},
+};
+
 }  // namespace
 
 std::string help_of(const RichTextTarget& target) {
@@ -64,4 +70,16 @@ void add_tolerance_option(CLI::App& command, SearchSettings& settings) {
             if (is_tolerance(tolerance)) return std::string();
             return "'" + tolerance + "' is not a tolerance; expected a number of at least 0";
         });
+}
+
+std::optional<TextPositions> ChosenPositions::chosen() const {
+    if (!unit && !of_displayed) return std::nullopt;
+    return TextPositions{unit ? unit->unit : DisplayedText::bytes, of_displayed};
+}
+
+void add_position_options(CLI::App& command, Choices& choices, ChosenPositions& positions) {
+    add_row_option(command, choices, "--units", positions.unit, std::span<const UnitRow>(unit_rows),
+                   "In which units positions are told; bytes unless given");
+    command.add_flag("--displayed", positions.of_displayed)
+        ->description("Positions of the text as it is shown, not of the text with its codes");
 }

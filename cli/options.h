@@ -8,6 +8,7 @@
 #include "cli/Choices.h"
 #include "cli/TextBatch.h"
 #include "output/Output.h"
+#include "output/TextPositions.h"
 #include "tasks/SearchKind.h"
 #include "tasks/UnknownField.h"
 #include "tasks/View.h"
@@ -74,3 +75,18 @@ auto known_fields(Find find, const std::string& label) {
                                    "'; lmrtext fields --view internal lists them");
     }
 }
+
+/// How positions are told, where that is asked for.
+struct UnitRow {
+    const char* name;
+    const char* help;
+    DisplayedText::Unit unit;
+};
+struct ChosenPositions {
+    const UnitRow* unit = nullptr;
+    bool of_displayed = false;
+
+    std::optional<TextPositions> chosen() const;
+};
+
+void add_position_options(CLI::App& command, Choices& choices, ChosenPositions& positions);

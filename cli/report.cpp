@@ -1,6 +1,7 @@
 #include "cli/report.h"
 
 #include <cstdio>
+#include <set>
 #include <string_view>
 
 #include "markup/internal/controls.h"
@@ -27,7 +28,11 @@ constexpr std::size_t longest_quotation = 60;  // in characters of what was foun
 
 std::string place_of(const Problem& problem) {
     const std::string file = problem.file.empty() ? "" : problem.file + ':';
-    if (problem.line > 0) return file + std::to_string(problem.line) + ": ";
+    if (problem.line > 0) {
+        std::string place = file + std::to_string(problem.line);
+        if (problem.column > 0) place.append(":").append(std::to_string(problem.column));
+        return place.append(": ");
+    }
     return "lmrtext: " + file + (file.empty() ? "" : " ");
 }
 
@@ -50,4 +55,12 @@ std::string sentence(const Problem& problem) {
 
 void report(const std::string& message) { write_line("lmrtext: " + message); }
 
-void report(const Problem& problem) { write_line(place_of(problem) + sentence(problem)); }
+void report(const Problem& problem) {
+    static std::set<std::string> said;
+    const std::string text = sentence(problem);
+    if (!problem.is_of_run) {
+        write_line(place_of(problem) + text);
+    } else if (said.insert(text).second) {
+        report(text);
+    }
+}

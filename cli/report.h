@@ -8,5 +8,5 @@
 /// is not UTF-8 are shown as "?", and what turns the direction of writing by its number:
 /// "<U+202E>".
 void report(const std::string& message);
-/// Likewise, in a sentence: where, what was found and what was expected.
+/// Likewise, in a sentence: where, what was found and what was expected. Of a run, once.
 void report(const Problem& problem);

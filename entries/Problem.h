@@ -13,6 +13,7 @@ struct Problem {
     };
 
     Level level = Level::error;
+    bool is_of_run = false;  ///< Of all that is done, not of one text: to be said once.
     std::string file;        ///< As the user named it; empty where the front end knows.
     unsigned long line = 0;  ///< From 1; 0: not known. For lists of texts, the number of the text.
     unsigned long column = 0;                ///< In bytes, from 1; 0: not known.

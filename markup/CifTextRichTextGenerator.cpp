@@ -70,11 +70,7 @@ void append_entity(std::string& result, char32_t code) {
         result += code == '&' ? "&amp;" : "&lt;";
         return;
     }
-    int digits = 2;
-    while (code >> 4 * digits != 0) ++digits;
-    result += "&#x";
-    append_hexadecimal(result, code, digits);
-    result += ';';
+    append_hexadecimal_reference(result, code);
 }
 
 }  // namespace

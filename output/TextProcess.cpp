@@ -72,7 +72,9 @@ ProcessedTexts process_texts(std::string bytes, char separator, unsigned long fi
             problem.what = reason(error);
             if (process->failed()) done.output += *process->failed() + separator;
         }
-        for (std::size_t i = noted; i < done.problems.size(); ++i) done.problems[i].line = number;
+        for (std::size_t i = noted; i < done.problems.size(); ++i) {
+            if (!done.problems[i].is_of_run) done.problems[i].line = number;
+        }
     }
     done.matched = process->matched();
     return done;

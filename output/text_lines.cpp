@@ -8,7 +8,7 @@ namespace {
 class Conversion : public TextProcess {
 public:
     explicit Conversion(const ConvertOptions& options)
-        : converter_(*options.from, *options.to, options.line_length) {}
+        : converter_(*options.from, *options.to, options.line_length, options.ascii) {}
 
     std::optional<std::string> process(const std::string& text,
                                        std::vector<Problem>& problems) override {
@@ -23,6 +23,7 @@ class Search : public TextProcess {
 public:
     explicit Search(const SearchOptions& options)
         : only_matching_(options.only_matching),
+          positions_(options.positions),
           searcher_(*options.from, *options.how, options.settings, options.term) {
         if (options.to->target) generator_ = options.to->target->make_generator();
     }
@@ -44,14 +45,18 @@ public:
 private:
     std::string ranges_of(const std::string& text) {
         searcher_.search(text);
+        std::optional<PositionTeller> teller;
+        if (positions_) teller.emplace(searcher_.highlight(text), *positions_);
         std::string line = searcher_.found().matched() ? "true" : "false";
-        for (const StringSlice& range : searcher_.found().ranges()) {
+        for (const StringSlice& found : searcher_.found().ranges()) {
+            const StringSlice range = teller ? teller->told(found) : found;
             line += '\t' + std::to_string(range.from()) + '-' + std::to_string(range.to());
         }
         return line;
     }
 
     bool only_matching_;
+    std::optional<TextPositions> positions_;
     bool matched_ = false;
     TextSearcher searcher_;
     THandle<RichTextGenerator> generator_;  // null when only the ranges are written

@@ -1,5 +1,8 @@
 #include "tasks/Source.h"
 
+#include <algorithm>
+#include <string>
+
 #include "finders/CellAngleStyleFinder.h"
 #include "finders/CifChemicalNameStyleFinder.h"
 #include "finders/CifTextStyleFinder.h"
@@ -10,6 +13,7 @@
 #include "finders/TevoPublicationStyleFinder.h"
 #include "finders/UnicodeTextStyleFinder.h"
 #include "finders/Z_ZPrimeStyleFinder.h"
+#include "text/TextItem.h"
 
 namespace {
 
@@ -18,30 +22,65 @@ THandle<InputTextStyleFinder> make() {
     return make_handle<Finder>();
 }
 
+/// A Greek letter that no target can name and most leave out.
+void note_unknown_letters(const InputTextStyleFinder& finder, std::vector<Problem>& problems) {
+    std::vector<GreekSlice> letters;
+    finder.greek(letters);
+    const bool all_known = std::none_of(letters.begin(), letters.end(), [](const GreekSlice& l) {
+        return l.symbol() == TextItem::no_symbol;
+    });
+    if (all_known) return;
+    Problem& problem = problems.emplace_back();
+    problem.level = Problem::Level::warning;
+    problem.what = "Greek code without a letter";
+}
+
+constexpr std::size_t most_doubts = 10;  // of one text
+
+void note_doubts_of_codes(const InputTextStyleFinder& finder, std::vector<Problem>& problems) {
+    using Doubt = CifTextStyleFinder::Doubt;
+    const auto& doubts = dynamic_cast<const CifTextStyleFinder&>(finder).doubts();
+    for (const Doubt& doubt : doubts) {
+        Problem& problem = problems.emplace_back();
+        problem.level = Problem::Level::warning;
+        problem.column = doubt.place.from() + 1UL;
+        if (&doubt == &doubts[0] + most_doubts) {
+            problem.what = std::to_string(doubts.size() - most_doubts) + " more codes in doubt";
+            return;
+        }
+        problem.what = doubt.kind == Doubt::unknown_code        ? "unknown code"
+                       : doubt.kind == Doubt::unknown_reference ? "reference to no character"
+                       : doubt.kind == Doubt::lone_mark         ? "no partner for"
+                                                                : "not UTF-8";
+        problem.found = finder.text().substr(doubt.place.from(), doubt.place.length());
+    }
+}
+
 constexpr Source source_rows[] = {
     {"tevo-name",
      "a chemical name in the database's own mark-up: Greek letters spelled out, !2$ below and $2! "
      "above the line",
-     make<TevoChemicalNameStyleFinder>, false},
+     make<TevoChemicalNameStyleFinder>, nullptr, false},
     {"cif-name", "a chemical name in the text conventions of CIF files: \\a, ~2~, ^2^",
-     make<CifChemicalNameStyleFinder>, true},
+     make<CifChemicalNameStyleFinder>, note_unknown_letters, false},
     {"cif-text",
      "a text of a CIF file with all its codes: \\a, \\'e, \\\\times, ~2~, ^2^, <i>, &lt;",
-     make<CifTextStyleFinder>, false},
+     make<CifTextStyleFinder>, note_doubts_of_codes, true},
     {"unicode",
      "a text pasted from a page or a paper: Greek letters, raised and lowered characters",
-     make<UnicodeTextStyleFinder>, false},
-    {"formula", "a chemical formula: C6 H12 N1 O2 1+", make<TevoChemicalFormulaStyleFinder>, false},
+     make<UnicodeTextStyleFinder>, nullptr, true},
+    {"formula", "a chemical formula: C6 H12 N1 O2 1+", make<TevoChemicalFormulaStyleFinder>,
+     nullptr, false},
     {"spacegroup", "a space-group symbol: P2<sub>1</sub>/c, P<bar>1</bar>",
-     make<SpaceGroupStyleFinder>, false},
+     make<SpaceGroupStyleFinder>, nullptr, false},
     {"cell-lengths", "cell lengths behind labels: a 5.1 b 7.25(1) c 9",
-     make<CombinedCellLengthsStyleFinder>, false},
+     make<CombinedCellLengthsStyleFinder>, nullptr, false},
     {"cell-angles", "cell angles behind labels: a 90 b 100.5(3) g 90", make<CellAngleStyleFinder>,
-     false},
-    {"z", "formula units behind labels: Z: 4 Z': 1", make<Z_ZPrimeStyleFinder>, false},
+     nullptr, false},
+    {"z", "formula units behind labels: Z: 4 Z': 1", make<Z_ZPrimeStyleFinder>, nullptr, false},
     {"reference", "a literature reference: <j>Acta</j><v>57</v><y>2001</y><p>1</p>",
-     make<TevoPublicationStyleFinder>, false},
-    {"plain", "text without mark-up", make<InputTextStyleFinder>, false},
+     make<TevoPublicationStyleFinder>, nullptr, false},
+    {"plain", "text without mark-up", make<InputTextStyleFinder>, nullptr, false},
 };
 
 }  // namespace

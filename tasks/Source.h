@@ -1,7 +1,9 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
+#include "entries/Problem.h"
 #include "finders/InputTextStyleFinder.h"
 #include "host/THandle.h"
 
@@ -10,7 +12,10 @@ struct Source {
     const char* name;
     const char* help;
     THandle<InputTextStyleFinder> (*make_finder)();
-    bool may_lack_letters;  // whether the finder may report Greek letters with no symbol
+    /// Appends the doubts of its finder about the finder's text; null: it has none.
+    void (*note_doubts)(const InputTextStyleFinder& finder, std::vector<Problem>& problems);
+    bool is_coded;  ///< Whether a reader sees much else than stands in the text: it is searched as
+                    ///< it is shown.
 };
 
 std::span<const Source> sources();

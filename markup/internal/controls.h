@@ -85,6 +85,15 @@ inline void append_hexadecimal(std::string& result, char32_t number, int digits)
     while (digits-- > 0) result += "0123456789ABCDEF"[number >> 4 * digits & 0xF];
 }
 
+/// Appends a reference to a character by its number: "&#xE9;".
+inline void append_hexadecimal_reference(std::string& result, char32_t code) {
+    int digits = 2;
+    while (code >> 4 * digits != 0) ++digits;
+    result += "&#x";
+    append_hexadecimal(result, code, digits);
+    result += ';';
+}
+
 /// Appends the character at the front of `text`, which is not empty, so that it is seen: a control
 /// character by its Unicode symbol, or U+FFFD where it has none, what turns the direction by its
 /// number, "<U+202E>", and what is not UTF-8 by U+FFFD. Line feeds stay. Returns how many bytes of

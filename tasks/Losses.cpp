@@ -1,0 +1,103 @@
+#include "tasks/Losses.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "finders/InputTextStyleFinder.h"
+#include "markup/RichTextData.h"
+#include "markup/RichTextGenerator.h"
+#include "markup/RichTextTagFactory.h"
+#include "markup/TextItemToOtherGreek.h"
+#include "markup/ascii_text.h"
+
+namespace {
+
+using Kind = TextItemStyle::Kind;
+
+/// A kind of style that a target may lack, and how it is laid on a text.
+struct Row {
+    Kind kind;
+    const char* name;
+    void (*create)(TextItem& item);
+};
+
+constexpr Row rows[] = {
+    {Kind::bold, "bold text", [](TextItem& item) { item.create_bold(0, 1); }},
+    {Kind::italic, "italic text", [](TextItem& item) { item.create_italic(0, 1); }},
+    {Kind::overstrike, "bars", [](TextItem& item) { item.create_overstrike(0, 1); }},
+    {Kind::subscript, "subscripts", [](TextItem& item) { item.create_subscript(0, 1); }},
+    {Kind::superscript, "superscripts", [](TextItem& item) { item.create_superscript(0, 1); }},
+    {Kind::color, "colours", [](TextItem& item) { item.create_color(0, 1, TextItem::green4); }},
+};
+
+constexpr AsciiForm ascii_forms[] = {
+    {"tevo", folded_to_ascii, true},     {"cif", folded_to_ascii, true},
+    {"cif-text", with_references, true}, {"html", with_references, false},
+    {"qt", with_references, false},      {"html5", with_references, false},
+};
+
+/// Sees the styles of an item instead of writing them.
+class StyleKinds : public RichTextGenerator {
+public:
+    StyleKinds() : RichTextGenerator({}, {}) {}
+
+    std::string mark_up_text(const RichTextData& data) const override {
+        for (const auto& style : data.styles()) {
+            const auto* const row =
+                std::find_if(std::begin(rows), std::end(rows),
+                             [&](const Row& known) { return known.kind == style->kind(); });
+            if (row != std::end(rows) && !style->slice().empty()) {
+                has[static_cast<std::size_t>(row - std::begin(rows))] = true;
+            }
+        }
+        return {};
+    }
+
+    mutable std::array<bool, std::size(rows)> has{};
+};
+
+}  // namespace
+
+Losses::Losses(const RichTextTarget& target) : target_(target) {
+    const AsciiForm* const form = ascii_form_of(target);
+    is_ascii_ = form && form->is_usual;
+    const THandle<RichTextGenerator> generator = target.make_generator();
+    const TextItem plain(make_handle<InputTextStyleFinder>(), "x");
+    const std::string without = plain.mark_up_text(*generator);
+    static_assert(std::size(rows) == kinds);
+    for (std::size_t i = 0; i < kinds; ++i) {
+        TextItem styled = plain;
+        rows[i].create(styled);
+        is_lost_[i] = styled.mark_up_text(*generator) == without;
+    }
+}
+
+void Losses::note_styles(const TextItem& item, std::vector<Problem>& problems) {
+    if (std::none_of(is_lost_.begin(), is_lost_.end(), [](bool lost) { return lost; })) return;
+    StyleKinds found;
+    item.mark_up_text(found);
+    for (std::size_t i = 0; i < kinds; ++i) {
+        if (!is_lost_[i] || !found.has[i]) continue;
+        is_lost_[i] = false;
+        Problem& note = problems.emplace_back();
+        note.level = Problem::Level::note;
+        note.is_of_run = true;
+        note.what = std::string(target_.name) + " has no " + rows[i].name;
+    }
+}
+
+void Losses::note_characters(std::string_view mark_up, std::vector<Problem>& problems) const {
+    const std::string_view beyond = is_ascii_ ? first_beyond_ascii(mark_up) : std::string_view();
+    if (beyond.empty()) return;
+    Problem& note = problems.emplace_back();
+    note.level = Problem::Level::note;
+    note.what = std::string(target_.name) + " has no code for";
+    note.found = beyond;
+}
+
+const AsciiForm* ascii_form_of(const RichTextTarget& target) {
+    const auto* const form = std::find_if(
+        std::begin(ascii_forms), std::end(ascii_forms),
+        [&](const AsciiForm& known) { return std::string_view(known.target) == target.name; });
+    return form == std::end(ascii_forms) ? nullptr : form;
+}
