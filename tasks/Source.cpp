@@ -6,6 +6,7 @@
 #include "finders/CellAngleStyleFinder.h"
 #include "finders/CifChemicalNameStyleFinder.h"
 #include "finders/CifTextStyleFinder.h"
+#include "finders/CifFormulaStyleFinder.h"
 #include "finders/CombinedCellLengthsStyleFinder.h"
 #include "finders/SpaceGroupStyleFinder.h"
 #include "finders/TevoChemicalFormulaStyleFinder.h"
@@ -71,6 +72,9 @@ constexpr Source source_rows[] = {
      make<UnicodeTextStyleFinder>, nullptr, true},
     {"formula", "a chemical formula: C6 H12 N1 O2 1+", make<TevoChemicalFormulaStyleFinder>,
      nullptr, false},
+    {"cif-formula",
+     "a chemical formula as CIF files write it: Na1.7 (P O2)4, C18 H18 N4 2+, 2(B F4 1-)",
+     make<CifFormulaStyleFinder>, nullptr, false},
     {"spacegroup", "a space-group symbol: P2<sub>1</sub>/c, P<bar>1</bar>",
      make<SpaceGroupStyleFinder>, nullptr, false},
     {"cell-lengths", "cell lengths behind labels: a 5.1 b 7.25(1) c 9",
