@@ -1,89 +1,197 @@
-#include <exception>
 #include <gemmi/symmetry.hpp>
-#include <stdexcept>
 
 #include "entries/BlockReader.h"
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
+#include "entries/space_group_symbol.h"
+#include "entries/symmetry_operations.h"
 
 namespace {
 
 using Entry = CrystalStructureDatabaseEntry;
-
-// No group has more; gemmi's search for a group costs their square.
-constexpr std::size_t most_operations = 192;
-constexpr std::size_t longest_operation = 100;  // in characters
-
-/// An operation such as "-x,y+1/2,z"; throws where it is none. The sums that gemmi makes of
-/// long numbers would overflow.
-gemmi::Op operation(const std::string& text) {
-    std::size_t digits = 0;
-    for (const char c : text) {
-        digits = c >= '0' && c <= '9' ? digits + 1 : 0;
-        if (digits > 2 || text.size() > longest_operation) {
-            throw std::invalid_argument("no symmetry operation");
-        }
-    }
-    return gemmi::parse_triplet(text);
-}
-
-// These two give no group where gemmi refuses the item, so that the next item is tried.
-
-const gemmi::SpaceGroup* find_by_hall_symbol(const std::string& symbol) {
-    if (symbol.empty()) return nullptr;
-    try {
-        return gemmi::find_spacegroup_by_ops(gemmi::symops_from_hall(symbol.c_str()));
-    } catch (const std::exception&) {
-        return nullptr;
-    }
-}
-
-const gemmi::SpaceGroup* find_by_operations(BlockReader& block, const CifItem* item) {
-    if (!item) return nullptr;
+Operations listed_operations(BlockReader& block, const CifItem* item) {
+    if (!item) return {};
     if (item->size() > most_operations) {
         block.add_problem(*item, std::to_string(item->size()) + " operations, expected up to " +
                                      std::to_string(most_operations));
-        return nullptr;
+        return {};
     }
-    std::vector<gemmi::Op> operations;
-    try {
-        for (std::size_t row = 0; row < item->size(); ++row) {
-            operations.push_back(operation((*item)[row].text()));
-        }
-        return gemmi::find_spacegroup_by_ops(gemmi::split_centering_vectors(operations));
-    } catch (const std::exception&) {
-        return nullptr;
+    std::vector<std::string> texts;
+    for (std::size_t row = 0; row < item->size(); ++row) texts.push_back((*item)[row].text());
+    return operations_of_list(texts);
+}
+
+bool is_number_of_group(const UncertainValue& number) {
+    return number.value >= 1 && number.value <= 230;
+}
+
+/// What the items of a block say of its space group, and whether they say the same.
+class SpaceGroupReader {
+public:
+    SpaceGroupReader(BlockReader& block, const std::optional<Cell>& cell)
+        : block_(block),
+          alpha_(cell ? cell->alpha.degrees.value : 0),
+          gamma_(cell ? cell->gamma.degrees.value : 0) {}
+
+    /// The group that the first item says of which it can be found, or null.
+    const gemmi::SpaceGroup* find();
+    /// Whether the items say the same, and which cell is meant.
+    bool is_certain() const { return is_consistent_ && !axes_are_open(); }
+
+private:
+    struct Statement {
+        const CifItem* item;
+        Operations operations;
+    };
+    using Statements = std::vector<Statement>;
+
+    void take(const char* subject, const SpaceGroupSetting& setting) {
+        if (setting_.group || !setting.group) return;
+        subject_ = subject;
+        setting_ = setting;
+    }
+    void take_first(const char* subject, const Statements& statements) {
+        if (!statements.empty()) take(subject, {group_of(statements[0].operations)});
+    }
+    /// Whether a setting of the group has just that Hall symbol, which saves finding operations.
+    bool is_confirmed_by(std::string_view hall_symbol);
+    Statements hall_symbols();
+    Statements lists_of_operations();
+    void compare_symbols();
+    void compare_numbers();
+    void compare(const Statements& statements);
+    void compare(const CifItem& item, const Operations& operations);
+    void warn(const CifItem& item, const std::string& what);
+    void warn(const CifItem& item, const gemmi::SpaceGroup& other);
+    /// Whether the axes of a rhombohedral group are not known.
+    bool axes_are_open() const {
+        return setting_.group && setting_.group->ext == 'H' && setting_.origin_is_open;
+    }
+
+    BlockReader& block_;
+    double alpha_, gamma_;  // in degrees
+    const char* subject_ = "";
+    SpaceGroupSetting setting_;
+    bool is_consistent_ = true;
+};
+
+bool SpaceGroupReader::is_confirmed_by(std::string_view hall_symbol) {
+    if (!setting_.group || hall_symbol.empty()) return false;
+    for (const gemmi::SpaceGroup& group : gemmi::spacegroup_tables::main) {
+        if (hall_symbol != group.hall || !allows(setting_, group)) continue;
+        setting_ = {&group};
+        return true;
+    }
+    return false;
+}
+
+SpaceGroupReader::Statements SpaceGroupReader::hall_symbols() {
+    Statements statements;
+    for (const std::string_view tag : cif_tags::hall_symbol) {
+        const BlockReader::Value value = block_.first_value(just(tag));
+        const std::string symbol = one_line(value.text);
+        if (is_confirmed_by(symbol)) continue;
+        Operations operations = operations_of_hall_symbol(symbol);
+        if (!operations.empty()) statements.push_back({value.item, std::move(operations)});
+    }
+    return statements;
+}
+
+SpaceGroupReader::Statements SpaceGroupReader::lists_of_operations() {
+    Statements statements;
+    for (const std::string_view tag : cif_tags::operations) {
+        const CifItem* const item = block_.item(tag);
+        Operations operations = listed_operations(block_, item);
+        if (!operations.empty()) statements.push_back({item, std::move(operations)});
+    }
+    return statements;
+}
+
+const gemmi::SpaceGroup* SpaceGroupReader::find() {
+    for (const std::string_view tag : cif_tags::symbol) {
+        take("the symbol ", find_space_group(block_.first_text(just(tag)), alpha_, gamma_));
+    }
+    const Statements by_hall_symbol = hall_symbols();
+    const Statements by_operations = lists_of_operations();
+    take_first("the Hall symbol's group ", by_hall_symbol);
+    take_first("the operations' group ", by_operations);
+    const std::optional<UncertainValue> number =
+        read_number(block_.first_text(cif_tags::group_number));
+    if (number && is_number_of_group(*number)) {
+        const auto* const group = gemmi::find_spacegroup_by_number(static_cast<int>(number->value));
+        take("the number's group ", find_space_group(group->hm, alpha_, gamma_));
+    }
+    if (!setting_.group) return nullptr;
+    compare_symbols();
+    compare(by_hall_symbol);
+    compare(by_operations);
+    compare_numbers();
+    return setting_.group;
+}
+
+void SpaceGroupReader::compare_symbols() {
+    for (const std::string_view tag : cif_tags::symbol) {
+        const BlockReader::Value value = block_.first_value(just(tag));
+        const SpaceGroupSetting other = find_space_group(one_line(value.text), alpha_, gamma_);
+        if (!other.group || allows(setting_, *other.group)) continue;
+        if (!allows(other, *setting_.group)) warn(*value.item, *other.group);
     }
 }
 
-const gemmi::SpaceGroup* find_space_group(BlockReader& block, const Entry& entry) {
-    const std::optional<Cell>& cell = entry.crystal_info->cell;
-    const double alpha = cell ? cell->alpha.degrees.value : 0;
-    const double gamma = cell ? cell->gamma.degrees.value : 0;
-    const std::string symbol = block.first_text(cif_tags::symbol);
-    const std::string hall_symbol = block.first_text(cif_tags::hall_symbol);
-    const CifItem* const operations = block.item(cif_tags::operations[0]);
-    const CifItem* const older_operations = block.item(cif_tags::operations[1]);
-    const std::optional<UncertainValue> number =
-        read_number(block.first_text(cif_tags::group_number));
-    const gemmi::SpaceGroup* group = nullptr;
-    // To gemmi some numbers are symbols too.
-    if (!symbol.empty() && (symbol[0] < '0' || symbol[0] > '9')) {
-        group = gemmi::find_spacegroup_by_name(symbol, alpha, gamma);
+void SpaceGroupReader::compare_numbers() {
+    for (const std::string_view tag : cif_tags::group_number) {
+        const BlockReader::Value value = block_.first_value(just(tag));
+        const std::optional<UncertainValue> number = read_number(value.text);
+        const int own = setting_.group->number;
+        if (!number || !is_number_of_group(*number) || number->value == own) continue;
+        warn(*value.item, "is of number " + std::to_string(own) + ", not " + one_line(value.text));
     }
-    if (!group) group = find_by_hall_symbol(hall_symbol);
-    if (!group) group = find_by_operations(block, operations ? operations : older_operations);
-    if (!group && number && number->value >= 1 && number->value <= 230) {
-        group = gemmi::find_spacegroup_by_number(static_cast<int>(number->value));
+}
+
+void SpaceGroupReader::compare(const Statements& statements) {
+    for (const Statement& statement : statements) compare(*statement.item, statement.operations);
+}
+
+void SpaceGroupReader::compare(const CifItem& item, const Operations& operations) {
+    for (const gemmi::SpaceGroup& group : gemmi::spacegroup_tables::main) {
+        if (!allows(setting_, group)) continue;
+        if (group.operations().all_ops_sorted() != operations) continue;
+        setting_ = {&group};  // it is what the symbol left open
+        return;
     }
-    return group;
+    const gemmi::SpaceGroup* const other = group_of(operations);
+    const std::size_t own = static_cast<std::size_t>(setting_.group->operations().order());
+    if (other) {
+        warn(item, *other);
+    } else if (operations.size() != own) {
+        warn(item, "has " + std::to_string(own) + " operations, not " +
+                       std::to_string(operations.size()));
+    } else {
+        warn(item, "has other operations");
+    }
+}
+
+void SpaceGroupReader::warn(const CifItem& item, const gemmi::SpaceGroup& other) {
+    const int own = setting_.group->number;
+    warn(item, own == other.number ? "is of another setting than " + other.xhm()
+                                   : "is of number " + std::to_string(own) + ", not " +
+                                         std::to_string(other.number));
+}
+
+void SpaceGroupReader::warn(const CifItem& item, const std::string& what) {
+    is_consistent_ = false;
+    std::string text = subject_;
+    text += name_of(setting_);
+    text += ' ';
+    block_.add_problem(item, text + what).level = Problem::Level::warning;
 }
 
 }  // namespace
 
 void read_space_group(BlockReader& block, Entry& entry) {
     CrystalInfo& info = *entry.crystal_info;
-    const gemmi::SpaceGroup* const group = find_space_group(block, entry);
+    SpaceGroupReader reader(block, info.cell);
+    const gemmi::SpaceGroup* const group = reader.find();
     const BlockReader::Value symbol = block.first_value(cif_tags::symbol);
     if (group) {
         info.spacegroup = {group->hm, group->number, group->centring_type()};
@@ -97,5 +205,6 @@ void read_space_group(BlockReader& block, Entry& entry) {
     const std::optional<UncertainValue> z = block.number(just(cif_tags::z));
     if (!z) return;
     info.z = z->value;
-    if (group) info.z_prime = z->value / group->operations().order();
+    // Where the items disagree, so may the numbers of operations; 0 says that it is not known.
+    if (group && reader.is_certain()) info.z_prime = z->value / group->operations().order();
 }
