@@ -3,6 +3,7 @@
 
 #include "finders/CellAngleStyleFinder.h"
 #include "finders/CifChemicalNameStyleFinder.h"
+#include "finders/CifFormulaStyleFinder.h"
 #include "finders/CombinedCellLengthsStyleFinder.h"
 #include "finders/SpaceGroupStyleFinder.h"
 #include "finders/TevoChemicalFormulaStyleFinder.h"
@@ -32,6 +33,7 @@ constexpr THandle<InputTextStyleFinder> (*finders[])() = {
     make<CombinedCellLengthsStyleFinder>,
     make<Z_ZPrimeStyleFinder>,
     make<TevoPublicationStyleFinder>,
+    make<CifFormulaStyleFinder>,
 };
 
 /// What the item's runs show.

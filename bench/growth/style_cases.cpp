@@ -2,6 +2,7 @@
 
 #include "bench/growth/Case.h"
 #include "finders/CifChemicalNameStyleFinder.h"
+#include "finders/CifFormulaStyleFinder.h"
 #include "finders/CombinedCellLengthsStyleFinder.h"
 #include "finders/SpaceGroupStyleFinder.h"
 #include "finders/TevoChemicalFormulaStyleFinder.h"
@@ -120,6 +121,8 @@ std::vector<Case> style_cases() {
         found<Cif>("cif letters", 2000, "", "\\a~2~"),
         found<TevoChemicalFormulaStyleFinder>("formula", 2000, "", "C12 H3 "),
         found<TevoChemicalFormulaStyleFinder>("formula digits", 8000, "C", "9"),
+        found<CifFormulaStyleFinder>("cif formula", 2000, "", "C1-x H3.5 2+, "),
+        found<CifFormulaStyleFinder>("cif formula dots", 8000, "C", "1."),
         found<SpaceGroupStyleFinder>("space group", 2000, "P", "2<sub>1</sub><bar>1</bar>"),
         found<SpaceGroupStyleFinder>("space group unclosed", 4000, "P", "<sub>"),
         found<CombinedCellLengthsStyleFinder>("cell lengths", 8000, "a 1 b 2 c 3", " 4"),
