@@ -74,14 +74,17 @@ Problem& BlockReader::add_problem(const CifItem& item, std::string what) {
     return problem;
 }
 
-void BlockReader::add_problem(const Value& value, std::string what) {
-    add_problem(*value.item, std::move(what)).found = one_line(value.text);
+Problem& BlockReader::add_problem(const Value& value, std::string what) {
+    Problem& problem = add_problem(*value.item, std::move(what));
+    problem.found = one_line(value.text);
+    return problem;
 }
 
-void BlockReader::add_unexpected(const Value& value, std::string expected) {
+Problem& BlockReader::add_unexpected(const Value& value, std::string expected) {
     Problem& problem = add_problem(*value.item, "");
     problem.found = one_line(value.text);
     problem.expected = std::move(expected);
+    return problem;
 }
 
 void BlockReader::note_repetitions() {

@@ -55,8 +55,8 @@ public:
     /// @}
     /// Likewise of a value, which belongs to what is wrong, or is not what was expected.
     /// @{
-    void add_problem(const Value& value, std::string what);
-    void add_unexpected(const Value& value, std::string expected);
+    Problem& add_problem(const Value& value, std::string what);
+    Problem& add_unexpected(const Value& value, std::string expected);
     /// @}
     /// Adds a text of a field that says more than the records.
     void add_text(EntryText text) { texts_.push_back(std::move(text)); }
@@ -76,11 +76,13 @@ private:
 // Each fills the part of an entry that its name says.
 
 void read_texts(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+void read_melting_point(BlockReader& block, CrystalStructureDatabaseEntry& entry);
 void read_names(BlockReader& block, CrystalStructureDatabaseEntry& entry);
 void read_publication(BlockReader& block, CrystalStructureDatabaseEntry& entry);
 void read_dates(BlockReader& block, CrystalStructureDatabaseEntry& entry);
 /// The numbers of the entry in journals, archives and databases.
 void read_numbers_elsewhere(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+/// The cell and its volume, which the file may give besides.
 void read_cell(BlockReader& block, CrystalStructureDatabaseEntry& entry);
 /// Symbol, reduced cell, Z and Z'; wants the cell to be read.
 void read_space_group(BlockReader& block, CrystalStructureDatabaseEntry& entry);

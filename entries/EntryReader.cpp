@@ -7,6 +7,7 @@ CifEntry EntryReader::operator[](std::size_t index) const {
     BlockReader block(document_, document_.block(index));
     const auto entry = make_handle<CrystalStructureDatabaseEntry>();
     read_texts(block, *entry);
+    read_melting_point(block, *entry);
     read_names(block, *entry);
     read_publication(block, *entry);
     read_dates(block, *entry);

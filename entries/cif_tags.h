@@ -19,9 +19,14 @@ inline constexpr std::string_view editor_code = "_journal_coeditor_code";
 inline constexpr std::string_view database_prefix = "_database_code_";
 inline constexpr std::string_view deposition_prefix = "_database_code_depnum_";
 
+inline constexpr std::string_view melting_point = "_chemical_melting_point";
+inline constexpr std::string_view melting_point_above = "_chemical_melting_point_gt";
+inline constexpr std::string_view melting_point_below = "_chemical_melting_point_lt";
+
 inline constexpr std::string_view cell[] = {"_cell_length_a",   "_cell_length_b",
                                             "_cell_length_c",   "_cell_angle_alpha",
                                             "_cell_angle_beta", "_cell_angle_gamma"};
+inline constexpr std::string_view volume = "_cell_volume";
 inline constexpr std::string_view symbol[] = {"_space_group_name_h-m_alt",
                                               "_symmetry_space_group_name_h-m"};
 inline constexpr std::string_view hall_symbol[] = {"_space_group_name_hall",

@@ -22,7 +22,11 @@ std::vector<std::string> fields_of(const CifEntry& entry) {
     std::vector<std::string> fields;
     for (const LMRFieldNames::TextID id : ids) {
         const std::string text = FieldTextSupplier(id).text(entry.entry);
-        if (!text.empty()) fields.push_back(LMRFieldNames::text(id) + (": " + text));
+        const char* const label = LMRFieldNames::text(id);
+        if (!text.empty() && !entry.text(label)) fields.push_back(label + (": " + text));
+    }
+    for (const EntryText& text : entry.texts) {
+        fields.push_back(std::string(text.label) + ": " + text.text);
     }
     return fields;
 }
@@ -57,6 +61,16 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
         {cell + "0\n",
          {"Cell Lengths: a 10.234(5) b 12(3) c 9", "Cell Angles: a 90 b 90 g 0"},
          {"2 x : no cell has these edges and angles"}},
+        {"_cell_volume 700.8\n_chemical_melting_point '367-370'\n",
+         {"Cell Volume: 700.8", "Melting Point: 367-370 K"},
+         {}},
+        {"_chemical_melting_point '70 oC'\n", {"Melting Point: 70 oC"}, {}},
+        {"_chemical_melting_point_gt 500(2)\n_chemical_melting_point_lt 510\n",
+         {"Melting Point: > 500(2) K, < 510 K"},
+         {}},
+        {"_chemical_melting_point .3E-305\n",
+         {"Melting Point: .3E-305 K"},
+         {"2 x _chemical_melting_point:  '.3E-305' (a temperature in K)"}},
         {cell + "12(\n_cell_formula_units_Z 1e400\n_refine_ls_R_factor_gt -\n",
          {},
          {"7 x _cell_angle_gamma:  '12(' (a number)",
@@ -128,6 +142,38 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
         std::erase(fields, "Sohncke Group: unknown");
         EXPECT_THAT(fields, testing::UnorderedElementsAreArray(c.fields)) << c.items;
         EXPECT_THAT(problems_of(entry), ElementsAreArray(c.problems)) << c.items;
+    }
+}
+
+TEST(EntryReader, DoubtsVolumesThatTheCellCannotHave) {
+    const struct {
+        const char* cell;  // a, b, c and the angles, without measured ones at 90 degrees
+        const char* volume;
+        bool doubted;
+    } cases[] = {
+        // The edges make 1000; their uncertainties 0.17, half their last places 0.15.
+        {"10.000(1) 10.000(1) 10.000(1) 90 90 90", "1000.0(1)", false},
+        {"10.000(1) 10.000(1) 10.000(1) 90 90 90", "1000.7(1)", false},
+        {"10.000(1) 10.000(1) 10.000(1) 90 90 90", "1000.9(1)", true},
+        {"10.000 10.000 10.000 90 90 90", "1000.2", false},
+        {"10.000 10.000 10.000 90 90 90", "1000.3", true},
+        {"10.000 10.000 10.000 90 90 120", "866.0", false},  // 120 degrees are no measurement
+        {"10.000 10.000 10.000 90 90 120", "867.0", true},
+        {"10.000 10.000 10.000 90 90 119.0(5)", "867", false},
+        {"10.000 10.000 10.000 90 90 0", "867", false},  // is wrong for another reason
+    };
+    for (const auto& c : cases) {
+        const std::string cif =
+            "data_x _cell_volume " + std::string(c.volume) +
+            " loop_ _cell_length_a _cell_length_b _cell_length_c _cell_angle_alpha "
+            "_cell_angle_beta _cell_angle_gamma " +
+            c.cell;
+        const EntryReader reader(cif);
+        const CifEntry entry = reader[0];
+        const bool doubted = !entry.problems.empty() &&
+                             entry.problems[0].level == Problem::Level::warning &&
+                             entry.problems[0].item == "_cell_volume";
+        EXPECT_EQ(doubted, c.doubted) << c.cell << ' ' << c.volume;
     }
 }
 
