@@ -87,4 +87,7 @@ void read_cell(BlockReader& block, CrystalStructureDatabaseEntry& entry);
 /// Symbol, reduced cell, Z and Z'; wants the cell to be read.
 void read_space_group(BlockReader& block, CrystalStructureDatabaseEntry& entry);
 void read_measurements(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+/// Coordinates and disorder.
 void read_atoms(BlockReader& block, CrystalStructureDatabaseEntry& entry);
+/// The mean uncertainty of the bonds between carbon atoms.
+void read_bonds(BlockReader& block, CrystalStructureDatabaseEntry& entry);

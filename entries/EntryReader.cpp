@@ -16,6 +16,7 @@ CifEntry EntryReader::operator[](std::size_t index) const {
     read_space_group(block, *entry);
     read_measurements(block, *entry);
     read_atoms(block, *entry);
+    read_bonds(block, *entry);
     read_further_fields(block);
     block.note_repetitions();
     return {block.block(), entry, block.take_texts(), block.take_problems()};

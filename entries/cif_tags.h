@@ -43,7 +43,12 @@ inline constexpr std::string_view r_factor[] = {"_refine_ls_r_factor_gt", "_refi
                                                 "_refine_ls_r_factor_all"};
 inline constexpr std::string_view bond[] = {"_geom_bond_atom_site_label_1",
                                             "_geom_bond_atom_site_label_2", "_geom_bond_distance"};
-inline constexpr std::string_view atom[] = {"_atom_site_label", "_atom_site_fract_x",
-                                            "_atom_site_fract_y", "_atom_site_fract_z"};
+inline constexpr std::string_view atom_label = "_atom_site_label";
+inline constexpr std::string_view atom[] = {atom_label, "_atom_site_fract_x", "_atom_site_fract_y",
+                                            "_atom_site_fract_z"};
+inline constexpr std::string_view atom_type = "_atom_site_type_symbol";
+inline constexpr std::string_view atom_flag = "_atom_site_calc_flag";
+inline constexpr std::string_view disorder_assembly = "_atom_site_disorder_assembly";
+inline constexpr std::string_view disorder_group = "_atom_site_disorder_group";
 
 }  // namespace cif_tags

@@ -115,6 +115,20 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
           "4 x _symmetry_space_group_name_h-m: unknown space group '5'",
           "5 x _refine_ls_r_factor_gt:  '1e308' (a number)",
           "6 x _cell_length_a: given again; the first value counts"}},
+        {"loop_\n_atom_site_label\n_atom_site_type_symbol\n_atom_site_calc_flag\n"
+         "_atom_site_disorder_assembly\n_atom_site_disorder_group\n_atom_site_fract_x\n"
+         "_atom_site_fract_y\n_atom_site_fract_z\nX1 C4+ d A 1 0 0 0.5(1)\nC1 N d A 2 0 0 0\n"
+         "Co1 Co ? . . 0 0 0\nC9 C d A 1 0 . 0\nCg ? dum . 1 0 0 0\nCg1 . d . 1 0 0 0\n"
+         "loop_\n_geom_bond_atom_site_label_1\n_geom_bond_atom_site_label_2\n"
+         "_geom_bond_distance\nX1 C9 1.5(1)\nX1 C1 1.5(9)\nC9 CO1 1.5(9)\nC9 c1A 1.51(4)\n"
+         "C9 C12' 1.52\nC9 CX2 1.52(4)\nC9 Cl1 1.5(9)\n",
+         {"Number Of Coordinates: 3", "Average Sigma (C-C): 0.0600",
+          "Disorder: X1, C1 and 1 more atom over 2 positions"},
+         {}},
+        {"loop_\n_atom_site_label\n_atom_site_fract_x\n_atom_site_fract_y\n"
+         "_atom_site_fract_z\n_atom_site_disorder_group\nC1 0 0 0 -1\nC2 . . . -1\n",
+         {"Number Of Coordinates: 1", "Disorder: C1 and C2 over positions related by symmetry"},
+         {}},
         {"_chemical_name_common '~a^b~c^'\n_chemical_name_systematic x\\d-ok\n",
          {"Compound Name: x\\d-ok"},
          {"2 x _chemical_name_common: creating an overlapping style error in '~a^b~c^'"}},
