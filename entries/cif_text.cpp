@@ -114,19 +114,6 @@ std::optional<UncertainValue> read_number(std::string_view text) {
     return result;
 }
 
-std::optional<Date> read_date(std::string_view text) {
-    constexpr int days[] = {31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    text = trimmed(text);
-    const std::optional<int> year = read_whole<int>(take_part(text, '-'));
-    const std::optional<int> month = read_whole<int>(take_part(text, '-'));
-    const std::optional<int> day = read_whole<int>(take_part(text, 'T'));
-    if (!year || !month || !day) return std::nullopt;
-    if (*year < 1 || *month < 1 || *month > 12 || *day < 1 || *day > days[*month - 1]) {
-        return std::nullopt;
-    }
-    return Date{*year, *month, *day};
-}
-
 std::string without_accents(std::string_view text) {
     constexpr std::string_view accents = "'\"`^~;<=./,(%&";
     std::string result;

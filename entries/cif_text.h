@@ -23,7 +23,9 @@ std::string one_line(std::string_view text);
 /// A number with or without its standard uncertainty, such as "10.234(5)" or "1.2e3".
 std::optional<UncertainValue> read_number(std::string_view text);
 
-/// A day such as "2004-07-09", which the time of the day may follow as in "2004-07-09T16:19:55".
+/// A day such as "2004-07-09", "9-Jul-2004" or "Tue Jul 9 2004", with or without the time of the
+/// day, as in "2004-07-09T16:19:55". None where day and month can be told apart by neither their
+/// order nor their numbers: "9/7/2004".
 std::optional<Date> read_date(std::string_view text);
 
 /// The text without the codes of accents, which stand before their letters: "fur" for "f\"ur".

@@ -25,7 +25,8 @@ void read_publication(BlockReader& block, CrystalStructureDatabaseEntry& entry) 
         if (!name.empty()) article.authors.push_back(name);
     }
     const std::string last_page = block.first_text(just(cif_tags::last_page));
-    if (!article.page.empty() && !last_page.empty()) article.page += "-" + last_page;
+    if (article.page.empty() || last_page.empty() || last_page == article.page) return;
+    article.page.append("-").append(last_page);
 }
 
 void read_dates(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
@@ -51,7 +52,7 @@ void read_numbers_elsewhere(BlockReader& block, CrystalStructureDatabaseEntry& e
     auto& depositions = entry.deposition_info->depositions;
     for (const CifItem* item : block.items(cif_tags::database_prefix)) {
         const std::string number = one_line((*item)[0].text());
-        if (number.empty()) continue;
+        if (number.empty() || number == entry.identifier) continue;
         const std::string tag = in_lower_case(item->tag());
         if (tag.starts_with(cif_tags::deposition_prefix)) {
             depositions.push_back({DepositionInfo::supplementary, number});
@@ -61,6 +62,4 @@ void read_numbers_elsewhere(BlockReader& block, CrystalStructureDatabaseEntry& e
     }
     const std::string editor_code = block.first_text(just(cif_tags::editor_code));
     if (!editor_code.empty()) depositions.push_back({DepositionInfo::journal, editor_code});
-    const std::string number = block.first_text(just(cif_tags::identifier));
-    if (!number.empty()) add_cross_reference(entry, "cod", number);
 }

@@ -108,6 +108,10 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
           "Deposition Numbers: Supplementary A 12; Journal FG1750",
           "Cross References: Same structure C 7"},
          {}},
+        {"_audit_creation_date 'Tue Jul 9 2004'\n_database_code_Y x\n_journal_page_first o118\n"
+         "_journal_page_last o118\n",
+         {"Accession Date: 2004-07-09", "Literature Reference: <j></j><v></v><y></y><p>o118</p>"},
+         {}},
         {"_cell_length_a 5\n_cell_length_c 6\n_symmetry_space_group_name_H-M 5\n"
          "_refine_ls_R_factor_gt 1e308\n_CELL_length_a 6\n_other 1\n_other 2\n",
          {"Space Group: 5"},
