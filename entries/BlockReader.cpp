@@ -60,8 +60,12 @@ std::optional<UncertainValue> BlockReader::number(Tags tags) {
 }
 
 Problem& BlockReader::add_block_problem(const CifItem& at, std::string what) {
+    return add_block_problem(at.origin(), std::move(what));
+}
+
+Problem& BlockReader::add_block_problem(const char* place, std::string what) {
     Problem problem;
-    problem.line = document_.line_of(at.origin());
+    problem.line = document_.line_of(place);
     problem.block = std::string(block_.name());
     problem.what = std::move(what);
     problems_.push_back(std::move(problem));

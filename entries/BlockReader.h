@@ -48,8 +48,10 @@ public:
     /// The number that it is; a problem where it is none.
     std::optional<UncertainValue> number(Tags tags);
 
-    /// Adds a problem of the block that shows at an item, or of the item itself.
+    /// Adds a problem of the block that shows at a place of the file or at an item, or of the item
+    /// itself.
     /// @{
+    Problem& add_block_problem(const char* place, std::string what);
     Problem& add_block_problem(const CifItem& at, std::string what);
     Problem& add_problem(const CifItem& item, std::string what);
     /// @}

@@ -21,7 +21,7 @@ bool CifBeginning::may_be_cif(std::string_view bytes) {
 bool CifBeginning::skip_to_word(std::string_view bytes) {
     while (at_ < bytes.size()) {
         if (in_comment_ || bytes[at_] == '#') {
-            at_ = std::min(bytes.find('\n', at_), bytes.size());
+            at_ = std::min(bytes.find_first_of("\r\n", at_), bytes.size());
             in_comment_ = at_ == bytes.size();
         } else if (std::string_view(" \t\r\n").find(bytes[at_]) != std::string_view::npos) {
             ++at_;

@@ -1,34 +1,26 @@
 #include "entries/CifDocument.h"
 
 #include <algorithm>
-#include <gemmi/cif.hpp>
 
+#include "entries/cif_rules.h"
 #include "entries/cif_text.h"
 
 namespace {
 
-namespace cif = gemmi::cif;
 namespace pegtl = tao::pegtl;
 
-/// Input that counts lines when it is asked for them alone, which is when something is wrong.
-class Input
-    : public pegtl::memory_input<pegtl::tracking_mode::lazy, pegtl::eol::lf_crlf, std::string> {
-public:
-    using memory_input::memory_input;
+/// A character of a tag, of which the case does not count. Names of newer dictionaries have a point
+/// where older ones have a line: "_cell.length_a".
+int in_tag(char c) {
+    if (c == '.') return '_';
+    return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c;
+}
 
-    /// 1 at the beginning of a line: the one column that the grammar asks for.
-    std::size_t column() const noexcept {
-        return current() == begin() || *(current() - 1) == '\n' ? 1 : 2;
-    }
-};
-
-char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-/// Whether `a` stands before, at (0) or behind `b`, whose case does not count.
+/// Whether `a` stands before, at (0) or behind `b`.
 int compare_tags(std::string_view a, std::string_view b) {
     const std::size_t shorter = std::min(a.size(), b.size());
     for (std::size_t i = 0; i < shorter; ++i) {
-        const int difference = lower(a[i]) - lower(b[i]);
+        const int difference = in_tag(a[i]) - in_tag(b[i]);
         if (difference != 0) return difference;
     }
     return a.size() < b.size() ? -1 : a.size() > b.size();
@@ -48,7 +40,7 @@ struct Builder {
     std::size_t first = 0;                 // of its values
 
     void add_block(std::string_view name) {
-        contents.blocks.push_back({name, contents.items.size()});
+        contents.blocks.push_back({name, contents.items.size(), contents.doubts.size()});
     }
 
     void begin_loop(const char* begin) {
@@ -60,8 +52,23 @@ struct Builder {
     void add_pair(std::string_view value) {
         begin_loop(tag.data());
         tags.push_back(tag);
-        contents.values.push_back(value);
+        add_value(value);
         end_loop();
+    }
+
+    void add_value(std::string_view value) {
+        contents.values.push_back(value);
+        if (!value.starts_with(';') || in_frame) return;
+        const std::size_t line = value.find("\n;") + 1;
+        if (value == ";") {
+            contents.doubts.push_back({value.data(),
+                                       "';' alone begins a text field only at the "
+                                       "beginning of a line"});
+        } else if (line > 0 && line + 1 < value.size()) {
+            contents.doubts.push_back({value.data() + line,
+                                       "';' at the beginning of a line of a "
+                                       "text field"});
+        }
     }
 
     /// Returns whether each row is full.
@@ -100,25 +107,23 @@ void take_tag(Builder& builder, std::string_view tag) { builder.tag = tag; }
 void take_value(Builder& builder, std::string_view value) { builder.add_pair(value); }
 void take_loop(Builder& builder, std::string_view text) { builder.begin_loop(text.data()); }
 void take_loop_tag(Builder& builder, std::string_view tag) { builder.tags.push_back(tag); }
-void take_loop_value(Builder& builder, std::string_view value) {
-    builder.contents.values.push_back(value);
-}
+void take_loop_value(Builder& builder, std::string_view value) { builder.add_value(value); }
 
 // clang-format off
-template <> struct Action<cif::rules::datablockname> : Taken<take_block> {};
-template <> struct Action<cif::rules::str_global> : Taken<take_global> {};
-template <> struct Action<cif::rules::framename> : Taken<take_frame> {};
-template <> struct Action<cif::rules::endframe> : Taken<take_frame_end> {};
-template <> struct Action<cif::rules::item_tag> : Taken<take_tag> {};
-template <> struct Action<cif::rules::item_value> : Taken<take_value> {};
-template <> struct Action<cif::rules::missing_value> : Taken<take_value> {};
-template <> struct Action<cif::rules::str_loop> : Taken<take_loop> {};
-template <> struct Action<cif::rules::loop_tag> : Taken<take_loop_tag> {};
-template <> struct Action<cif::rules::loop_value> : Taken<take_loop_value> {};
+template <> struct Action<cif_rules::block_name> : Taken<take_block> {};
+template <> struct Action<cif_rules::cif::str_global> : Taken<take_global> {};
+template <> struct Action<cif_rules::frame_name> : Taken<take_frame> {};
+template <> struct Action<cif_rules::frame_end> : Taken<take_frame_end> {};
+template <> struct Action<cif_rules::item_tag> : Taken<take_tag> {};
+template <> struct Action<cif_rules::item_value> : Taken<take_value> {};
+template <> struct Action<cif_rules::missing_value> : Taken<take_value> {};
+template <> struct Action<cif_rules::cif::str_loop> : Taken<take_loop> {};
+template <> struct Action<cif_rules::loop_tag> : Taken<take_loop_tag> {};
+template <> struct Action<cif_rules::loop_value> : Taken<take_loop_value> {};
 // clang-format on
 
 template <>
-struct Action<cif::rules::loop> {
+struct Action<cif_rules::loop> {
     template <class Match>
     static void apply(const Match& in, Builder& builder) {
         if (builder.end_loop()) return;
@@ -126,30 +131,32 @@ struct Action<cif::rules::loop> {
     }
 };
 
-}  // namespace
+/// What is wrong with a text field, if it is one that makes what stands at `place` unexpected.
+const char* message_of_field(const Builder& builder, const char* place) {
+    if (builder.contents.values.empty()) return nullptr;
+    const std::string_view value = builder.contents.values.back();
+    if (value == ";") return "expected text fields to begin with ';' at the beginning of a line";
+    const CifQuoting quoting = CifValue{value}.quoting();
+    const char* const end = value.data() + value.size();
+    const bool follows = end <= place && std::find(end, place, '\n') == place;
+    if (quoting != CifQuoting::text_field || !follows) return nullptr;
+    return "expected a tag behind the text field, which ends at the ';' that begins this line";
+}
 
-CifQuoting CifValue::quoting() const {
-    switch (raw.empty() ? ' ' : raw.front()) {
-        case '\'':
-            return CifQuoting::single_quotes;
-        case '"':
-            return CifQuoting::double_quotes;
-        case ';':
-            return raw.find('\n') == std::string_view::npos ? CifQuoting::bare
-                                                            : CifQuoting::text_field;
-        default:
-            return CifQuoting::bare;
+/// Says what was expected.
+template <class Rule>
+struct Control : pegtl::normal<Rule> {
+    static void raise(const cif_rules::Input& in, const Builder& builder) {
+        const char* message = cif_rules::message<Rule>;
+        if (std::is_same_v<Rule, cif_rules::end>) {
+            const char* const of_field = message_of_field(builder, in.current());
+            if (of_field) message = of_field;
+        }
+        throw pegtl::parse_error(message ? message : "parse error", in);
     }
-}
+};
 
-std::string CifValue::text() const {
-    std::string text = cif::as_string(std::string(raw));
-    const std::size_t first = text.find_first_not_of(" \t\r\n");
-    if (first == std::string::npos) return "";
-    const bool single = text.find_first_not_of(" \t\r\n", first + 1) == std::string::npos;
-    const bool is_none = single && (text[first] == '?' || text[first] == '.');
-    return is_none ? "" : text;
-}
+}  // namespace
 
 CifBlock::CifBlock(std::string_view name, Items items) : name_(name), items_(std::move(items)) {
     std::stable_sort(items_.begin(), items_.end(),
@@ -189,11 +196,10 @@ CifDocument::CifDocument(std::string_view bytes) : bytes_(bytes) {
     Builder builder{contents_};
     try {
         // Not gemmi's own actions: they copy every value and lose where it stood.
-        pegtl::parse<cif::rules::file, Action, cif::Errors>(Input(bytes.data(), bytes.size(), ""),
-                                                            builder);
+        pegtl::parse<cif_rules::file, Action, Control>(cif_rules::Input(bytes), builder);
     } catch (const pegtl::parse_error& error) {
-        const auto& places = error.positions();
-        throw CifError(places.empty() ? 1 : places.front().line, std::string(error.message()));
+        const std::size_t place = error.positions().front().byte;
+        throw CifError(line_of(bytes.data() + place), std::string(error.message()));
     }
     if (contents_.blocks.empty()) throw CifError(1, "expected a data block");
 }
@@ -209,10 +215,19 @@ CifBlock CifDocument::block(std::size_t index) const {
     return {contents_.blocks[index].name, std::move(items)};
 }
 
+std::span<const CifDocument::Doubt> CifDocument::doubts(std::size_t index) const {
+    const std::size_t first = contents_.blocks[index].first_doubt;
+    const std::size_t end = index + 1 < contents_.blocks.size()
+                                ? contents_.blocks[index + 1].first_doubt
+                                : contents_.doubts.size();
+    return std::span(contents_.doubts).subspan(first, end - first);
+}
+
 unsigned long CifDocument::line_of(const char* place) const {
     if (line_ends_.empty()) {
-        for (const char& c : bytes_) {
-            if (c == '\n') line_ends_.push_back(&c);
+        for (std::size_t i = 0; i < bytes_.size(); ++i) {
+            const bool carriage_return = bytes_[i] == '\r' && bytes_.substr(i + 1, 1) != "\n";
+            if (carriage_return || bytes_[i] == '\n') line_ends_.push_back(&bytes_[i]);
         }
         line_ends_.push_back(bytes_.data() + bytes_.size());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -19,15 +20,16 @@ private:
     unsigned long line_;
 };
 
-/// What sets a value off from what stands around it.
-enum class CifQuoting { bare, single_quotes, double_quotes, text_field };
+/// What sets a value off from what stands around it. Lists and tables are bare.
+enum class CifQuoting { bare, single_quotes, double_quotes, triple_quotes, text_field };
 
 /// One value as it stands in the bytes of a document.
 struct CifValue {
     std::string_view raw;  ///< Quotes included; empty for a tag without a value.
 
     CifQuoting quoting() const;
-    /// What stands between the quotes; nothing for "?" and ".", in quotes too.
+    /// What stands between the quotes, with lines that end with "\n"; nothing for "?" and ".", in
+    /// quotes too, and for a bare ";".
     std::string text() const;
 };
 
@@ -71,7 +73,7 @@ public:
     /// "#" for a bare "data_", empty for "global_".
     std::string_view name() const { return name_; }
     /// The first item with that tag, or null. `tag` is in lower case; that of the item may be in
-    /// any. O(log m) for m items.
+    /// any, and have "." for "_". O(log m) for m items.
     const CifItem* find(std::string_view tag) const;
     /// The items that are not in loops and whose tags begin with `prefix`, which is in lower case,
     /// in the order of the tags; of several with one tag the first.
@@ -98,6 +100,14 @@ public:
     /// `index` is below blocks(). O(m log m) for m items.
     CifBlock block(std::size_t index) const;
 
+    /// Something in a block that CIF allows, and may not be what was meant.
+    struct Doubt {
+        const char* place;
+        const char* what;
+    };
+    /// Those of a block, in the order of the file; `index` is below blocks().
+    std::span<const Doubt> doubts(std::size_t index) const;
+
     /// The line, from 1, of a place in the bytes. The first question is O(n) for n bytes, each
     /// later one O(log n).
     unsigned long line_of(const char* place) const;
@@ -106,12 +116,13 @@ public:
     struct Contents {
         struct Block {
             std::string_view name;
-            std::size_t first_item;
+            std::size_t first_item, first_doubt;
         };
 
         std::vector<Block> blocks;
         std::vector<CifItem> items;
         std::vector<std::string_view> values;
+        std::vector<Doubt> doubts;
     };
 
 private:

@@ -18,6 +18,9 @@ CifEntry EntryReader::operator[](std::size_t index) const {
     read_atoms(block, *entry);
     read_bonds(block, *entry);
     read_further_fields(block);
+    for (const CifDocument::Doubt& doubt : document_.doubts(index)) {
+        block.add_block_problem(doubt.place, doubt.what).level = Problem::Level::warning;
+    }
     block.note_repetitions();
     return {block.block(), entry, block.take_texts(), block.take_problems()};
 }

@@ -64,6 +64,10 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
         {"_cell_volume 700.8\n_chemical_melting_point '367-370'\n",
          {"Cell Volume: 700.8", "Melting Point: 367-370 K"},
          {}},
+        {"_exptl_crystal_colour\n;\n red\n;or pink\n;\n_exptl_crystal_description ;\n",
+         {"Color: red ;or pink"},
+         {"5 x : ';' at the beginning of a line of a text field",
+          "7 x : ';' alone begins a text field only at the beginning of a line"}},
         {"_chemical_melting_point '70 oC'\n", {"Melting Point: 70 oC"}, {}},
         {"_chemical_melting_point_gt 500(2)\n_chemical_melting_point_lt 510\n",
          {"Melting Point: > 500(2) K, < 510 K"},
@@ -225,10 +229,59 @@ TEST(CifDocument, ValuesKeepWhereTheyStand) {
     EXPECT_THAT(document.block(1).find_all("_f"), testing::SizeIs(1));
 }
 
+TEST(CifDocument, ReadsTheValuesOfBothVersions) {
+    const struct {
+        const char *raw, *text;
+        int versions;  // in which it is one value: 1, 2 or 3 for both
+    } cases[] = {
+        {"'''a\n'b'''", "a\n'b", 2},
+        {R"("""""")", "", 3},
+        {R"(""""x""")", "\"x", 3},
+        {"'a'b'", "a'b", 1},
+        {"[1 [2 ']' \"]\" '''\n]''']\n;]\n; # ]\n]", nullptr, 2},
+        {R"({'k':[1] "l":{}})", nullptr, 2},
+        {"[1)", nullptr, 1},
+        {"[}", nullptr, 1},
+        {"M\xC3\xBCller", nullptr, 2},
+        {";a\r\n;b\r\r\n;", "a\n;b\n", 3},
+        {";\r;", "", 3},
+        {";", "", 3},
+    };
+    for (const auto& c : cases) {
+        for (const int version : {1, 2}) {
+            const std::string cif = (version == 2 ? "#\\#CIF_2.0\r" : "#\r") +
+                                    std::string("data_x\r\n_cell.Length_a\r\n ") + c.raw;
+            const bool is_field = c.raw[0] == ';' && c.raw[1] != '\0';
+            const std::string bytes = is_field ? cif.substr(0, cif.rfind(" ;")) + c.raw : cif;
+            bool is_value = false;
+            try {
+                const CifDocument document(bytes);
+                const CifItem* const item = document.block(0).find("_cell_length_a");
+                is_value = item && item->size() == 1 && (*item)[0].raw == c.raw;
+                EXPECT_TRUE(!is_value || (*item)[0].text() == (c.text ? c.text : c.raw)) << c.raw;
+                EXPECT_EQ(document.line_of(item->origin()), 3U);
+            } catch (const CifError&) {
+            }
+            EXPECT_EQ(is_value, (c.versions & version) != 0) << c.raw << ' ' << version;
+        }
+    }
+    std::string deep = "#\\#CIF_2.0\ndata_x _a " + std::string(100000, '[');
+    EXPECT_THROW(CifDocument{deep}, CifError);
+    deep.append(100000, ']');
+    EXPECT_EQ(CifDocument(deep).blocks(), 1U);
+}
+
 TEST(CifDocument, SaysInWhichLineWhatIsNoCif) {
     const std::pair<const char*, std::pair<unsigned long, const char*>> cases[] = {
         {"data_x\n_chemical_name_common 'unclosed\n", {2, "unterminated 'string'"}},
-        {"data_x\n;\n", {2, "parse error"}},
+        {"data_x\n;\n", {2, "expected a tag, loop_ or data_"}},
+        {"data_x\n_a\n;text\n; more\n;\n",
+         {4, "expected a tag behind the text field, which ends at the ';' that begins this line"}},
+        {"data_x\n_a\n ;\n text\n",
+         {4, "expected text fields to begin with ';' at the beginning of a line"}},
+        {"data_x _a 'b'\n_c _d 1\n", {2, "expected a value"}},
+        {"#\\#CIF_2.0\ndata_x\n_a [1\n2}\n", {3, "unterminated list or table"}},
+        {"#\\#CIF_2.0\ndata_x\n_a 'b'c\n", {3, "expected a blank behind the value"}},
         {"data_x\nloop_\n_a _b\n1 2 3\n", {2, "Wrong number of values in the loop"}},
         {"\xEF\xBB\xBF# one\n#two\n\t GLOBAL_\n_cell_length_a ?\n", {0, ""}},
         {" \r\n# one\ndat", {3, "expected block header (data_)"}},
