@@ -1,10 +1,7 @@
-#include <algorithm>
-#include <optional>
-#include <utility>
 #include <vector>
 
 #include "cli/Command.h"
-#include "cli/EntryFile.h"
+#include "cli/EntryStream.h"
 #include "cli/TextOutput.h"
 #include "cli/default_target.h"
 #include "cli/options.h"
@@ -16,37 +13,27 @@ namespace {
 
 constexpr int exit_difference = 1;
 
-std::vector<CifEntry> all_of(EntryFile& file) {
-    std::vector<CifEntry> entries;
-    for (std::optional<CifEntry> entry; file.next(entry);) entries.push_back(std::move(*entry));
-    return entries;
-}
-
 class CompareCommand : public Command {
 public:
     int run() override {
         if (!to_) to_ = target_of_terminal();
         if (!to_) to_ = &rich_text_target_for(RichTextTarget::Use::database);
-        EntryFile left(left_);
-        const std::vector<CifEntry> left_entries = all_of(left);
-        EntryFile right(right_);
-        const std::vector<CifEntry> right_entries = all_of(right);
-        good_ = left.good() && right.good();
-        bool same = left_entries.size() == right_entries.size();
-        if (!same && good_) {
-            report(left_ + " has " + std::to_string(left_entries.size()) + " entries, " + right_ +
-                   " has " + std::to_string(right_entries.size()));
+        EntryStream left(places_of(left_)), right(places_of(right_));
+        bool same = compare(left, right);
+        if (left.count() != right.count() && left.good() && right.good()) {
+            report(left_ + " has " + std::to_string(left.count()) + " entries, " + right_ +
+                   " has " + std::to_string(right.count()));
         }
-        same = compare(left_entries, right_entries) && same;
-        if (!good_) return exit_trouble;
+        same = same && left.count() == right.count();
+        if (!good_ || !left.good() || !right.good()) return exit_trouble;
         return same ? exit_success : exit_difference;
     }
     int trouble() const override { return exit_trouble; }
 
 private:
     CLI::App* add_command(CLI::App& program) override {
-        return program.add_subcommand("compare",
-                                      "Compares the entries of two CIF files, field by field");
+        return program.add_subcommand(
+            "compare", "Compares the entries of two CIF files or folders, field by field");
     }
 
     void add_options(CLI::App& command, Choices& choices) override {
@@ -59,26 +46,40 @@ private:
         add_tolerance_option(command, settings_);
         add_row_option(command, choices, "--to", to_, rich_text_targets(),
                        "What to write; unless given, ansi on a terminal and tevo elsewhere");
-        command.add_option("A.cif", left_, "One side")->required();
+        add_recursive_option(command, recursive_);
+        command.add_option("A.cif", left_, "One side: a CIF file, or a folder with such")
+            ->required();
         command.add_option("B.cif", right_, "The other side")->required();
     }
 
-    /// Compares the entries in turn; returns whether all are the same.
-    bool compare(const std::vector<CifEntry>& left, const std::vector<CifEntry>& right) {
+    std::vector<Place> places_of(const std::string& path) const {
+        Places places;
+        places.paths.push_back(path);
+        places.recursive = recursive_;
+        return places.cif_files();
+    }
+
+    /// Compares the entries in turn and reads all of both sides; returns whether those that have
+    /// another are the same as it.
+    bool compare(EntryStream& left, EntryStream& right) {
         TextOutput output;
         const std::unique_ptr<ComparisonLayout> layout = make_comparison_layout(*to_);
         const std::vector<Field> wanted = fields_.list();
         bool same = true;
         output.write(layout->head("Comparison"));
-        for (std::size_t i = 0; i < std::min(left.size(), right.size()); ++i) {
-            const EntryComparison compared(left[i], right[i], wanted, settings_);
+        while (true) {
+            const CifEntry* const left_entry = left.next();
+            const CifEntry* const right_entry = right.next();
+            if (!left_entry && !right_entry) break;
+            if (!left_entry || !right_entry) continue;
+            const EntryComparison compared(*left_entry, *right_entry, wanted, settings_);
             same = same && compared.same;
             for (const Problem& problem : compared.problems) {
                 report(problem);
                 good_ = false;
             }
-            output.write(layout->comparison({left_, std::string(left[i].block.name())},
-                                            {right_, std::string(right[i].block.name())},
+            output.write(layout->comparison({left.path(), std::string(left_entry->block.name())},
+                                            {right.path(), std::string(right_entry->block.name())},
                                             compared.fields));
         }
         output.write(layout->foot());
@@ -90,6 +91,7 @@ private:
     ChosenFields fields_;
     SearchSettings settings_;
     std::string left_, right_;
+    bool recursive_ = false;
     bool good_ = true;  // nothing was reported
 };
 

@@ -2,16 +2,20 @@
 
 #include <new>
 
-#include "cli/report.h"
 #include "entries/CifBeginning.h"
 
 namespace {
+
+constexpr std::size_t most_unpacked = 1 << 30;  // bytes, for they are held at once
 
 std::string read_cif(const std::string& path) {
     InputFile file(path);
     std::string bytes;
     CifBeginning beginning;
     while (beginning.may_be_cif(bytes) && file.read(bytes)) {
+        if (file.is_packed() && bytes.size() > most_unpacked) {
+            throw InputError(file.name() + ": unpacks to more than 1 GB");
+        }
     }
     return bytes;
 }
@@ -39,15 +43,13 @@ bool EntryFile::next(std::optional<CifEntry>& entry) {
         refuse(path_ + ": out of memory");
         return false;
     }
-    for (Problem& problem : entry->problems) {
-        problem.file = path_;
-        report(problem);
-        good_ = good_ && problem.level != Problem::Level::error;
-    }
+    for (Problem& problem : entry->problems) problem.file = path_;
     return true;
 }
 
-void EntryFile::refuse(const std::string& message) {
-    report(message);
-    good_ = false;
+double EntryFile::part_read() const {
+    const std::size_t size = reader_ ? reader_->size() : 0;
+    return size == 0 ? 1 : static_cast<double>(next_) / static_cast<double>(size);
 }
+
+void EntryFile::refuse(const std::string& message) { problem_.emplace().what = message; }

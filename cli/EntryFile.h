@@ -6,18 +6,24 @@
 #include "cli/InputFile.h"
 #include "entries/EntryReader.h"
 
-/// The entries of a CIF file, of which one after the other is read. A file that is not CIF and the
-/// items that cannot be read are reported.
+/// The entries of a CIF file, of which one after the other is read.
 class EntryFile {
 public:
     /// Reads the bytes of the file, "-" for standard input; of one that does not begin as a CIF
     /// file does only the beginning.
     explicit EntryFile(const std::string& path);
+    EntryFile(const EntryFile&) = delete;
+    EntryFile& operator=(const EntryFile&) = delete;
 
-    /// Reads the next entry, which refers to this file; false at the end.
+    const std::string& path() const { return path_; }
+
+    /// Reads the next entry, which refers to this file and whose problems name it; false at the
+    /// end.
     bool next(std::optional<CifEntry>& entry);
-    /// Whether no error has been reported so far; doubts about what was read are none.
-    bool good() const { return good_; }
+    /// Why there are no entries, or not all of them; none when nothing is wrong.
+    const std::optional<Problem>& problem() const { return problem_; }
+    /// How much of the file has been read, from 0 to 1.
+    double part_read() const;
 
 private:
     void refuse(const std::string& message);
@@ -26,5 +32,5 @@ private:
     std::string bytes_;
     std::optional<EntryReader> reader_;
     std::size_t next_ = 0;
-    bool good_ = true;
+    std::optional<Problem> problem_;
 };

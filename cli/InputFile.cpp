@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <string_view>
 #include <system_error>
 
 namespace {
@@ -38,14 +39,60 @@ InputFile::~InputFile() {
 }
 
 bool InputFile::read(std::string& bytes) {
+    if (gzip_) return unpack(bytes);
+    const std::size_t count = begun_ ? read_piece(0) : read_beginning();
+    if (gzip_) {
+        gzip_->feed({buffer_.get(), count});
+        return unpack(bytes);
+    }
+    bytes.append(buffer_.get(), count);
+    return count > 0;
+}
+
+/// Reads no more than it takes to tell whether it is a gzip file: a first line may be short, and
+/// what follows far away.
+std::size_t InputFile::read_beginning() {
+    begun_ = true;
+    constexpr std::string_view signature = GzipReader::signature;
+    std::size_t count = 0;
+    std::string_view front;
+    do {
+        const std::size_t more = read_piece(count);
+        count += more;
+        front = std::string_view(buffer_.get(), count).substr(0, signature.size());
+        if (more == 0) break;
+    } while (front.size() < signature.size() && signature.starts_with(front));
+    if (front == signature) {
+        gzip_.emplace();
+    } else if (name_.ends_with(".gz")) {
+        throw InputError(name_ + ": is no gzip file");
+    }
+    return count;
+}
+
+/// Reads into the buffer, behind what shall stay there.
+std::size_t InputFile::read_piece(std::size_t offset) {
     ssize_t count = -1;
     do {
-        count = ::read(descriptor_, buffer_.get(), buffer_size);
+        count = ::read(descriptor_, buffer_.get() + offset, buffer_size - offset);
     } while (count < 0 && errno == EINTR);
     if (count < 0) fail(name_);
     if (count == 0 && size_of(descriptor_) < size_) {
         throw InputError(name_ + ": truncated while it was read");
     }
-    bytes.append(buffer_.get(), static_cast<std::size_t>(count));
-    return count > 0;
+    return static_cast<std::size_t>(count);
+}
+
+bool InputFile::unpack(std::string& bytes) {
+    try {
+        while (!gzip_->unpack(bytes)) {
+            const std::size_t count = read_piece(0);
+            if (count == 0 && !gzip_->is_whole()) throw GzipError("gzip file is cut short");
+            if (count == 0) return false;
+            gzip_->feed({buffer_.get(), count});
+        }
+    } catch (const GzipError& error) {
+        throw InputError(name_ + ": " + error.what());
+    }
+    return true;
 }

@@ -1,8 +1,8 @@
-#include <optional>
+#include <utility>
 #include <vector>
 
 #include "cli/Command.h"
-#include "cli/EntryFile.h"
+#include "cli/EntryStream.h"
 #include "cli/TextOutput.h"
 #include "cli/default_target.h"
 #include "cli/options.h"
@@ -15,14 +15,21 @@ namespace {
 class ShowCommand : public Command {
 public:
     int run() override {
+        if (!places_.are_named()) {
+            report("show needs a FILE or --files-from (lmrtext show --help says more)");
+            return exit_trouble;
+        }
         if (path_ == "-") path_.clear();
         if (!to_) to_ = path_.empty() ? output_of(show_outputs(), Use::database) : output_of_path();
         const std::unique_ptr<TextOutput> output =
             path_.empty() ? std::make_unique<TextOutput>() : std::make_unique<TextOutput>(path_);
-        for (const std::string& file : files_) {
-            if (output->is_at(file)) throw InputError(file + ": input file is output file");
+        std::vector<Place> places = places_.cif_files();
+        for (const Place& place : places) {
+            if (!output->is_at(place.path)) continue;
+            throw InputError(place.path + ": input file is output file");
         }
-        return show(*output) ? exit_success : exit_failure;
+        EntryStream entries(std::move(places));
+        return show(entries, *output) ? exit_success : exit_failure;
     }
 
 private:
@@ -47,7 +54,7 @@ private:
                 return path.empty() ? "expected the name of a file" : std::string();
             })
             ->type_name("FILE");
-        command.add_option("FILE", files_, "CIF files; -: standard input")->required();
+        add_place_options(command, places_);
     }
 
     /// What the ending of the file says, and a page for others.
@@ -58,29 +65,25 @@ private:
                          target ? target->name : rich_text_target_for(Use::page).name);
     }
 
-    /// Shows one file after the other; returns whether nothing was reported.
-    bool show(TextOutput& output) const {
+    /// Shows one entry after the other; returns whether nothing was reported.
+    bool show(EntryStream& entries, TextOutput& output) const {
         const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty());
         const std::vector<Field> wanted = fields_.list();
         bool good = true;
-        bool shown_any = false;
         output.write(layout->head("Crystal structures"));
-        for (const std::string& file : files_) {
-            EntryFile entries(file);
-            for (std::optional<CifEntry> entry; entries.next(entry);) {
-                EntryFields shown(*entry, wanted, term_);
-                for (Problem& problem : shown.problems) {
-                    problem.file = file;
-                    report(problem);
-                    good = false;
-                }
-                output.write(layout->entry(file, std::string(entry->block.name()), shown.fields));
-                shown_any = true;
+        while (const CifEntry* const entry = entries.next()) {
+            EntryFields shown(*entry, wanted, term_);
+            for (Problem& problem : shown.problems) {
+                problem.file = entries.path();
+                report(problem);
+                good = false;
             }
-            good = good && entries.good();
+            output.write(
+                layout->entry(entries.path(), std::string(entry->block.name()), shown.fields));
         }
+        good = good && entries.good();
         // A file in that place is worth more than one without any entry.
-        if (!good && !shown_any && !path_.empty()) return false;
+        if (!good && entries.count() == 0 && !path_.empty()) return false;
         output.write(layout->foot());
         output.close();
         return good;
@@ -90,7 +93,7 @@ private:
     std::string path_;  // of the file to write; empty: standard output
     ChosenFields fields_;
     std::string term_;  // searched in every field in the field's own way; empty: no search
-    std::vector<std::string> files_;
+    Places places_;
 };
 
 }  // namespace

@@ -19,8 +19,14 @@ public:
         : batch_(batch), make_process_(make_process) {}
 
     BatchOutcome run() {
-        if (batch_.files.empty()) add_file("-");
-        for (const std::string& file : batch_.files) add_file(file);
+        if (!batch_.places.are_named()) add_file("-");
+        for (const Place& place : batch_.places.files()) {
+            if (place.problem.empty()) {
+                add_file(place.path);
+            } else {
+                refuse(place.problem);
+            }
+        }
         while (!in_work_.empty()) finish_first();
         output_.close();
         return outcome_;

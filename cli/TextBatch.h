@@ -1,8 +1,6 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
+#include "cli/Places.h"
 #include "output/TextProcess.h"
 
 struct BatchOutcome {
@@ -12,9 +10,9 @@ struct BatchOutcome {
 
 /// The texts that a command works on.
 struct TextBatch {
-    std::vector<std::string> files{};  // none: standard input
-    char separator = '\n';             // ends each text, read or written
-    unsigned int jobs = 1;             // threads that work on them, 1 or more
+    Places places{};        // none: standard input
+    char separator = '\n';  // ends each text, read or written
+    unsigned int jobs = 1;  // threads that work on them, 1 or more
 
     /// Hands block after block of the texts to a process of its own and writes what they return to
     /// standard output, in the order of the texts. A text that fails is reported; a file that

@@ -12,6 +12,13 @@ constexpr UnitRow unit_rows[] = {
     {"utf16", "units of UTF-16, as in JavaScript and Qt", DisplayedText::utf16},
 };
 
+void add_list_option(CLI::App& command, Places& places) {
+    command
+        .add_option("--files-from", places.list,
+                    "Read the files, too, that this one names, one a line; -: standard input")
+        ->type_name("LIST");
+}
+
 }  // namespace
 
 std::string help_of(const RichTextTarget& target) {
@@ -33,15 +40,35 @@ std::string help_text(const ChoiceOption& option) {
     return help;
 }
 
+void add_jobs_option(CLI::App& command, unsigned int& jobs, const std::string& what) {
+    command
+        .add_option("-j,--jobs", jobs,
+                    "Work in that many threads; the order of the " + what + " stays")
+        ->check(CLI::Range(1U, most_jobs));
+}
+
+void add_recursive_option(CLI::App& command, bool& recursive) {
+    command.add_flag("-r,--recursive", recursive, "Of folders read the folders in them too");
+}
+
+void add_place_options(CLI::App& command, Places& places) {
+    add_recursive_option(command, places.recursive);
+    add_list_option(command, places);
+    command.add_flag_callback(
+        "-0,--null", [&places] { places.separator = '\0'; },
+        "NUL instead of line feed ends each name of --files-from");
+    command.add_option("FILE", places.paths,
+                       "CIF files, gzip files of such, and folders with them; -: standard input");
+}
+
 void add_batch_options(CLI::App& command, TextBatch& batch) {
     command.add_flag_callback(
-        "-0,--null", [&batch] { batch.separator = '\0'; },
-        "NUL instead of line feed ends each text, read and written");
-    command
-        .add_option("-j,--jobs", batch.jobs,
-                    "Work in that many threads; the order of the texts stays")
-        ->check(CLI::Range(1U, most_jobs));
-    command.add_option("FILE", batch.files, "Files to read; none or -: standard input");
+        "-0,--null", [&batch] { batch.separator = batch.places.separator = '\0'; },
+        "NUL instead of line feed ends each text, read and written, and each name of a list");
+    add_jobs_option(command, batch.jobs, "texts");
+    add_list_option(command, batch.places);
+    command.add_option("FILE", batch.places.paths,
+                       "Files to read, which may be gzip files; none or -: standard input");
 }
 
 std::vector<Field> ChosenFields::list() const { return named.empty() ? view->fields() : named; }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/Choices.h"
+#include "cli/Places.h"
 #include "cli/TextBatch.h"
 #include "output/Output.h"
 #include "output/TextPositions.h"
@@ -47,6 +48,15 @@ CLI::Option* add_row_option(CLI::App& command, Choices& choices, const char* fla
     choices[option] = std::move(noted);
     return option;
 }
+
+/// Adds the option for the number of threads that work on `what`.
+void add_jobs_option(CLI::App& command, unsigned int& jobs, const std::string& what);
+
+/// Adds the option to read folders with the folders in them.
+void add_recursive_option(CLI::App& command, bool& recursive);
+
+/// Adds the options of commands that work on CIF files.
+void add_place_options(CLI::App& command, Places& places);
 
 /// Adds the options of commands that work on texts.
 void add_batch_options(CLI::App& command, TextBatch& batch);

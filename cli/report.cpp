@@ -64,3 +64,12 @@ void report(const Problem& problem) {
         report(text);
     }
 }
+
+bool report(const std::vector<Problem>& problems) {
+    bool good = true;
+    for (const Problem& problem : problems) {
+        report(problem);
+        good = good && problem.level != Problem::Level::error;
+    }
+    return good;
+}

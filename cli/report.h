@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "entries/Problem.h"
 
@@ -10,3 +11,6 @@
 void report(const std::string& message);
 /// Likewise, in a sentence: where, what was found and what was expected. Of a run, once.
 void report(const Problem& problem);
+/// Likewise each of them; returns whether there is no error, for doubts about what was read are
+/// none.
+bool report(const std::vector<Problem>& problems);

@@ -203,16 +203,17 @@ TEST_F(Program, ShowReportsWhatIsNoCifAndShowsTheOthers) {
     file("unclosed.cif", "data_x\n_chemical_name_common 'unclosed\n_cell_length_a 1\n");
     file("binary.cif", std::string("\0\x01\x1B[31m\xFF", 8));
     file("empty.cif", "");
+    std::filesystem::create_directory(folder_ / "none");
     file("crossing.cif",
          "data_x\n_chemical_name_common '~a^b~c^'\n_chemical_name_systematic x\\d-ok\n");
     const Result done =
-        run("show -o page.html miss\xC2\x9Bing\u202E.cif . unclosed.cif binary.cif empty.cif "
+        run("show -o page.html miss\xC2\x9Bing\u202E.cif none unclosed.cif binary.cif empty.cif "
             "crossing.cif " +
             data + "/1008935.cif");
     EXPECT_EQ(done.status, 1);
     EXPECT_EQ(done.out, "");
     EXPECT_THAT(done.err, StartsWith("lmrtext: miss?ing<U+202E>.cif: No such file or directory\n"
-                                     "lmrtext: .: Is a directory\n"
+                                     "lmrtext: no CIF files in none\n"
                                      "lmrtext: unclosed.cif:2: not a CIF file: "));
     EXPECT_THAT(done.err, HasSubstr("lmrtext: binary.cif:1: not a CIF file: "));
     EXPECT_THAT(
