@@ -1,8 +1,9 @@
+#include <span>
 #include <utility>
 #include <vector>
 
 #include "cli/Command.h"
-#include "cli/EntryStream.h"
+#include "cli/EntryBatch.h"
 #include "cli/TextOutput.h"
 #include "cli/default_target.h"
 #include "cli/options.h"
@@ -28,8 +29,7 @@ public:
             if (!output->is_at(place.path)) continue;
             throw InputError(place.path + ": input file is output file");
         }
-        EntryStream entries(std::move(places));
-        return show(entries, *output) ? exit_success : exit_failure;
+        return show(std::move(places), *output) ? exit_success : exit_failure;
     }
 
 private:
@@ -54,6 +54,7 @@ private:
                 return path.empty() ? "expected the name of a file" : std::string();
             })
             ->type_name("FILE");
+        add_jobs_option(command, jobs_, "entries");
         add_place_options(command, places_);
     }
 
@@ -65,34 +66,51 @@ private:
                          target ? target->name : rich_text_target_for(Use::page).name);
     }
 
-    /// Shows one entry after the other; returns whether nothing was reported.
-    bool show(EntryStream& entries, TextOutput& output) const {
+    /// Lays out entries of a file; for several threads at a time.
+    ProcessedEntries shown(const std::vector<Field>& wanted, const std::string& file,
+                           std::span<const CifEntry> entries) const {
+        ProcessedEntries done;
         const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty());
-        const std::vector<Field> wanted = fields_.list();
-        bool good = true;
-        output.write(layout->head("Crystal structures"));
-        while (const CifEntry* const entry = entries.next()) {
-            EntryFields shown(*entry, wanted, term_);
-            for (Problem& problem : shown.problems) {
-                problem.file = entries.path();
-                report(problem);
-                good = false;
+        for (const CifEntry& entry : entries) {
+            EntryFields fields(entry, wanted, term_);
+            done.problems.insert(done.problems.end(), entry.problems.begin(), entry.problems.end());
+            for (Problem& problem : fields.problems) {
+                problem.file = file;
+                done.problems.push_back(std::move(problem));
             }
-            output.write(
-                layout->entry(entries.path(), std::string(entry->block.name()), shown.fields));
+            if (done.count++ > 0) done.output += layout->separator();
+            done.output += layout->entry(file, std::string(entry.block.name()), fields.fields);
         }
-        good = good && entries.good();
+        return done;
+    }
+
+    /// Shows one entry after the other; returns whether nothing was reported.
+    bool show(std::vector<Place> places, TextOutput& output) const {
+        const std::vector<Field> wanted = fields_.list();
+        EntryBatch batch(std::move(places), jobs_,
+                         [&](const std::string& file, std::span<const CifEntry> entries) {
+                             return shown(wanted, file, entries);
+                         });
+        const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty());
+        bool shown_any = false;
+        output.write(layout->head("Crystal structures"));
+        for (ProcessedEntries done; batch.next(done);) {
+            if (shown_any) output.write(layout->separator());
+            output.write(done.output);
+            shown_any = true;
+        }
         // A file in that place is worth more than one without any entry.
-        if (!good && entries.count() == 0 && !path_.empty()) return false;
+        if (!batch.good() && !shown_any && !path_.empty()) return false;
         output.write(layout->foot());
         output.close();
-        return good;
+        return batch.good();
     }
 
     const Output* to_ = nullptr;
     std::string path_;  // of the file to write; empty: standard output
     ChosenFields fields_;
     std::string term_;  // searched in every field in the field's own way; empty: no search
+    unsigned int jobs_ = 1;
     Places places_;
 };
 

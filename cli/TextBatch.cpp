@@ -8,6 +8,7 @@
 
 #include "cli/TextBlocks.h"
 #include "cli/TextOutput.h"
+#include "cli/launch_policy.h"
 #include "cli/report.h"
 
 namespace {
@@ -61,15 +62,12 @@ private:
     }
 
     void add(TextBlock block) {
-        // A block for which there is no thread is processed by the one who asks for it.
-        const auto policy =
-            batch_.jobs > 1 ? std::launch::async | std::launch::deferred : std::launch::deferred;
         const std::string file = block.file;
         const auto process = [this, block = std::make_shared<TextBlock>(std::move(block))] {
             return process_texts(std::move(block->bytes), batch_.separator, block->first,
                                  make_process_);
         };
-        in_work_.push_back({file, file_number_, std::async(policy, process)});
+        in_work_.push_back({file, file_number_, std::async(launch_policy(batch_.jobs), process)});
         if (in_work_.size() >= batch_.jobs) finish_first();
     }
 

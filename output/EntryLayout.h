@@ -18,6 +18,8 @@ public:
     virtual std::string head(const std::string& title);
     virtual std::string foot();
     /// @}
+    /// What stands between two entries.
+    virtual std::string separator() const;
     /// One entry of a file.
     virtual std::string entry(const std::string& file, const std::string& block,
                               const std::vector<EntryField>& fields) = 0;

@@ -67,6 +67,7 @@ JsonLayout::~JsonLayout() = default;
 
 std::string JsonLayout::head(const std::string& /*title*/) { return "["; }
 std::string JsonLayout::foot() { return "\n]\n"; }
+std::string JsonLayout::separator() const { return ","; }
 
 std::string JsonLayout::entry(const std::string& file, const std::string& block,
                               const std::vector<EntryField>& fields) {
@@ -80,7 +81,5 @@ std::string JsonLayout::entry(const std::string& file, const std::string& block,
                                      {"markup", field.item.mark_up_text(generator_)},
                                      {"atoms", std::move(atoms)}});
     }
-    const std::string separator = first_ ? "\n" : ",\n";
-    first_ = false;
-    return separator + harmless(written.dump(1, ' ', false, Json::error_handler_t::replace));
+    return '\n' + harmless(written.dump(1, ' ', false, Json::error_handler_t::replace));
 }

@@ -14,10 +14,10 @@ public:
 
     std::string head(const std::string& title) override;
     std::string foot() override;
+    std::string separator() const override;
     std::string entry(const std::string& file, const std::string& block,
                       const std::vector<EntryField>& fields) override;
 
 private:
     Html5RichTextGenerator generator_;
-    bool first_ = true;
 };

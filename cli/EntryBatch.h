@@ -1,0 +1,70 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <future>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "cli/EntryFile.h"
+#include "cli/Places.h"
+
+/// What became of some entries of a file.
+struct ProcessedEntries {
+    std::string output;
+    std::vector<Problem> problems;  ///< With the name of the file.
+    unsigned long count = 0;        ///< Of entries.
+};
+
+/// Makes something of entries of a file, several of one or of several at the same time.
+using ProcessEntries =
+    std::function<ProcessedEntries(const std::string& file, std::span<const CifEntry> entries)>;
+
+/// Has the entries of several CIF files processed in threads, a few at a time, and gives the
+/// results in the order of the entries. What is wrong is reported in that order too. Where threads
+/// are refused, fewer work. Holds a file and a few entries for each job.
+class EntryBatch {
+public:
+    /// `jobs` is 1 or more; with 1 each entry is processed when its result is asked for.
+    EntryBatch(std::vector<Place> places, unsigned int jobs, ProcessEntries process);
+    EntryBatch(const EntryBatch&) = delete;
+    EntryBatch& operator=(const EntryBatch&) = delete;
+    ~EntryBatch();
+
+    /// Waits for the next result, of one entry or more; false at the end. Throws what processing
+    /// throws, but a file for which there is no memory is reported, and the others go on.
+    bool next(ProcessedEntries& done);
+
+    /// Whether no error has been reported so far.
+    bool good() const { return good_; }
+
+private:
+    /// A file that has been opened, and what became of its first entries.
+    struct Opened {
+        std::unique_ptr<EntryFile> file;
+        ProcessedEntries first;
+    };
+    struct Opening {
+        std::string path;
+        std::string problem;  // empty: there is `opened`
+        std::future<Opened> opened;
+    };
+
+    std::vector<CifEntry> read_entries(EntryFile& file) const;
+    bool open_next(ProcessedEntries& done);
+    bool next_of_file(ProcessedEntries& done);
+    void begin_to_open();
+    void begin_to_process();
+    void refuse(const std::string& message);
+
+    std::vector<Place> places_;
+    unsigned int jobs_;
+    ProcessEntries process_;
+    std::size_t next_place_ = 0;
+    std::deque<Opening> openings_;                       // in the order of the places
+    std::unique_ptr<EntryFile> file_;                    // of which entries are left; null: none
+    std::deque<std::future<ProcessedEntries>> in_work_;  // entries of the file; ends before it
+    bool good_ = true;
+};
