@@ -2,6 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/EntryStream.h"
+#include "cli/Progress.h"
 #include "cli/TextOutput.h"
 #include "cli/default_target.h"
 #include "cli/options.h"
@@ -46,6 +47,7 @@ private:
         add_tolerance_option(command, settings_);
         add_row_option(command, choices, "--to", to_, rich_text_targets(),
                        "What to write; unless given, ansi on a terminal and tevo elsewhere");
+        add_progress_option(command, progress_);
         add_recursive_option(command, recursive_);
         command.add_option("A.cif", left_, "One side: a CIF file, or a folder with such")
             ->required();
@@ -65,6 +67,8 @@ private:
         TextOutput output;
         const std::unique_ptr<ComparisonLayout> layout = make_comparison_layout(*to_);
         const std::vector<Field> wanted = fields_.list();
+        Progress progress(progress_ && !output.is_terminal(), "entries",
+                          left.places() + right.places());
         bool same = true;
         output.write(layout->head("Comparison"));
         while (true) {
@@ -81,6 +85,7 @@ private:
             output.write(layout->comparison({left.path(), std::string(left_entry->block.name())},
                                             {right.path(), std::string(right_entry->block.name())},
                                             compared.fields));
+            progress.update(left.count(), left.places_read() + right.places_read());
         }
         output.write(layout->foot());
         output.close();
@@ -92,6 +97,7 @@ private:
     SearchSettings settings_;
     std::string left_, right_;
     bool recursive_ = false;
+    bool progress_ = true;
     bool good_ = true;  // nothing was reported
 };
 

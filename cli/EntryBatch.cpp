@@ -106,6 +106,11 @@ void EntryBatch::begin_to_process() {
     }
 }
 
+double EntryBatch::places_read() const {
+    const std::size_t begun = next_place_ - openings_.size();
+    return static_cast<double>(begun) - (file_ ? 1 - file_->part_read() : 0);
+}
+
 void EntryBatch::refuse(const std::string& message) {
     report(message);
     good_ = false;

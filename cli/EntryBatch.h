@@ -40,6 +40,12 @@ public:
     /// Whether no error has been reported so far.
     bool good() const { return good_; }
 
+    /// How many places there are, and how many have been read, the last perhaps in part.
+    /// @{
+    std::size_t places() const { return places_.size(); }
+    double places_read() const;
+    /// @}
+
 private:
     /// A file that has been opened, and what became of its first entries.
     struct Opened {

@@ -4,6 +4,7 @@
 
 #include "cli/Command.h"
 #include "cli/EntryBatch.h"
+#include "cli/Progress.h"
 #include "cli/TextOutput.h"
 #include "cli/default_target.h"
 #include "cli/options.h"
@@ -55,6 +56,7 @@ private:
             })
             ->type_name("FILE");
         add_jobs_option(command, jobs_, "entries");
+        add_progress_option(command, progress_);
         add_place_options(command, places_);
     }
 
@@ -92,15 +94,17 @@ private:
                              return shown(wanted, file, entries);
                          });
         const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty());
-        bool shown_any = false;
+        Progress progress(progress_ && !output.is_terminal(), "entries", batch.places());
+        unsigned long count = 0;
         output.write(layout->head("Crystal structures"));
         for (ProcessedEntries done; batch.next(done);) {
-            if (shown_any) output.write(layout->separator());
+            if (count > 0) output.write(layout->separator());
             output.write(done.output);
-            shown_any = true;
+            count += done.count;
+            progress.update(count, batch.places_read());
         }
         // A file in that place is worth more than one without any entry.
-        if (!batch.good() && !shown_any && !path_.empty()) return false;
+        if (!batch.good() && count == 0 && !path_.empty()) return false;
         output.write(layout->foot());
         output.close();
         return batch.good();
@@ -111,6 +115,7 @@ private:
     ChosenFields fields_;
     std::string term_;  // searched in every field in the field's own way; empty: no search
     unsigned int jobs_ = 1;
+    bool progress_ = true;
     Places places_;
 };
 

@@ -6,6 +6,7 @@
 #include <new>
 #include <utility>
 
+#include "cli/Progress.h"
 #include "cli/TextBlocks.h"
 #include "cli/TextOutput.h"
 #include "cli/launch_policy.h"
@@ -17,11 +18,12 @@ namespace {
 class Batch {
 public:
     Batch(const TextBatch& batch, const MakeTextProcess& make_process)
-        : batch_(batch), make_process_(make_process) {}
+        : batch_(batch), make_process_(make_process), places_(batch.places.files()) {
+        if (!batch.places.are_named()) places_.push_back({"-", ""});
+    }
 
     BatchOutcome run() {
-        if (!batch_.places.are_named()) add_file("-");
-        for (const Place& place : batch_.places.files()) {
+        for (const Place& place : places_) {
             if (place.problem.empty()) {
                 add_file(place.path);
             } else {
@@ -37,6 +39,7 @@ private:
     struct Work {
         std::string file;
         unsigned int file_number;
+        unsigned long texts;
         std::future<ProcessedTexts> processed;
     };
 
@@ -63,11 +66,13 @@ private:
 
     void add(TextBlock block) {
         const std::string file = block.file;
+        const unsigned long texts = block.count;
         const auto process = [this, block = std::make_shared<TextBlock>(std::move(block))] {
             return process_texts(std::move(block->bytes), batch_.separator, block->first,
                                  make_process_);
         };
-        in_work_.push_back({file, file_number_, std::async(launch_policy(batch_.jobs), process)});
+        in_work_.push_back(
+            {file, file_number_, texts, std::async(launch_policy(batch_.jobs), process)});
         if (in_work_.size() >= batch_.jobs) finish_first();
     }
 
@@ -77,6 +82,8 @@ private:
         if (work.file_number == given_up_) return;
         try {
             write(work.file, work.processed.get());
+            texts_ += work.texts;
+            progress_.update(texts_, work.file_number - 1);
         } catch (const std::bad_alloc&) {
             // Without this block the texts behind it would be taken for others.
             given_up_ = work.file_number;
@@ -98,7 +105,10 @@ private:
 
     const TextBatch& batch_;
     const MakeTextProcess& make_process_;
+    std::vector<Place> places_;
     TextOutput output_;
+    Progress progress_{batch_.shows_progress && !output_.is_terminal(), "texts", places_.size()};
+    unsigned long texts_ = 0;  // that have been written
     BatchOutcome outcome_;
     unsigned int file_number_ = 0;  // of the file that is read, from 1
     unsigned int given_up_ = 0;     // the number of the file of which no more is written

@@ -13,6 +13,7 @@ struct TextBatch {
     Places places{};        // none: standard input
     char separator = '\n';  // ends each text, read or written
     unsigned int jobs = 1;  // threads that work on them, 1 or more
+    bool shows_progress = true;
 
     /// Hands block after block of the texts to a process of its own and writes what they return to
     /// standard output, in the order of the texts. A text that fails is reported; a file that

@@ -27,7 +27,8 @@ bool TextBlocks::next(TextBlock& block) {
         rest_ = block.bytes.substr(end);
         block.bytes.resize(end);
     }
-    number_ +=
+    block.count =
         static_cast<unsigned long>(std::count(block.bytes.begin(), block.bytes.end(), separator_));
+    number_ += block.count;
     return !block.bytes.empty();
 }

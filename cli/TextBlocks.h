@@ -9,6 +9,7 @@
 struct TextBlock {
     std::string file;
     unsigned long first = 1;  // the number of its first text
+    unsigned long count = 0;  // of separators
     std::string bytes;
 };
 

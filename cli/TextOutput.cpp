@@ -200,6 +200,8 @@ bool TextOutput::is_at(const std::string& path) const {
            std::filesystem::equivalent(other, place_.empty() ? "/dev/stdout" : place_, ignored);
 }
 
+bool TextOutput::is_terminal() const { return isatty(fileno(file_)) != 0; }
+
 void TextOutput::write(std::string_view text) {
     if (std::fwrite(text.data(), 1, text.size(), file_) != text.size()) fail(name_);
 }

@@ -23,6 +23,9 @@ public:
     /// Whether the file at `path`, or standard input for "-", is the one that is written.
     bool is_at(const std::string& path) const;
 
+    /// Whether it is a terminal, where what is written tells by itself how far work is.
+    bool is_terminal() const;
+
     /// All throw std::system_error; only after close() is everything written for certain.
     void write(std::string_view text);
     void flush();

@@ -47,6 +47,12 @@ void add_jobs_option(CLI::App& command, unsigned int& jobs, const std::string& w
         ->check(CLI::Range(1U, most_jobs));
 }
 
+void add_progress_option(CLI::App& command, bool& progress) {
+    command.add_flag_callback(
+        "--no-progress", [&progress] { progress = false; },
+        "Do not tell on a terminal how far long work is");
+}
+
 void add_recursive_option(CLI::App& command, bool& recursive) {
     command.add_flag("-r,--recursive", recursive, "Of folders read the folders in them too");
 }
@@ -66,6 +72,7 @@ void add_batch_options(CLI::App& command, TextBatch& batch) {
         "-0,--null", [&batch] { batch.separator = batch.places.separator = '\0'; },
         "NUL instead of line feed ends each text, read and written, and each name of a list");
     add_jobs_option(command, batch.jobs, "texts");
+    add_progress_option(command, batch.shows_progress);
     add_list_option(command, batch.places);
     command.add_option("FILE", batch.places.paths,
                        "Files to read, which may be gzip files; none or -: standard input");

@@ -52,6 +52,9 @@ CLI::Option* add_row_option(CLI::App& command, Choices& choices, const char* fla
 /// Adds the option for the number of threads that work on `what`.
 void add_jobs_option(CLI::App& command, unsigned int& jobs, const std::string& what);
 
+/// Adds the option that shows no progress, and clears `progress`.
+void add_progress_option(CLI::App& command, bool& progress);
+
 /// Adds the option to read folders with the folders in them.
 void add_recursive_option(CLI::App& command, bool& recursive);
 

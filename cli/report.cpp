@@ -4,6 +4,7 @@
 #include <set>
 #include <string_view>
 
+#include "cli/Progress.h"
 #include "markup/internal/controls.h"
 
 namespace {
@@ -21,6 +22,7 @@ void write_line(std::string_view text) {
         text.remove_prefix(character.size);
     }
     line += '\n';
+    Progress::hide();
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
 

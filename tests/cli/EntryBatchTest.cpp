@@ -29,3 +29,16 @@ TEST_F(EntryBatch, JobsKeepTheOrderOfEntriesAndReports) {
         }
     }
 }
+
+TEST_F(EntryBatch, LongWorkTellsTerminalsHowFarItIs) {
+    const auto seen = [&](const std::string& option) {
+        const std::string show = words({"{ sleep 1.2; echo data_x; } | '" PROGRAM "' show",
+                                        "a.cif - none.cif >shown", option});
+        return run_in_shell("echo data_a >a.cif; script -qec \"" + show + "\" /dev/null").out;
+    };
+    const std::string message = "lmrtext: none.cif: No such file or directory\r\n";
+    EXPECT_THAT(seen(""), testing::MatchesRegex("2 entries, [12] of 3 files, 2 a second, [01] s "
+                                                "left\r +\r" +
+                                                message));
+    EXPECT_EQ(seen("--no-progress"), message);
+}
