@@ -14,6 +14,8 @@
 
 #include "cli/Command.h"
 #include "cli/TextOutput.h"
+#include "cli/command_description.h"
+#include "cli/options.h"
 #include "cli/report.h"
 
 namespace {
@@ -80,10 +82,16 @@ void parse_as_they_are(CLI::App& program, int argc, char** argv) {
     program.parse(std::move(arguments));
 }
 
+std::string no_such_command(const CLI::App& program, const std::string& name) {
+    std::vector<std::string_view> known;
+    for (const CLI::App* command : commands_of(program)) known.emplace_back(command->get_name());
+    return no_such("command", name, nearest_word(name, known), "");
+}
+
 /// Reports what is wrong with the arguments.
 int refuse(const CLI::App& program, const CLI::ParseError& error, int argc, char** argv) {
     const bool names_none = argc > 1 && argv[1][0] != '-' && program.get_subcommands().empty();
-    report((names_none ? "no such command: '" + std::string(argv[1]) + "'" : error.what()) +
+    report((names_none ? no_such_command(program, argv[1]) : error.what()) +
            std::string(" (lmrtext --help says more)"));
     return exit_trouble;
 }

@@ -29,6 +29,13 @@ std::string help_of(const Output& output) {
     return output.target ? help_of(*output.target) : output.help;
 }
 
+std::string no_such(const std::string& thing, const std::string& name, std::string_view nearest,
+                    const std::string& help) {
+    std::string complaint = "no such " + thing + ": '" + name + "'";
+    if (nearest.empty()) return complaint + (help.empty() ? "" : "; " + help);
+    return complaint.append("; did you mean '").append(nearest).append("'?");
+}
+
 std::string help_text(const ChoiceOption& option) {
     std::size_t width = 0;
     for (const Choice& value : option.values) width = std::max(width, value.name.size());

@@ -13,6 +13,7 @@
 #include "tasks/SearchKind.h"
 #include "tasks/UnknownField.h"
 #include "tasks/View.h"
+#include "tasks/nearest_word.h"
 #include "tasks/row_named.h"
 
 // The options that several commands have.
@@ -26,6 +27,10 @@ std::string help_of(const Row& row) {
 std::string help_of(const RichTextTarget& target);
 std::string help_of(const Output& output);
 
+/// A complaint about the name of a thing: which one may be meant, or else what may help.
+std::string no_such(const std::string& thing, const std::string& name, std::string_view nearest,
+                    const std::string& help);
+
 /// The purpose of an option, and a line for each of its values.
 std::string help_text(const ChoiceOption& option);
 
@@ -37,9 +42,10 @@ CLI::Option* add_row_option(CLI::App& command, Choices& choices, const char* fla
     const auto choose = [&chosen, rows](const std::string& name) {
         chosen = row_named(rows, name);
         if (chosen) return;
-        std::string expected = "no such kind: '" + name + "'; expected one of";
-        for (const Row& known : rows) expected += std::string(" ") + known.name;
-        throw CLI::ValidationError(expected);
+        std::vector<std::string_view> known;
+        std::string expected = "expected one of";
+        for (const Row& row : rows) expected.append(" ").append(known.emplace_back(row.name));
+        throw CLI::ValidationError(no_such("kind", name, nearest_word(name, known), expected));
     };
     ChoiceOption noted{purpose, {}};
     for (const Row& row : rows) noted.values.push_back({row.name, help_of(row)});
@@ -84,8 +90,8 @@ auto known_fields(Find find, const std::string& label) {
     try {
         return find(label);
     } catch (const UnknownField& unknown) {
-        throw CLI::ValidationError(std::string("no such field: '") + unknown.what() +
-                                   "'; lmrtext fields --view internal lists them");
+        throw CLI::ValidationError(no_such("field", unknown.what(), unknown.nearest(),
+                                           "lmrtext fields --view internal lists them"));
     }
 }
 

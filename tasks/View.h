@@ -18,8 +18,9 @@ struct View {
 
 std::span<const View> views();
 
-/// The fields with these labels, of which there is a comma between any two; labels with commas in
-/// them are known. Throws UnknownField.
+/// The fields with these labels, of which there is a comma between any two, and blanks as you like;
+/// labels with commas in them are known, and case does not count. Throws UnknownField for the first
+/// that is no label, with it alone.
 std::vector<Field> fields_named(const std::string& labels);
-/// The field with that label; throws UnknownField.
+/// The field with that label, whose case does not count; throws UnknownField.
 const Field& field_named(const std::string& label);

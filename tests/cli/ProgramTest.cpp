@@ -22,7 +22,7 @@ TEST_F(Program, ShowsAndComparesFiles) {
                           "R.Dronskowski\n    Literature Reference: <i>Acta Crystallographica "
                           "Section E</i> (<b>60</b>, 2004), i124-i126\n"));
     EXPECT_THAT(done.out, HasSubstr("data_1008935\n    Identifier: 1008935\n"));
-    const std::string some = " --fields \"Z, Z',Author(s)\" " + data + "/2204347.cif";
+    const std::string some = " --fields \"z, z', author(s)\" " + data + "/2204347.cif";
     EXPECT_THAT(run("show --find Liao --to qt" + some).out,
                 EndsWith("data_2204347\n    Z, Z': <b>Z</b>: 3 <b>Z'</b>: 0.0833333\n"
                          "    Author(s): W.<b><font color=blue>Liao</font></b>, R.Dronskowski\n"));
@@ -118,7 +118,13 @@ TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
         {"convert --from plain --to qt --line-length 4294967295", "--line-length: "},
         {"convert --from plain --to qt -j 0", "--jobs: "},
         {"show", ""},
-        {"show --fields Nope x", "no such field: 'Nope'"},
+        {"shwo x.cif", "no such command: 'shwo'; did you mean 'show'?"},
+        {"convert --from plain --to htlm5", "no such kind: 'htlm5'; did you mean 'html5'?"},
+        {"show --fields Nope x", "no such field: 'Nope'; lmrtext fields --view internal lists"},
+        {"show --fields 'Color,Autor(s),Habit' x", "no such field: 'Autor(s)'; did you mean 'Aut"},
+        {"show --fields 'Cell Lenghts' x", "no such field: 'Cell Lenghts'; did you mean 'Cell L"},
+        {"show --fields \"z,z',Color,Hbait\" x", "no such field: 'z,z''; did you mean 'Z, Z''?"},
+        {"search --field authors --term x", "no such field: 'authors'; did you mean 'Author(s)'?"},
         {"show -o '' x.cif", "--output: expected the name of a file"},
         {"compare a.cif", ""},
         {"fields --view all", "no such kind: 'all'; expected one of default"},
