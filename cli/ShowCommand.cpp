@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <span>
 #include <utility>
 #include <vector>
@@ -22,7 +23,16 @@ public:
             return exit_trouble;
         }
         if (path_ == "-") path_.clear();
-        if (!to_) to_ = path_.empty() ? output_of(show_outputs(), Use::database) : output_of_path();
+        if (!to_) {
+            to_ = path_.empty() ? output_of(show_outputs(), RichTextTarget::Use::database)
+                                : output_of_path(show_outputs(), path_);
+        }
+        if (!to_) {
+            report(path_ + ": no target writes " +
+                   std::filesystem::path(path_).extension().string() +
+                   " files; name one with --to");
+            return exit_trouble;
+        }
         const std::unique_ptr<TextOutput> output =
             path_.empty() ? std::make_unique<TextOutput>() : std::make_unique<TextOutput>(path_);
         std::vector<Place> places = places_.cif_files();
@@ -34,8 +44,6 @@ public:
     }
 
 private:
-    using Use = RichTextTarget::Use;
-
     CLI::App* add_command(CLI::App& program) override {
         return program.add_subcommand("show", "Shows the fields of entries in CIF files, styled");
     }
@@ -49,8 +57,8 @@ private:
                        "terminal and tevo elsewhere");
         command
             .add_option("-o,--output", path_,
-                        "Write to this file, -: standard output; html5, also for unknown endings, "
-                        "is a page")
+                        "Write to this file, -: standard output; html5, also for a file without "
+                        "ending, is a page")
             ->check([](const std::string& path) {
                 return path.empty() ? "expected the name of a file" : std::string();
             })
@@ -60,19 +68,11 @@ private:
         add_place_options(command, places_);
     }
 
-    /// What the ending of the file says, and a page for others.
-    const Output* output_of_path() const {
-        if (path_.ends_with(".json")) return row_named(show_outputs(), "json");
-        const RichTextTarget* const target = target_of_path(path_);
-        return row_named(show_outputs(),
-                         target ? target->name : rich_text_target_for(Use::page).name);
-    }
-
     /// Lays out entries of a file; for several threads at a time.
     ProcessedEntries shown(const std::vector<Field>& wanted, const std::string& file,
                            std::span<const CifEntry> entries) const {
         ProcessedEntries done;
-        const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty());
+        const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty(), wanted);
         for (const CifEntry& entry : entries) {
             EntryFields fields(entry, wanted, term_);
             done.problems.insert(done.problems.end(), entry.problems.begin(), entry.problems.end());
@@ -93,7 +93,7 @@ private:
                          [&](const std::string& file, std::span<const CifEntry> entries) {
                              return shown(wanted, file, entries);
                          });
-        const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty());
+        const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty(), wanted);
         Progress progress(progress_ && !output.is_terminal(), "entries", batch.places());
         unsigned long count = 0;
         output.write(layout->head("Crystal structures"));

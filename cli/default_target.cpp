@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "entries/cif_text.h"
 #include "tasks/row_named.h"
 
 namespace {
@@ -30,12 +31,16 @@ const Output* output_of(std::span<const Output> outputs, RichTextTarget::Use oth
     return row_named(outputs, target->name);
 }
 
-const RichTextTarget* target_of_path(const std::string& path) {
-    const std::string ending = std::filesystem::path(path).extension().string();
-    const RichTextTarget* found = nullptr;
+const Output* output_of_path(std::span<const Output> outputs, const std::string& path) {
+    const std::string ending = in_lower_case(std::filesystem::path(path).extension().string());
+    if (ending.size() < 2) {
+        return row_named(outputs, rich_text_target_for(RichTextTarget::Use::page).name);
+    }
+    const Output* found = nullptr;
     // Of several with one ending the last is the one that is made for files of their own.
-    for (const RichTextTarget& target : rich_text_targets()) {
-        if (ending == std::string(".") + target.ending) found = &target;
+    for (const Output& output : outputs) {
+        const char* const its_ending = output.target ? output.target->ending : output.name;
+        if (ending == std::string(".") + its_ending) found = &output;
     }
     return found;
 }

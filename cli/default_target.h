@@ -13,5 +13,6 @@ const RichTextTarget* target_of_terminal();
 /// terminal, or where it is none that for `otherwise`.
 const Output* output_of(std::span<const Output> outputs, RichTextTarget::Use otherwise);
 
-/// The target that writes such files, by the ending of the path, or null.
-const RichTextTarget* target_of_path(const std::string& path);
+/// What writes such files, by the ending of the path, whose case does not count; a page where there
+/// is no ending, and null where nothing has that ending.
+const Output* output_of_path(std::span<const Output> outputs, const std::string& path);

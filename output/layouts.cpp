@@ -1,17 +1,67 @@
 #include "output/layouts.h"
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "output/JsonLayout.h"
 #include "output/LineLayout.h"
 #include "output/PageLayout.h"
+#include "output/TableLayout.h"
+#include "tasks/row_named.h"
+
+namespace {
+
+using Labels = std::vector<std::string>;
+
+/// A form of entries that is no target's.
+struct OwnForm {
+    const char* name;
+    const char* help;
+    std::unique_ptr<EntryLayout> (*make)(Labels labels);
+};
+
+template <TableLayout::Form form>
+std::unique_ptr<EntryLayout> make_table(Labels labels) {
+    return std::make_unique<TableLayout>(form, std::move(labels));
+}
+
+constexpr OwnForm own_forms[] = {
+    {"json", "labels, groups, texts, mark-up and runs of uniform style of each entry (.json)",
+     [](Labels /*labels*/) -> std::unique_ptr<EntryLayout> {
+         return std::make_unique<JsonLayout>();
+     }},
+    {"csv",
+     "a row an entry and a column a field, for spreadsheets; what they would take for a formula "
+     "begins with ' (.csv)",
+     make_table<TableLayout::Form::csv>},
+    {"tsv",
+     "the same between tabs, for scripts; \\t, \\n, \\r and \\\\ stand for a tab, for line ends "
+     "and for a backslash (.tsv)",
+     make_table<TableLayout::Form::tsv>},
+};
+
+}  // namespace
 
 std::span<const Output> show_outputs() {
-    static const std::vector<Output> outputs = outputs_with(
-        "json", "labels, groups, texts, mark-up and runs of uniform style of each entry (.json)");
+    static const std::vector<Output> outputs = [] {
+        std::vector<Output> all;
+        for (const RichTextTarget& target : rich_text_targets()) {
+            all.push_back({target.name, target.help, &target});
+        }
+        for (const OwnForm& form : own_forms) all.push_back({form.name, form.help, nullptr});
+        return all;
+    }();
     return outputs;
 }
 
-std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_file) {
-    if (!output.target) return std::make_unique<JsonLayout>();
+std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_file,
+                                               std::span<const Field> wanted) {
+    if (!output.target) {
+        Labels labels;
+        for (const Field& field : wanted) labels.emplace_back(field.label);
+        return row_named(std::span<const OwnForm>(own_forms), output.name)->make(std::move(labels));
+    }
     if (own_file) return make_comparison_layout(*output.target);
     return std::make_unique<LineLayout>(*output.target);
 }

@@ -30,6 +30,10 @@ TEST_F(Program, ShowsAndComparesFiles) {
     EXPECT_THAT(contents(folder_ / "entry.md"), StartsWith("## "));
     EXPECT_EQ(run("show -o entry.json" + some).status, 0);
     EXPECT_THAT(contents(folder_ / "entry.json"), StartsWith("[\n"));
+    EXPECT_EQ(run("show --to csv -o entry.doc" + some).status, 0);
+    EXPECT_EQ(run("show -o entry.CSV" + some).status, 0);
+    EXPECT_THAT(contents(folder_ / "entry.CSV"), StartsWith("File,Block,\"Z, Z'\",Author(s)\r\n"));
+    EXPECT_EQ(contents(folder_ / "entry.doc"), contents(folder_ / "entry.CSV"));
     EXPECT_EQ(run("compare --to html5" + some + " " + data + "/2204347.cif").status, 0);
     EXPECT_EQ(run("compare" + some + " " + data + "/1008935.cif").status, 1);
     EXPECT_EQ(run("compare" + some + " none.cif").status, 2);
@@ -125,6 +129,7 @@ TEST_F(Program, WrongUsageIsOneLineAndStatusTwo) {
         {"show --fields 'Cell Lenghts' x", "no such field: 'Cell Lenghts'; did you mean 'Cell L"},
         {"show --fields \"z,z',Color,Hbait\" x", "no such field: 'z,z''; did you mean 'Z, Z''?"},
         {"search --field authors --term x", "no such field: 'authors'; did you mean 'Author(s)'?"},
+        {"show -o x.doc x.cif", "x.doc: no target writes .doc files; name one with --to"},
         {"show -o '' x.cif", "--output: expected the name of a file"},
         {"compare a.cif", ""},
         {"fields --view all", "no such kind: 'all'; expected one of default"},

@@ -5,6 +5,8 @@
 #include <nlohmann/json.hpp>
 
 #include "entries/EntryReader.h"
+#include "finders/InputTextStyleFinder.h"
+#include "output/TableLayout.h"
 #include "tasks/View.h"
 #include "tasks/row_named.h"
 
@@ -19,7 +21,8 @@ std::string shown(const std::string& cif, const char* output, const std::string&
     const EntryReader reader(cif);
     const EntryFields fields(reader[0], fields_named(labels), term);
     EXPECT_TRUE(fields.problems.empty());
-    const auto layout = make_entry_layout(*row_named(show_outputs(), output), own_file);
+    const auto layout =
+        make_entry_layout(*row_named(show_outputs(), output), own_file, fields_named(labels));
     const std::string head = layout->head("Entries");
     return head + layout->entry("f", "b", fields.fields) + layout->foot();
 }
@@ -70,6 +73,37 @@ TEST(EntryLayout, SetsTitlesAndRowsAsTheTargetWantsThem) {
                                "<h3>Crystal</h3>\n<dl><dt>Color</dt>\n<dd>red</dd></dl>\n"
                                "<h3>Chemical</h3>\n<dl><dt>Synonym</dt>\n<dd>acetone</dd></dl>\n"
                                "</section>\n</body>\n</html>\n"));
+}
+
+TEST(TableLayout, HasAColumnForEachFieldAndNoFormulas) {
+    const std::string labels = "Color,R-Factor (%),Space Group,Synonym";
+    EXPECT_EQ(
+        shown(cif, "csv", labels),
+        "File,Block,Color,R-Factor (%),Space Group,Synonym\r\nf,b,red,3,P1\u0305,acetone\r\n");
+    EXPECT_EQ(shown("data_a\n", "tsv", "Synonym,Color"), "File\tBlock\tSynonym\tColor\nf\tb\t\t\n");
+    const struct {
+        const char *text, *csv, *tsv;
+    } cells[] = {
+        {"a,b", "\"a,b\"", "a,b"},
+        {"say \"a\"", "\"say \"\"a\"\"\"", "say \"a\""},
+        {"a\nb\\", "\"a\nb\\\"", "a\\nb\\\\"},
+        {"=1+1", "'=1+1", "'=1+1"},
+        {"-2+3", "'-2+3", "'-2+3"},
+        {"@a", "'@a", "'@a"},
+        {"-", "'-", "'-"},
+        {"+1(", "'+1(", "'+1("},
+        {"-5", "-5", "-5"},
+        {"-1.25(3)", "-1.25(3)", "-1.25(3)"},
+        {"+.5e-3", "+.5e-3", "+.5e-3"},
+        {"a-5", "a-5", "a-5"},
+    };
+    for (const auto& [text, csv, tsv] : cells) {
+        const std::vector<EntryField> fields{
+            {"L", "G", TextItem(make_handle<InputTextStyleFinder>(), text)}};
+        TableLayout commas(TableLayout::Form::csv, {"K", "L"}), tabs(TableLayout::Form::tsv, {"L"});
+        EXPECT_EQ(commas.entry("=f", "b", fields), std::string("'=f,b,,") + csv + "\r\n");
+        EXPECT_EQ(tabs.entry("f", "b", fields), std::string("f\tb\t") + tsv + "\n");
+    }
 }
 
 TEST(JsonLayout, HoldsRunsAndNothingThatActs) {
