@@ -2,6 +2,7 @@
 
 #include "cli/command_description.h"
 #include "cli/interface_texts.h"
+#include "cli/manual_sections.h"
 #include "finders/InputTextStyleFinder.h"
 #include "markup/MarkdownRichTextGenerator.h"
 #include "text/TextItem.h"
@@ -36,6 +37,29 @@ std::string markdown_footer(const std::string& footer) {
     return result;
 }
 
+std::string markdown_section(const ManualSection& section) {
+    std::string text = std::string("\n## ") + section.title + "\n\n";
+    if (section.form == ManualSection::Form::definitions) text += "| | |\n| --- | --- |\n";
+    for (const ManualSection::Entry& entry : section.entries) {
+        switch (section.form) {
+            case ManualSection::Form::definitions:
+                text.append("| `").append(entry.term).append("` | ");
+                text.append(markdown(entry.text)).append(" |\n");
+                break;
+            case ManualSection::Form::commands:
+                if (&entry != &section.entries.front()) text += '\n';
+                text.append(markdown(entry.term)).append(":\n\n```\n");
+                text.append(entry.text).append("\n```\n");
+                break;
+            case ManualSection::Form::list:
+                text.append("`").append(entry.term);
+                text += &entry == &section.entries.back() ? "`\n" : "`, ";
+                break;
+        }
+    }
+    return text;
+}
+
 }  // namespace
 
 std::string manual_in_markdown(const CLI::App& program, const Choices& choices) {
@@ -61,5 +85,6 @@ std::string manual_in_markdown(const CLI::App& program, const Choices& choices) 
             page += "| `" + value.choice.name + "` | " + markdown(table.help(value)) + " |\n";
         }
     }
+    for (const ManualSection& section : manual_sections()) page += markdown_section(section);
     return page;
 }

@@ -70,7 +70,11 @@ TEST_F(Program, TellsShellsAndReadersOfItsCommands) {
     EXPECT_THAT(manual, StartsWith(".TH LMRTEXT 1 "));
     EXPECT_THAT(manual, HasSubstr(".SS convert\n"));
     EXPECT_THAT(manual, HasSubstr("\\fB\\-\\-term"));
-    EXPECT_THAT(manual, HasSubstr("printf '%s\\en' "));
+    EXPECT_THAT(manual, HasSubstr(".SH EXIT STATUS\n.TP\n\\fB0\\fR\nall went well"));
+    EXPECT_THAT(manual,
+                HasSubstr("\n.nf\nlmrtext compare \\-\\-tolerance 0.01 before/ after/\n.fi\n"));
+    EXPECT_THAT(manual, EndsWith(".SH SEE ALSO\nfind(1),\ngzip(1),\nparallel(1)\n"));
+    EXPECT_THAT(manual, HasSubstr("printf \\(aq%s\\en\\(aq "));
     EXPECT_THAT(manual, HasSubstr("\\fBslices\\fR\ntrue or false, a tab"));
     const auto completed = [&](const std::string& words, int last) {
         file("complete", run("completion bash").out + "COMP_WORDS=(lmrtext " + words +
