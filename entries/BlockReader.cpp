@@ -50,6 +50,30 @@ std::string BlockReader::first_text(Tags tags) {
     return value ? one_line(value.text) : "";
 }
 
+std::string BlockReader::first_decoded_text(Tags tags) {
+    const Value value = first_value(tags);
+    return value ? decoded(value) : "";
+}
+
+std::string BlockReader::decoded(const Value& value) {
+    std::string line = one_line(value.text);
+    if (!CodedText::may_hold_codes(line)) return line;
+    const CodedText text(line);
+    note_doubts(value, text);
+    return text.unicode();
+}
+
+void BlockReader::note_doubts(const Value& value, const CodedText& text) {
+    const std::size_t first = problems_.size();
+    text.append_doubts(problems_);
+    for (std::size_t i = first; i < problems_.size(); ++i) {
+        problems_[i].line = document_.line_of(value.item->origin());
+        problems_[i].column = 0;  // of the line that was made of several
+        problems_[i].block = std::string(block_.name());
+        problems_[i].item = in_lower_case(value.item->tag());
+    }
+}
+
 std::optional<UncertainValue> BlockReader::number(Tags tags) {
     const Value value = first_value(tags);
     if (!value) return std::nullopt;

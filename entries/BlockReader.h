@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "entries/CifDocument.h"
+#include "entries/CodedText.h"
 #include "entries/EntryText.h"
 #include "entries/Problem.h"
 #include "host/CrystalStructureDatabaseEntry.h"
@@ -45,6 +46,10 @@ public:
     Value first_value(Tags tags);
     /// Its text, on one line.
     std::string first_text(Tags tags);
+    /// Its text on one line, in UTF-8, of which doubts about codes are noted.
+    std::string first_decoded_text(Tags tags);
+    /// A text of a value on one line, likewise.
+    std::string decoded(const Value& value);
     /// The number that it is; a problem where it is none.
     std::optional<UncertainValue> number(Tags tags);
 
@@ -60,6 +65,8 @@ public:
     Problem& add_problem(const Value& value, std::string what);
     Problem& add_unexpected(const Value& value, std::string expected);
     /// @}
+    /// Adds the doubts about the codes of a value.
+    void note_doubts(const Value& value, const CodedText& text);
     /// Adds a text of a field that says more than the records.
     void add_text(EntryText text) { texts_.push_back(std::move(text)); }
     /// Adds a problem for each item that has been asked for and is given again.

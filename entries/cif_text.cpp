@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "entries/read_whole.h"
-#include "markup/Utf8.h"
 
 namespace {
 
@@ -24,26 +23,9 @@ std::string_view take_part(std::string_view& text, char separator) {
     return part;
 }
 
-/// "Yi-Zhi J." as "Y.-Z.J.".
-std::string initials(std::string_view given_names) {
-    std::string result;
-    bool begins_name = true;
-    for (std::size_t i = 0; i < given_names.size(); ++i) {
-        const char c = given_names[i];
-        if (c == '-') result += c;
-        if (c == ' ' || c == '.' || c == '-') {
-            begins_name = true;
-            continue;
-        }
-        if (!begins_name) continue;
-        result += c;
-        while (i + 1 < given_names.size() && is_continuation_byte(given_names[i + 1])) {
-            result += given_names[++i];
-        }
-        result += '.';
-        begins_name = false;
-    }
-    return result;
+/// Whether a word goes on in the next line; a dash between blanks is none.
+bool ends_with_hyphen(std::string_view line) {
+    return line.size() > 1 && line.back() == '-' && line[line.size() - 2] != ' ';
 }
 
 }  // namespace
@@ -62,7 +44,7 @@ std::string in_lower_case(std::string_view text) {
     return result;
 }
 
-std::string one_line(std::string_view text) {
+std::string one_line(std::string_view text, bool is_name) {
     constexpr char fold = '\\';
     std::string_view rest = text;
     const bool folded = take_part(rest, '\n') == std::string_view(&fold, 1);
@@ -72,7 +54,8 @@ std::string one_line(std::string_view text) {
     while (!text.empty()) {
         std::string_view part = take_part(text, '\n');
         if (part.empty()) continue;
-        if (!goes_on && line.back() != '-' && part.front() != '-') line += ' ';
+        const bool is_broken = ends_with_hyphen(line) || (is_name && part.front() == '-');
+        if (!goes_on && !is_broken) line += ' ';
         goes_on = folded && part.back() == fold;
         if (goes_on) part.remove_suffix(1);
         line += part;
@@ -112,23 +95,4 @@ std::optional<UncertainValue> read_number(std::string_view text) {
         result.uncertainty = *last_places * std::pow(10.0, -decimals);
     }
     return result;
-}
-
-std::string without_accents(std::string_view text) {
-    constexpr std::string_view accents = "'\"`^~;<=./,(%&";
-    std::string result;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool accent = text[i] == '\\' && i + 2 < text.size() &&
-                            accents.find(text[i + 1]) != std::string_view::npos;
-        if (accent) i += 2;
-        result += text[i];
-    }
-    return result;
-}
-
-std::string initials_first(std::string_view author) {
-    const std::string plain = without_accents(author);
-    std::string_view given_names = plain;
-    const std::string_view surname = take_part(given_names, ',');
-    return initials(trimmed(given_names)) + std::string(surname);
 }

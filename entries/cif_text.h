@@ -15,10 +15,11 @@ std::string_view without_byte_order_mark(std::string_view bytes);
 /// In lower case, as far as ASCII goes; the case of tags does not count.
 std::string in_lower_case(std::string_view text);
 
-/// The lines of a text field as one line, with one blank between them, but none at a hyphen: names
-/// are broken there. A field whose first line is a lone backslash has folded lines: each that ends
-/// with a backslash goes on in the next.
-std::string one_line(std::string_view text);
+/// The lines of a text field as one line, with one blank between them, but none behind a hyphen
+/// that ends a word, and in names none before a hyphen either: they are broken there. A field whose
+/// first line is a lone backslash has folded lines: each that ends with a backslash goes on in the
+/// next.
+std::string one_line(std::string_view text, bool is_name = false);
 
 /// A number with or without its standard uncertainty, such as "10.234(5)" or "1.2e3".
 std::optional<UncertainValue> read_number(std::string_view text);
@@ -27,9 +28,3 @@ std::optional<UncertainValue> read_number(std::string_view text);
 /// day, as in "2004-07-09T16:19:55". None where day and month can be told apart by neither their
 /// order nor their numbers: "9/7/2004".
 std::optional<Date> read_date(std::string_view text);
-
-/// The text without the codes of accents, which stand before their letters: "fur" for "f\"ur".
-std::string without_accents(std::string_view text);
-
-/// "Van Poucke, L. C." as "L.C.Van Poucke": given names become initials, accents are dropped.
-std::string initials_first(std::string_view author);

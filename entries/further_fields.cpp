@@ -13,7 +13,7 @@ std::string first_text(BlockReader& block) {
 }
 
 constexpr FurtherField rows[] = {
-    {"Title", "plain", "substring", first_text<title>},
+    {"Title", "cif-text", "substring", first_text<title>},
     {"DOI", "plain", "exact", first_text<doi>},
 };
 

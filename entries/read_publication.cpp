@@ -1,6 +1,7 @@
 #include <sstream>
 
 #include "entries/BlockReader.h"
+#include "entries/PersonName.h"
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
 
@@ -19,10 +20,15 @@ void add_cross_reference(CrystalStructureDatabaseEntry& entry, std::string datab
 
 void read_publication(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
     Publication& article = *entry.publication;
-    article.journal = without_accents(article.journal);
-    for (const std::string& author : block.texts(cif_tags::author)) {
-        const std::string name = initials_first(one_line(author));
-        if (!name.empty()) article.authors.push_back(name);
+    const CifItem* const authors = block.item(cif_tags::author);
+    for (std::string& author : block.texts(cif_tags::author)) {
+        const BlockReader::Value value{authors, std::move(author)};
+        const PersonName name = read_person_name(block.decoded(value));
+        if (name.doubtful) {
+            block.add_problem(value, "given names and surname cannot be told apart in").level =
+                Problem::Level::note;
+        }
+        if (!name.text.empty()) article.authors.push_back(name.text);
     }
     const std::string last_page = block.first_text(just(cif_tags::last_page));
     if (article.page.empty() || last_page.empty() || last_page == article.page) return;

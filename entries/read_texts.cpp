@@ -4,13 +4,12 @@
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
 #include "entries/quantities.h"
-#include "finders/CifChemicalNameStyleFinder.h"
-#include "markup/TevoRichTextGenerator.h"
-#include "text/TextItem.h"
+#include "fields/LMRFieldNames.h"
 
 namespace {
 
 using Entry = CrystalStructureDatabaseEntry;
+using Names = LMRFieldNames;
 
 constexpr auto chemical = &Entry::chemical_info;
 constexpr auto crystal = &Entry::crystal_info;
@@ -29,67 +28,67 @@ struct TextRow {
     std::string_view tag;
     std::string& (*field)(Entry& entry);
     const char* unit;
+    std::optional<Names::TextID> label;  // none: of its field other things are shown beside
 };
 
 // Where several items fill one field, the first that has a value does.
 constexpr TextRow text_rows[] = {
-    {cif_tags::identifier, identifier, ""},
-    {"_chemical_formula_sum", text_field<chemical, &ChemicalInfo::formula>, ""},
-    {"_chemical_compound_source", text_field<chemical, &ChemicalInfo::source>, ""},
-    {"_chemical_properties_biological", text_field<chemical, &ChemicalInfo::bioactivity>, ""},
-    {"_exptl_crystal_colour", text_field<crystal, &CrystalInfo::color>, ""},
-    {"_exptl_crystal_description", text_field<crystal, &CrystalInfo::habit>, ""},
+    {cif_tags::identifier, identifier, "", {}},
+    {"_chemical_formula_sum", text_field<chemical, &ChemicalInfo::formula>, "", Names::formula},
+    {"_chemical_compound_source", text_field<chemical, &ChemicalInfo::source>, "", Names::source},
+    {"_chemical_properties_biological", text_field<chemical, &ChemicalInfo::bioactivity>, "",
+     Names::bioactivity},
+    {"_exptl_crystal_colour", text_field<crystal, &CrystalInfo::color>, "", Names::color},
+    {"_exptl_crystal_description", text_field<crystal, &CrystalInfo::habit>, "", Names::habit},
     {"_exptl_crystal_recrystallization_method",
-     text_field<crystal, &CrystalInfo::recrystallisation_solvent>, ""},
-    {"_cell_special_details", text_field<crystal, &CrystalInfo::other_cell_details>, ""},
-    {"_exptl_special_details", text_field<crystal, &CrystalInfo::experimental_notes>, ""},
-    {"_diffrn_ambient_pressure", text_field<experimental, &ExperimentalInfo::pressure>, "kPa"},
+     text_field<crystal, &CrystalInfo::recrystallisation_solvent>, "",
+     Names::recrystallisation_solvent},
+    {"_cell_special_details", text_field<crystal, &CrystalInfo::other_cell_details>, "",
+     Names::other_cell_details},
+    {"_exptl_special_details", text_field<crystal, &CrystalInfo::experimental_notes>, "",
+     Names::experimental_notes},
+    {"_diffrn_ambient_pressure", text_field<experimental, &ExperimentalInfo::pressure>, "kPa",
+     Names::pressure},
     {"_exptl_crystal_density_diffrn", text_field<experimental, &ExperimentalInfo::density_author>,
-     ""},
-    {"_diffrn_radiation_probe", text_field<experimental, &ExperimentalInfo::radiation_probe>, ""},
-    {"_diffrn_radiation_source", text_field<experimental, &ExperimentalInfo::radiation_source>, ""},
-    {"_diffrn_source", text_field<experimental, &ExperimentalInfo::radiation_source>, ""},
-    {"_diffrn_source_type", text_field<experimental, &ExperimentalInfo::radiation_source>, ""},
+     "", Names::density_author},
+    {"_diffrn_radiation_probe", text_field<experimental, &ExperimentalInfo::radiation_probe>, "",
+     Names::radiation_probe},
+    {"_diffrn_radiation_source", text_field<experimental, &ExperimentalInfo::radiation_source>, "",
+     Names::radiation_source},
+    {"_diffrn_source", text_field<experimental, &ExperimentalInfo::radiation_source>, "",
+     Names::radiation_source},
+    {"_diffrn_source_type", text_field<experimental, &ExperimentalInfo::radiation_source>, "",
+     Names::radiation_source},
     {"_chemical_absolute_configuration",
-     text_field<experimental, &ExperimentalInfo::absolute_configuration>, ""},
+     text_field<experimental, &ExperimentalInfo::absolute_configuration>, "",
+     Names::absolute_configuration},
     {"_diffrn_special_details", text_field<experimental, &ExperimentalInfo::diffraction_details>,
-     ""},
+     "", Names::diffraction_details},
     {"_diffrn_measurement_method", text_field<experimental, &ExperimentalInfo::diffraction_details>,
-     ""},
-    {"_refine_special_details", text_field<experimental, &ExperimentalInfo::refinement_details>,
-     ""},
+     "", Names::diffraction_details},
+    {"_refine_special_details", text_field<experimental, &ExperimentalInfo::refinement_details>, "",
+     Names::refinement_details},
     {"_diffrn_measurement_device_type",
-     text_field<experimental, &ExperimentalInfo::intensity_method>, ""},
+     text_field<experimental, &ExperimentalInfo::intensity_method>, "", Names::intensity_method},
     {"_diffrn_measurement_device", text_field<experimental, &ExperimentalInfo::intensity_method>,
-     ""},
-    {"_journal_name_full", text_field<publication, &Publication::journal>, ""},
-    {"_journal_volume", text_field<publication, &Publication::volume>, ""},
-    {"_journal_year", text_field<publication, &Publication::year>, ""},
-    {"_journal_page_first", text_field<publication, &Publication::page>, ""},
+     "", Names::intensity_method},
+    {"_journal_name_full", text_field<publication, &Publication::journal>, "", {}},
+    {"_journal_volume", text_field<publication, &Publication::volume>, "", {}},
+    {"_journal_year", text_field<publication, &Publication::year>, "", {}},
+    {"_journal_page_first", text_field<publication, &Publication::page>, "", {}},
 };
 
 constexpr std::string_view kelvin = "K";
 constexpr double lowest_melting_point = 1;  // in K; helium's, under pressure
 
-/// Finds the styles of a name, but takes codes that stand for no letter for plain text, which the
-/// database's mark-up would leave out.
-class WholeNameStyleFinder : public CifChemicalNameStyleFinder {
-public:
-    void greek(std::vector<GreekSlice>& out) const override {
-        std::vector<GreekSlice> letters;
-        CifChemicalNameStyleFinder::greek(letters);
-        for (const GreekSlice& letter : letters) {
-            if (letter.symbol() != TextItem::no_symbol) out.push_back(letter);
-        }
-    }
-};
-
-/// A name in the database's own mark-up; empty, with a problem, when it cannot be styled.
-std::string read_name(BlockReader& block, const BlockReader::Value& name) {
-    TevoRichTextGenerator generator;
+/// A name in the database's own mark-up, which the name as it is written stands beside; empty, with
+/// a problem, when it cannot be styled.
+std::string read_name(BlockReader& block, const BlockReader::Value& name, std::string& as_written) {
+    as_written = one_line(name.text, true);
     try {
-        return TextItem(make_handle<WholeNameStyleFinder>(), one_line(name.text))
-            .mark_up_text(generator);
+        const CodedText text(as_written);
+        block.note_doubts(name, text);
+        return text.tevo();
     } catch (const std::exception& error) {
         block.add_problem(name, std::string(error.what()) + " in");
         return "";
@@ -101,8 +100,17 @@ std::string read_name(BlockReader& block, const BlockReader::Value& name) {
 void read_texts(BlockReader& block, Entry& entry) {
     for (const TextRow& row : text_rows) {
         std::string& field = row.field(entry);
-        const std::string text = block.first_text(just(row.tag));
-        if (field.empty() && !text.empty()) field = *row.unit ? with_unit(text, row.unit) : text;
+        const BlockReader::Value value = block.first_value(just(row.tag));
+        if (!field.empty() || !value) continue;
+        field = block.decoded(value);
+        if (*row.unit) field = with_unit(field, row.unit);
+        std::string as_written = one_line(value.text);
+        const bool is_formula = row.label == Names::formula;
+        if (is_formula ||
+            (row.label && as_written != field && CodedText::may_hold_codes(as_written))) {
+            block.add_text({Names::text(*row.label), is_formula ? "cif-formula" : "cif-text",
+                            is_formula ? field : std::move(as_written)});
+        }
     }
     if (entry.identifier.empty()) entry.identifier = block.block().name();
 }
@@ -110,7 +118,7 @@ void read_texts(BlockReader& block, Entry& entry) {
 void read_melting_point(BlockReader& block, Entry& entry) {
     const BlockReader::Value point = block.first_value(just(cif_tags::melting_point));
     std::string& shown = entry.crystal_info->melting_point;
-    if (point) shown = with_unit(one_line(point.text), kelvin);
+    if (point) shown = with_unit(block.decoded(point), kelvin);
     const std::optional<UncertainValue> number = read_number(point.text);
     if (number && number->value < lowest_melting_point) {
         block.add_unexpected(point, "a temperature in K").level = Problem::Level::warning;
@@ -125,14 +133,26 @@ void read_melting_point(BlockReader& block, Entry& entry) {
 
 void read_names(BlockReader& block, Entry& entry) {
     std::string& compound_name = entry.chemical_info->compound_name;
+    std::string as_written;
     for (std::string& name : block.texts(cif_tags::name)) {
         if (!compound_name.empty()) break;
-        compound_name = read_name(block, {block.item(cif_tags::name), std::move(name)});
+        compound_name = read_name(block, {block.item(cif_tags::name), std::move(name)}, as_written);
     }
+    if (!compound_name.empty()) {
+        block.add_text({Names::text(Names::compound_name), "cif-text", as_written});
+    }
+    std::string all_as_written;
     for (const std::string_view tag : cif_tags::synonyms) {
         for (std::string& name : block.texts(tag)) {
-            const std::string synonym = read_name(block, {block.item(tag), std::move(name)});
-            if (!synonym.empty()) entry.chemical_info->synonyms.push_back(synonym);
+            const std::string synonym =
+                read_name(block, {block.item(tag), std::move(name)}, as_written);
+            if (synonym.empty()) continue;
+            if (!all_as_written.empty()) all_as_written += "; ";
+            all_as_written += as_written;
+            entry.chemical_info->synonyms.push_back(synonym);
         }
+    }
+    if (!all_as_written.empty()) {
+        block.add_text({Names::text(Names::synonym), "cif-text", all_as_written});
     }
 }

@@ -16,7 +16,7 @@ struct Side {
          const FieldText& other) {
         if (text.text.empty()) return;
         const Highlighting highlighting(*text.source, field.search->make_comparison(settings),
-                                        other.text);
+                                        other.shown());
         item.emplace(highlighting.finder(), text.text);
         matched = highlighting.search().matched();
     }

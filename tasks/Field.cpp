@@ -5,8 +5,10 @@
 #include <vector>
 
 #include "entries/further_fields.h"
+#include "markup/DisplayedText.h"
 #include "suppliers/FieldTextSupplier.h"
 #include "tasks/row_named.h"
+#include "text/TextItem.h"
 
 namespace {
 
@@ -79,6 +81,10 @@ std::span<const Field> fields() {
 const Field& field_of(Names::TextID id) {
     static_cast<void>(Names::text(id));  // throws for what is not a field
     return fields()[static_cast<std::size_t>(id)];
+}
+
+std::string FieldText::shown() const {
+    return source->is_coded ? DisplayedText(TextItem(source->make_finder(), text)).text() : text;
 }
 
 FieldText text_of(const CifEntry& entry, const Field& field) {

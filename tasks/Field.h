@@ -27,5 +27,8 @@ const Field& field_of(LMRFieldNames::TextID id);
 struct FieldText {
     std::string text;      ///< Empty: nothing.
     const Source* source;  ///< The kind of text that it is.
+
+    /// As a reader sees it where there are codes in it, else as it is.
+    std::string shown() const;
 };
 FieldText text_of(const CifEntry& entry, const Field& field);

@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <string>
 
+#include "entries/CodedText.h"
 #include "finders/CellAngleStyleFinder.h"
 #include "finders/CifChemicalNameStyleFinder.h"
-#include "finders/CifTextStyleFinder.h"
 #include "finders/CifFormulaStyleFinder.h"
+#include "finders/CifTextStyleFinder.h"
 #include "finders/CombinedCellLengthsStyleFinder.h"
 #include "finders/SpaceGroupStyleFinder.h"
 #include "finders/TevoChemicalFormulaStyleFinder.h"
@@ -36,25 +37,8 @@ void note_unknown_letters(const InputTextStyleFinder& finder, std::vector<Proble
     problem.what = "Greek code without a letter";
 }
 
-constexpr std::size_t most_doubts = 10;  // of one text
-
 void note_doubts_of_codes(const InputTextStyleFinder& finder, std::vector<Problem>& problems) {
-    using Doubt = CifTextStyleFinder::Doubt;
-    const auto& doubts = dynamic_cast<const CifTextStyleFinder&>(finder).doubts();
-    for (const Doubt& doubt : doubts) {
-        Problem& problem = problems.emplace_back();
-        problem.level = Problem::Level::warning;
-        problem.column = doubt.place.from() + 1UL;
-        if (&doubt == &doubts[0] + most_doubts) {
-            problem.what = std::to_string(doubts.size() - most_doubts) + " more codes in doubt";
-            return;
-        }
-        problem.what = doubt.kind == Doubt::unknown_code        ? "unknown code"
-                       : doubt.kind == Doubt::unknown_reference ? "reference to no character"
-                       : doubt.kind == Doubt::lone_mark         ? "no partner for"
-                                                                : "not UTF-8";
-        problem.found = finder.text().substr(doubt.place.from(), doubt.place.length());
-    }
+    append_doubts_of(dynamic_cast<const CifTextStyleFinder&>(finder), problems);
 }
 
 constexpr Source source_rows[] = {

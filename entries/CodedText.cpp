@@ -1,0 +1,69 @@
+#include "entries/CodedText.h"
+
+#include "markup/TevoRichTextGenerator.h"
+#include "markup/UnicodeRichTextGenerator.h"
+
+namespace {
+
+constexpr std::size_t most_doubts = 10;
+
+using Doubt = CifTextStyleFinder::Doubt;
+
+const char* words_of(Doubt::Kind kind) {
+    switch (kind) {
+        case Doubt::unknown_code:
+            return "unknown code";
+        case Doubt::unknown_reference:
+            return "reference to no character";
+        case Doubt::lone_mark:
+            return "no partner for";
+        default:
+            return "not UTF-8";
+    }
+}
+
+}  // namespace
+
+bool CodedText::may_hold_codes(std::string_view text) {
+    char previous = 0;
+    for (const char c : text) {
+        const bool joins = (c == '-' || c == '+') && (previous == '-' || previous == '+');
+        const bool begins = c == '\\' || c == '~' || c == '^' || c == '&' || c == '<';
+        if (joins || begins || static_cast<unsigned char>(c) >= 0x80) return true;
+        previous = c;
+    }
+    return false;
+}
+
+CodedText::CodedText(const std::string& text)
+    : finder_(make_handle<CifTextStyleFinder>()), item_(finder_, text) {}
+
+std::string CodedText::unicode() const {
+    UnicodeRichTextGenerator generator;
+    return item_.mark_up_text(generator);
+}
+
+std::string CodedText::tevo() const {
+    TevoRichTextGenerator generator;
+    return item_.mark_up_text(generator);
+}
+
+void CodedText::append_doubts(std::vector<Problem>& problems) const {
+    append_doubts_of(*finder_, problems);
+}
+
+void append_doubts_of(const CifTextStyleFinder& finder, std::vector<Problem>& problems) {
+    const std::vector<Doubt>& doubts = finder.doubts();
+    for (std::size_t i = 0; i < doubts.size(); ++i) {
+        const StringSlice place = doubts[i].place;
+        Problem& problem = problems.emplace_back();
+        problem.level = Problem::Level::warning;
+        problem.column = place.from() + 1UL;
+        if (i == most_doubts) {
+            problem.what = std::to_string(doubts.size() - i) + " more codes in doubt";
+            return;
+        }
+        problem.what = words_of(doubts[i].kind);
+        problem.found = finder.text().substr(place.from(), place.length());
+    }
+}
