@@ -58,7 +58,7 @@ struct Builder {
 
     void add_value(std::string_view value) {
         contents.values.push_back(value);
-        if (!value.starts_with(';') || in_frame) return;
+        if (value.substr(0, 1) != ";" || in_frame) return;
         const std::size_t line = value.find("\n;") + 1;
         if (value == ";") {
             contents.doubts.push_back({value.data(),
@@ -215,12 +215,13 @@ CifBlock CifDocument::block(std::size_t index) const {
     return {contents_.blocks[index].name, std::move(items)};
 }
 
-std::span<const CifDocument::Doubt> CifDocument::doubts(std::size_t index) const {
+std::vector<CifDocument::Doubt> CifDocument::doubts(std::size_t index) const {
     const std::size_t first = contents_.blocks[index].first_doubt;
     const std::size_t end = index + 1 < contents_.blocks.size()
                                 ? contents_.blocks[index + 1].first_doubt
                                 : contents_.doubts.size();
-    return std::span(contents_.doubts).subspan(first, end - first);
+    const Doubt* const doubts = contents_.doubts.data();
+    return {doubts + first, doubts + end};
 }
 
 unsigned long CifDocument::line_of(const char* place) const {

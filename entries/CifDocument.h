@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -106,7 +105,7 @@ public:
         const char* what;
     };
     /// Those of a block, in the order of the file; `index` is below blocks().
-    std::span<const Doubt> doubts(std::size_t index) const;
+    std::vector<Doubt> doubts(std::size_t index) const;
 
     /// The line, from 1, of a place in the bytes. The first question is O(n) for n bytes, each
     /// later one O(log n).

@@ -18,7 +18,7 @@ class Input
 public:
     explicit Input(std::string_view bytes)
         : memory_input(bytes.data(), bytes.size(), ""),
-          is_version_2_(bytes.starts_with("#\\#CIF_2.0")) {}
+          is_version_2_(bytes.substr(0, magic.size()) == magic) {}
 
     bool is_version_2() const { return is_version_2_; }
     /// 1 at the beginning of a line: the one column that the grammar asks for.
@@ -29,6 +29,8 @@ public:
     }
 
 private:
+    static constexpr std::string_view magic = "#\\#CIF_2.0";
+
     bool is_version_2_;
 };
 
@@ -66,7 +68,7 @@ struct unquoted_2 : pegtl::seq<pegtl::not_at<cif::keyword>, pegtl::not_at<pegtl:
 struct brackets {
     static bool match(Input& in) {
         const std::string_view rest(in.current(), in.size());
-        if (!rest.starts_with('[') && !rest.starts_with('{')) return false;
+        if (rest.empty() || (rest[0] != '[' && rest[0] != '{')) return false;
         const std::size_t end = end_of_brackets(rest);
         if (end == std::string_view::npos) {
             throw pegtl::parse_error("unterminated list or table", in);
