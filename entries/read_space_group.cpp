@@ -5,6 +5,7 @@
 #include "entries/cif_text.h"
 #include "entries/space_group_symbol.h"
 #include "entries/symmetry_operations.h"
+#include "fields/LMRFieldNames.h"
 
 namespace {
 
@@ -205,6 +206,11 @@ void read_space_group(BlockReader& block, Entry& entry) {
     const std::optional<UncertainValue> z = block.number(just(cif_tags::z));
     if (!z) return;
     info.z = z->value;
-    // Where the items disagree, so may the numbers of operations; 0 says that it is not known.
-    if (group && reader.is_certain()) info.z_prime = z->value / group->operations().order();
+    // Where the items disagree, so may the numbers of operations.
+    if (group && reader.is_certain()) {
+        info.z_prime = z->value / group->operations().order();
+    } else {
+        block.add_text({LMRFieldNames::text(LMRFieldNames::z_zprime), "plain",
+                        "Z: " + block.first_text(just(cif_tags::z))});
+    }
 }
