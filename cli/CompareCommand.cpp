@@ -9,6 +9,7 @@
 #include "cli/report.h"
 #include "output/layouts.h"
 #include "tasks/EntryComparison.h"
+#include "tasks/Losses.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ class CompareCommand : public Command {
 public:
     int run() override {
         if (!to_) to_ = target_of_terminal();
-        if (!to_) to_ = &rich_text_target_for(RichTextTarget::Use::database);
+        if (!to_) to_ = &rich_text_target_for(RichTextTarget::Use::plain_terminal);
         EntryStream left(places_of(left_)), right(places_of(right_));
         bool same = compare(left, right);
         if (left.count() != right.count() && left.good() && right.good()) {
@@ -46,7 +47,7 @@ private:
         add_field_options(command, choices, fields_);
         add_tolerance_option(command, settings_);
         add_row_option(command, choices, "--to", to_, rich_text_targets(),
-                       "What to write; unless given, ansi on a terminal and tevo elsewhere");
+                       "What to write; unless given, ansi on a terminal and unicode elsewhere");
         add_progress_option(command, progress_);
         add_recursive_option(command, recursive_);
         command.add_option("A.cif", left_, "One side: a CIF file, or a folder with such")
@@ -67,6 +68,7 @@ private:
         TextOutput output;
         const std::unique_ptr<ComparisonLayout> layout = make_comparison_layout(*to_);
         const std::vector<Field> wanted = fields_.list();
+        Losses losses(*to_);
         Progress progress(progress_ && !output.is_terminal(), "entries",
                           left.places() + right.places());
         bool same = true;
@@ -78,10 +80,13 @@ private:
             if (!left_entry || !right_entry) continue;
             const EntryComparison compared(*left_entry, *right_entry, wanted, settings_);
             same = same && compared.same;
-            for (const Problem& problem : compared.problems) {
-                report(problem);
-                good_ = false;
+            std::vector<Problem> problems = compared.problems;
+            for (const ComparedField& field : compared.fields) {
+                for (const auto& item : {&field.left, &field.right}) {
+                    if (*item) losses.note_styles(**item, problems);
+                }
             }
+            good_ = report(problems) && good_;
             output.write(layout->comparison({left.path(), std::string(left_entry->block.name())},
                                             {right.path(), std::string(right_entry->block.name())},
                                             compared.fields));

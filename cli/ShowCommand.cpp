@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <utility>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "cli/report.h"
 #include "output/layouts.h"
 #include "tasks/EntryFields.h"
+#include "tasks/Losses.h"
 
 namespace {
 
@@ -24,7 +26,7 @@ public:
         }
         if (path_ == "-") path_.clear();
         if (!to_) {
-            to_ = path_.empty() ? output_of(show_outputs(), RichTextTarget::Use::database)
+            to_ = path_.empty() ? output_of(show_outputs(), RichTextTarget::Use::plain_terminal)
                                 : output_of_path(show_outputs(), path_);
         }
         if (!to_) {
@@ -54,7 +56,7 @@ private:
                            "Highlight this in every field, compared as suits the field");
         add_row_option(command, choices, "--to", to_, show_outputs(),
                        "What to write; unless given, as the ending of the file says, ansi on a "
-                       "terminal and tevo elsewhere");
+                       "terminal and unicode elsewhere");
         command
             .add_option("-o,--output", path_,
                         "Write to this file, -: standard output; html5, also for a file without "
@@ -63,16 +65,18 @@ private:
                 return path.empty() ? "expected the name of a file" : std::string();
             })
             ->type_name("FILE");
+        add_position_options(command, choices, positions_);
         add_jobs_option(command, jobs_, "entries");
         add_progress_option(command, progress_);
         add_place_options(command, places_);
     }
 
     /// Lays out entries of a file; for several threads at a time.
-    ProcessedEntries shown(const std::vector<Field>& wanted, const std::string& file,
-                           std::span<const CifEntry> entries) const {
+    ProcessedEntries shown(const std::vector<Field>& wanted, std::optional<Losses> losses,
+                           const std::string& file, std::span<const CifEntry> entries) const {
         ProcessedEntries done;
-        const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty(), wanted);
+        const std::unique_ptr<EntryLayout> layout =
+            make_entry_layout(*to_, !path_.empty(), wanted, positions_.chosen());
         for (const CifEntry& entry : entries) {
             EntryFields fields(entry, wanted, term_);
             done.problems.insert(done.problems.end(), entry.problems.begin(), entry.problems.end());
@@ -80,20 +84,27 @@ private:
                 problem.file = file;
                 done.problems.push_back(std::move(problem));
             }
+            for (const EntryField& field : fields.fields) {
+                if (losses) losses->note_styles(field.item, done.problems);
+            }
             if (done.count++ > 0) done.output += layout->separator();
             done.output += layout->entry(file, std::string(entry.block.name()), fields.fields);
         }
+        if (losses) losses->note_characters(done.output, done.problems);
         return done;
     }
 
     /// Shows one entry after the other; returns whether nothing was reported.
     bool show(std::vector<Place> places, TextOutput& output) const {
         const std::vector<Field> wanted = fields_.list();
+        std::optional<Losses> losses;
+        if (to_->target) losses.emplace(*to_->target);
         EntryBatch batch(std::move(places), jobs_,
                          [&](const std::string& file, std::span<const CifEntry> entries) {
-                             return shown(wanted, file, entries);
+                             return shown(wanted, losses, file, entries);
                          });
-        const std::unique_ptr<EntryLayout> layout = make_entry_layout(*to_, !path_.empty(), wanted);
+        const std::unique_ptr<EntryLayout> layout =
+            make_entry_layout(*to_, !path_.empty(), wanted, positions_.chosen());
         Progress progress(progress_ && !output.is_terminal(), "entries", batch.places());
         unsigned long count = 0;
         output.write(layout->head("Crystal structures"));
@@ -113,7 +124,8 @@ private:
     const Output* to_ = nullptr;
     std::string path_;  // of the file to write; empty: standard output
     ChosenFields fields_;
-    std::string term_;  // searched in every field in the field's own way; empty: no search
+    std::string term_;           // searched in every field in the field's own way; empty: no search
+    ChosenPositions positions_;  // in JSON
     unsigned int jobs_ = 1;
     bool progress_ = true;
     Places places_;

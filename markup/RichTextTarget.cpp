@@ -31,7 +31,7 @@ using Use = RichTextTarget::Use;
 
 constexpr RichTextTarget target_rows[] = {
     {"tevo", "tevo", "the database's own mark-up", false, make<TevoRichTextGenerator>, lines,
-     Use::database},
+     Use::none},
     {"cif", "cif", "the text conventions of CIF files", false, make<CifRichTextGenerator>, lines,
      Use::none},
     {"html", "html", "HTML with font tags and <p> at the end; the text is not escaped", false,

@@ -27,10 +27,9 @@ struct RichTextTarget {
     /// What programs choose a target for where nobody has chosen.
     enum class Use {
         none,            ///< Nothing.
-        database,        ///< Output that is no terminal.
         page,            ///< Pages, and files of unknown kinds.
         terminal,        ///< Terminals.
-        plain_terminal,  ///< Terminals without colours.
+        plain_terminal,  ///< Terminals without colours, and output that is no terminal.
     };
     Use use;  ///< What they choose this one for.
 };

@@ -9,6 +9,7 @@
 #include "markup/TextItemToStringColor.h"
 #include "markup/Utf8.h"
 #include "markup/internal/controls.h"
+#include "text/Position.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
 
@@ -32,6 +33,26 @@ Json json_of(const TextAtom& atom) {
         json["greek"] = TextItemToHtml5Greek().convert(atom.greek());
     }
     return json;
+}
+
+/// The runs of uniform style.
+Json atoms_of(const TextItem& item, const std::optional<TextPositions>& positions) {
+    std::optional<PositionTeller> teller;
+    if (positions) teller.emplace(item, *positions);
+    Json atoms = Json::array();
+    unsigned int from = 0;
+    for (const TextAtom& atom : item.atomize()) {
+        const unsigned int to = from + length_of(atom.text());
+        Json written = json_of(atom);
+        if (teller && !item.characters().empty()) {
+            const StringSlice place = teller->told({from, to});
+            written["from"] = place.from();
+            written["to"] = place.to();
+        }
+        atoms.push_back(std::move(written));
+        from = to;
+    }
+    return atoms;
 }
 
 /// nlohmann's JSON with escapes, which stand only in strings, for what would act where it is shown
@@ -73,13 +94,12 @@ std::string JsonLayout::entry(const std::string& file, const std::string& block,
                               const std::vector<EntryField>& fields) {
     Json written{{"file", file}, {"block", block}, {"fields", Json::array()}};
     for (const EntryField& field : fields) {
-        Json atoms = Json::array();
-        for (const TextAtom& atom : field.item.atomize()) atoms.push_back(json_of(atom));
         written["fields"].push_back({{"label", field.label},
                                      {"group", field.group},
                                      {"text", field.item.text()},
+                                     {"displayed", DisplayedText(field.item).text()},
                                      {"markup", field.item.mark_up_text(generator_)},
-                                     {"atoms", std::move(atoms)}});
+                                     {"atoms", atoms_of(field.item, positions_)}});
     }
     return '\n' + harmless(written.dump(1, ' ', false, Json::error_handler_t::replace));
 }

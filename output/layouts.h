@@ -1,18 +1,21 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <span>
 
 #include "output/ComparisonLayout.h"
 #include "output/Output.h"
+#include "output/TextPositions.h"
 
 /// What show writes: the targets, and forms of its own, of whose files the name is the ending.
 std::span<const Output> show_outputs();
 
 /// The layout of entries that show these fields; in a file of its own the target that is for pages
-/// makes one.
+/// makes one. JSON tells positions where they are asked for.
 std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_file,
-                                               std::span<const Field> wanted);
+                                               std::span<const Field> wanted,
+                                               std::optional<TextPositions> positions = {});
 
 /// The layout of comparisons in the mark-up of a target.
 std::unique_ptr<ComparisonLayout> make_comparison_layout(const RichTextTarget& target);
