@@ -36,6 +36,16 @@ std::string with_unit(std::string text, std::string_view unit) {
     return text;
 }
 
+std::optional<double> read_per_cent(BlockReader& block, Tags tags) {
+    const std::optional<UncertainValue> fraction = block.number(tags);
+    if (!fraction) return std::nullopt;
+    if (fraction->value > 1) {
+        block.add_unexpected(block.first_value(tags), "a number up to 1").level =
+            Problem::Level::warning;
+    }
+    return 100 * fraction->value;
+}
+
 // Three standard uncertainties of the difference: that of the measured volume and what those of the
 // cell's parameters make of the calculated one, as if they were independent of each other. Besides
 // each number may be off by half a unit of its last place; older files have nothing else to go by.

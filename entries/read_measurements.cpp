@@ -1,6 +1,7 @@
 #include "entries/BlockReader.h"
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
+#include "entries/quantities.h"
 
 void read_measurements(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
     ExperimentalInfo& experiment = *entry.experimental_info;
@@ -8,6 +9,5 @@ void read_measurements(BlockReader& block, CrystalStructureDatabaseEntry& entry)
     const std::string temperature = block.first_text(cif_tags::temperature);
     experiment.temperature = read_number(temperature);
     if (!experiment.temperature) experiment.temperature_text = temperature;
-    const std::optional<UncertainValue> r_factor = block.number(cif_tags::r_factor);
-    if (r_factor) experiment.r_factor = 100 * r_factor->value;
+    experiment.r_factor = read_per_cent(block, cif_tags::r_factor).value_or(0);
 }

@@ -68,6 +68,16 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
          {"Color: red ;or pink"},
          {"5 x : ';' at the beginning of a line of a text field",
           "7 x : ';' alone begins a text field only at the beginning of a line"}},
+        {"_exptl_crystal_density_meas 'not measured'\n_exptl_crystal_size_max 0.3\n"
+         "_exptl_crystal_size_min .1\n_diffrn_reflns_theta_max 27.5\n_reflns_number_gt 12\n"
+         "_diffrn_reflns_av_R_equivalents 0.0231\n_refine_ls_wR_factor_ref 12.1\n"
+         "_exptl_absorpt_correction_T_max 0.9\n_exptl_absorpt_correction_T_min 0.8\n"
+         "_exptl_absorpt_coefficient_mu 1.2(1)\nloop_\n_diffrn_radiation_wavelength\n1.54\n1.55\n",
+         {"Crystal Size: 0.3 \xC3\x97 .1 mm", "Wavelength: 1.54, 1.55 \xC3\x85",
+          "Absorption Coefficient: 1.2(1) mm\xE2\x81\xBB\xC2\xB9",
+          "Absorption Correction: T 0.8 to 0.9", "Theta Range: up to 27.5\xC2\xB0",
+          "Reflections: 12 observed, R(int) 2.31 %", "wR-Factor (%): 1210"},
+         {"8 x _refine_ls_wr_factor_ref:  '12.1' (a number up to 1)"}},
         {"_chemical_melting_point '70 oC'\n", {"Melting Point: 70 oC"}, {}},
         {"_chemical_melting_point_gt 500(2)\n_chemical_melting_point_lt 510\n",
          {"Melting Point: > 500(2) K, < 510 K"},
