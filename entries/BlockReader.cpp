@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "entries/cif_tags.h"
 #include "entries/cif_text.h"
 
 namespace {
@@ -12,14 +13,25 @@ constexpr double beyond_use = 1e30;
 
 }  // namespace
 
+/// The block's own item where it has a value; only a block itself knows its number in the database.
+const CifItem* BlockReader::find(std::string_view tag) const {
+    const CifItem* const own = block_.find(tag);
+    if (!common_ || (own && own->has_text()) || tag == cif_tags::identifier) return own;
+    const CifItem* const common = common_->find(tag);
+    return common ? common : own;
+}
+
 const CifItem* BlockReader::item(std::string_view tag) {
-    const CifItem* const found = block_.find(tag);
+    const CifItem* const found = find(tag);
     if (found) asked_for_.push_back(found);
     return found;
 }
 
 CifBlock::Items BlockReader::items(std::string_view prefix) {
     CifBlock::Items found = block_.find_all(prefix);
+    for (const CifItem* item : common_ ? common_->find_all(prefix) : CifBlock::Items()) {
+        if (find(item->tag()) == item) found.push_back(item);
+    }
     asked_for_.insert(asked_for_.end(), found.begin(), found.end());
     return found;
 }
@@ -88,9 +100,11 @@ Problem& BlockReader::add_block_problem(const CifItem& at, std::string what) {
 }
 
 Problem& BlockReader::add_block_problem(const char* place, std::string what) {
+    const std::size_t block = document_.block_at(place);
+    if (block != index_ && !tells_of_common_) return untold_ = {};
     Problem problem;
     problem.line = document_.line_of(place);
-    problem.block = std::string(block_.name());
+    problem.block = std::string(document_.name_of(block));
     problem.what = std::move(what);
     problems_.push_back(std::move(problem));
     return problems_.back();
@@ -117,8 +131,13 @@ Problem& BlockReader::add_unexpected(const Value& value, std::string expected) {
 
 void BlockReader::note_repetitions() {
     std::sort(asked_for_.begin(), asked_for_.end());
-    for (const CifItem* repeated : block_.repetitions()) {
-        const CifItem* const first = block_.find(repeated->tag());
+    note_repetitions(block_);
+    if (common_ && tells_of_common_) note_repetitions(*common_);
+}
+
+void BlockReader::note_repetitions(const CifBlock& block) {
+    for (const CifItem* repeated : block.repetitions()) {
+        const CifItem* const first = block.find(repeated->tag());
         if (!std::binary_search(asked_for_.begin(), asked_for_.end(), first)) continue;
         add_problem(*repeated, "given again; the first value counts");
     }

@@ -31,14 +31,21 @@ public:
         explicit operator bool() const { return item != nullptr; }
     };
 
-    BlockReader(const CifDocument& document, CifBlock block)
-        : document_(document), block_(std::move(block)) {}
+    /// Items that the block has no value for are those of `common`, which may be null and else must
+    /// outlive this; problems of these are told only where `tells_of_common`.
+    BlockReader(const CifDocument& document, std::size_t block, const CifBlock* common,
+                bool tells_of_common)
+        : document_(document),
+          index_(block),
+          block_(document.block(block)),
+          common_(common),
+          tells_of_common_(tells_of_common) {}
 
     const CifBlock& block() const { return block_; }
 
     /// The item with that tag, in lower case, or null.
     const CifItem* item(std::string_view tag);
-    /// The items of CifBlock::find_all().
+    /// The items of CifBlock::find_all(), those of the block first.
     CifBlock::Items items(std::string_view prefix);
     /// The texts of an item, one a row; none where there is no such item.
     std::vector<std::string> texts(std::string_view tag);
@@ -75,11 +82,18 @@ public:
     std::vector<Problem> take_problems() { return std::move(problems_); }
 
 private:
+    const CifItem* find(std::string_view tag) const;
+    void note_repetitions(const CifBlock& block);
+
     const CifDocument& document_;
+    std::size_t index_;
     CifBlock block_;
+    const CifBlock* common_;
+    bool tells_of_common_;
     CifBlock::Items asked_for_;
     std::vector<EntryText> texts_;
     std::vector<Problem> problems_;
+    Problem untold_;  // where those are written that are not told
 };
 
 // Each fills the part of an entry that its name says.

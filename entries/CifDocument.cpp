@@ -9,27 +9,6 @@ namespace {
 
 namespace pegtl = tao::pegtl;
 
-/// A character of a tag, of which the case does not count. Names of newer dictionaries have a point
-/// where older ones have a line: "_cell.length_a".
-int in_tag(char c) {
-    if (c == '.') return '_';
-    return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c;
-}
-
-/// Whether `a` stands before, at (0) or behind `b`.
-int compare_tags(std::string_view a, std::string_view b) {
-    const std::size_t shorter = std::min(a.size(), b.size());
-    for (std::size_t i = 0; i < shorter; ++i) {
-        const int difference = in_tag(a[i]) - in_tag(b[i]);
-        if (difference != 0) return difference;
-    }
-    return a.size() < b.size() ? -1 : a.size() > b.size();
-}
-
-bool tag_before(const CifItem* item, std::string_view tag) {
-    return compare_tags(item->tag(), tag) < 0;
-}
-
 /// Takes what the grammar finds, in the order of the file.
 struct Builder {
     CifDocument::Contents& contents;
@@ -39,8 +18,8 @@ struct Builder {
     const char* origin = nullptr;          // of the present loop
     std::size_t first = 0;                 // of its values
 
-    void add_block(std::string_view name) {
-        contents.blocks.push_back({name, contents.items.size(), contents.doubts.size()});
+    void add_block(std::string_view name, const char* heading) {
+        contents.blocks.push_back({name, heading, contents.items.size(), contents.doubts.size()});
     }
 
     void begin_loop(const char* begin) {
@@ -98,9 +77,9 @@ struct Taken {
 
 void take_block(Builder& builder, std::string_view name) {
     builder.in_frame = false;
-    builder.add_block(name.empty() ? "#" : name);
+    builder.add_block(name.empty() ? "#" : name, name.data());
 }
-void take_global(Builder& builder, std::string_view /*text*/) { builder.add_block(""); }
+void take_global(Builder& builder, std::string_view text) { builder.add_block("", text.data()); }
 void take_frame(Builder& builder, std::string_view /*name*/) { builder.in_frame = true; }
 void take_frame_end(Builder& builder, std::string_view /*text*/) { builder.in_frame = false; }
 void take_tag(Builder& builder, std::string_view tag) { builder.tag = tag; }
@@ -158,39 +137,6 @@ struct Control : pegtl::normal<Rule> {
 
 }  // namespace
 
-CifBlock::CifBlock(std::string_view name, Items items) : name_(name), items_(std::move(items)) {
-    std::stable_sort(items_.begin(), items_.end(),
-                     [](const CifItem* a, const CifItem* b) { return tag_before(a, b->tag()); });
-}
-
-const CifItem* CifBlock::find(std::string_view tag) const {
-    const auto item = std::lower_bound(items_.begin(), items_.end(), tag, tag_before);
-    return item != items_.end() && compare_tags((*item)->tag(), tag) == 0 ? *item : nullptr;
-}
-
-CifBlock::Items CifBlock::find_all(std::string_view prefix) const {
-    Items found;
-    for (auto item = std::lower_bound(items_.begin(), items_.end(), prefix, tag_before);
-         item != items_.end() && compare_tags((*item)->tag().substr(0, prefix.size()), prefix) == 0;
-         ++item) {
-        const bool repeated =
-            !found.empty() && compare_tags(found.back()->tag(), (*item)->tag()) == 0;
-        if (!(*item)->in_loop() && !repeated) found.push_back(*item);
-    }
-    return found;
-}
-
-CifBlock::Items CifBlock::repetitions() const {
-    Items repeated;
-    for (std::size_t i = 1; i < items_.size(); ++i) {
-        if (compare_tags(items_[i - 1]->tag(), items_[i]->tag()) == 0) {
-            repeated.push_back(items_[i]);
-        }
-    }
-    std::sort(repeated.begin(), repeated.end());  // they stand in one vector
-    return repeated;
-}
-
 CifDocument::CifDocument(std::string_view bytes) : bytes_(bytes) {
     bytes = without_byte_order_mark(bytes);
     Builder builder{contents_};
@@ -204,15 +150,22 @@ CifDocument::CifDocument(std::string_view bytes) : bytes_(bytes) {
     if (contents_.blocks.empty()) throw CifError(1, "expected a data block");
 }
 
-CifBlock CifDocument::block(std::size_t index) const {
-    const std::size_t first = contents_.blocks[index].first_item;
-    const std::size_t end = index + 1 < contents_.blocks.size()
-                                ? contents_.blocks[index + 1].first_item
-                                : contents_.items.size();
+CifBlock CifDocument::blocks(std::size_t first, std::size_t last) const {
+    const std::size_t end =
+        last < blocks() ? contents_.blocks[last].first_item : contents_.items.size();
     CifBlock::Items items;
-    items.reserve(end - first);
-    for (std::size_t i = first; i < end; ++i) items.push_back(&contents_.items[i]);
-    return {contents_.blocks[index].name, std::move(items)};
+    items.reserve(end - contents_.blocks[first].first_item);
+    for (std::size_t i = contents_.blocks[first].first_item; i < end; ++i) {
+        items.push_back(&contents_.items[i]);
+    }
+    return {contents_.blocks[first].name, std::move(items)};
+}
+
+std::size_t CifDocument::block_at(const char* place) const {
+    const auto behind = std::upper_bound(
+        contents_.blocks.begin(), contents_.blocks.end(), place,
+        [](const char* at, const Contents::Block& block) { return at < block.heading; });
+    return static_cast<std::size_t>(behind - contents_.blocks.begin()) - 1;
 }
 
 std::vector<CifDocument::Doubt> CifDocument::doubts(std::size_t index) const {

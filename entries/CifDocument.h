@@ -51,6 +51,8 @@ public:
     const char* origin() const { return origin_; }
     bool in_loop() const { return origin_ != tag_.data(); }
     std::size_t size() const { return size_; }
+    /// Whether any of the values has a text. O(n) for n values without.
+    bool has_text() const;
     /// `row` is below size().
     CifValue operator[](std::size_t row) const { return {(*values_)[first_ + row * stride_]}; }
 
@@ -74,6 +76,8 @@ public:
     /// The first item with that tag, or null. `tag` is in lower case; that of the item may be in
     /// any, and have "." for "_". O(log m) for m items.
     const CifItem* find(std::string_view tag) const;
+    /// Whether tags begin with `prefix`, which is in lower case.
+    bool has_any(std::string_view prefix) const;
     /// The items that are not in loops and whose tags begin with `prefix`, which is in lower case,
     /// in the order of the tags; of several with one tag the first.
     Items find_all(std::string_view prefix) const;
@@ -97,7 +101,13 @@ public:
 
     std::size_t blocks() const { return contents_.blocks.size(); }
     /// `index` is below blocks(). O(m log m) for m items.
-    CifBlock block(std::size_t index) const;
+    CifBlock block(std::size_t index) const { return blocks(index, index + 1); }
+    /// The blocks from `first` to `last`, that excluded, as if they were one with the first's name.
+    CifBlock blocks(std::size_t first, std::size_t last) const;
+    /// The block in which a place of the bytes is that stands behind a block's heading.
+    std::size_t block_at(const char* place) const;
+    /// As that of the CifBlock. `index` is below blocks().
+    std::string_view name_of(std::size_t index) const { return contents_.blocks[index].name; }
 
     /// Something in a block that CIF allows, and may not be what was meant.
     struct Doubt {
@@ -115,6 +125,7 @@ public:
     struct Contents {
         struct Block {
             std::string_view name;
+            const char* heading;
             std::size_t first_item, first_doubt;
         };
 

@@ -1,10 +1,70 @@
 #include "entries/EntryReader.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "entries/BlockReader.h"
 #include "entries/further_fields.h"
 
+namespace {
+
+constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
+
+/// Whether the block is that of a crystal.
+bool has_crystal(const CifBlock& block) {
+    constexpr std::string_view tags[] = {"_cell_length_a", "_cell_length_b", "_cell_length_c",
+                                         "_atom_site_label", "_atom_site_fract_x"};
+    return std::any_of(std::begin(tags), std::end(tags), [&](std::string_view tag) {
+        const CifItem* const item = block.find(tag);
+        return item && item->has_text();
+    });
+}
+
+bool has_article(const CifBlock& block) {
+    return block.has_any("_publ_") || block.has_any("_journal_") || block.has_any("_chemical_");
+}
+
+}  // namespace
+
+EntryReader::EntryReader(std::string_view cif) : document_(cif) {
+    if (document_.blocks() > 1) find_entries();
+    if (!entries_.empty()) return;
+    common_.clear();
+    for (std::size_t i = 0; i < document_.blocks(); ++i) entries_.push_back({i, none});
+}
+
+/// Finds none where no block is that of a crystal.
+void EntryReader::find_entries() {
+    bool any_crystal = false;
+    std::vector<std::pair<std::size_t, std::size_t>> runs;
+    for (std::size_t i = 0; i < document_.blocks(); ++i) {
+        const CifBlock block = document_.block(i);
+        const bool crystal = has_crystal(block);
+        any_crystal = any_crystal || crystal;
+        if (crystal || !has_article(block)) {
+            entries_.push_back({i, runs.empty() ? 0 : runs.size() - 1});
+        } else if (!runs.empty() && runs.back().second == i) {
+            ++runs.back().second;
+        } else {
+            runs.emplace_back(i, i + 1);
+        }
+    }
+    if (!any_crystal) entries_.clear();
+    for (const auto& [first, last] : runs) {
+        common_.push_back({first, last, document_.blocks(first, last)});
+    }
+    std::size_t last_common = none;
+    for (Place& entry : entries_) {
+        entry.tells_of_common = entry.common != last_common;
+        last_common = entry.common;
+    }
+}
+
 CifEntry EntryReader::operator[](std::size_t index) const {
-    BlockReader block(document_, document_.block(index));
+    const Place& place = entries_[index];
+    const Common* const common = place.common < common_.size() ? &common_[place.common] : nullptr;
+    BlockReader block(document_, place.block, common ? &common->block : nullptr,
+                      place.tells_of_common);
     const auto entry = make_handle<CrystalStructureDatabaseEntry>();
     read_texts(block, *entry);
     read_melting_point(block, *entry);
@@ -18,9 +78,16 @@ CifEntry EntryReader::operator[](std::size_t index) const {
     read_atoms(block, *entry);
     read_bonds(block, *entry);
     read_further_fields(block);
-    for (const CifDocument::Doubt& doubt : document_.doubts(index)) {
-        block.add_block_problem(doubt.place, doubt.what).level = Problem::Level::warning;
+    const auto note_doubts = [&](std::size_t index_of_block) {
+        for (const CifDocument::Doubt& doubt : document_.doubts(index_of_block)) {
+            block.add_block_problem(doubt.place, doubt.what).level = Problem::Level::warning;
+        }
+    };
+    for (std::size_t i = common ? common->first : 0;
+         common && place.tells_of_common && i < common->last; ++i) {
+        note_doubts(i);
     }
+    note_doubts(place.block);
     block.note_repetitions();
     return {block.block(), entry, block.take_texts(), block.take_problems()};
 }

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <sstream>
 
 #include "entries/BlockReader.h"
@@ -58,11 +59,12 @@ void read_numbers_elsewhere(BlockReader& block, CrystalStructureDatabaseEntry& e
     auto& depositions = entry.deposition_info->depositions;
     for (const CifItem* item : block.items(cif_tags::database_prefix)) {
         const std::string number = one_line((*item)[0].text());
-        if (number.empty() || number == entry.identifier) continue;
-        const std::string tag = in_lower_case(item->tag());
+        if (number.empty()) continue;
+        std::string tag = in_lower_case(item->tag());
+        std::replace(tag.begin(), tag.end(), '.', '_');
         if (tag.starts_with(cif_tags::deposition_prefix)) {
             depositions.push_back({DepositionInfo::supplementary, number});
-        } else {
+        } else if (number != entry.identifier) {
             add_cross_reference(entry, tag.substr(cif_tags::database_prefix.size()), number);
         }
     }

@@ -177,6 +177,45 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
     }
 }
 
+TEST(EntryReader, TakesWhatStructuresHaveInCommonFromOtherBlocks) {
+    const std::string cif =
+        "data_before _publ_section_title none _journal_year 1\n"
+        "data_global _journal_year 2001 _chemical_formula_sum C1\n_audit_creation_date never\n"
+        "_exptl_crystal_colour\n;a\n;b\n;\n_database_code.depnum_ccdc_archive 'X 7'\n"
+        "data_publ loop_ _publ_author_name 'Smith, A.'\n"
+        "data_I _cell_length_a 1 _chemical_formula_sum C2 _journal_year ?\n"
+        "data_II loop_ _atom_site_label C1 C2 _journal_year 2002\n"
+        "data_powder _pd_x 1\ndata_III _cell_length_a ?\n"
+        "data_other _journal_year 2003 data_IV _cell_length_a 2\n";
+    const std::string first = cif.substr(cif.find("data_global"));
+    const EntryReader reader(first);
+    const char* const expected[][3] = {{"I", "2001", "C2"},
+                                       {"II", "2002", "C1"},
+                                       {"powder", "2001", "C1"},
+                                       {"III", "2001", "C1"},
+                                       {"IV", "2003", ""}};
+    ASSERT_EQ(reader.size(), std::size(expected));
+    for (std::size_t i = 0; i < reader.size(); ++i) {
+        const CifEntry entry = reader[i];
+        EXPECT_EQ(entry.entry->identifier, expected[i][0]);
+        EXPECT_EQ(entry.entry->publication->year, expected[i][1]);
+        EXPECT_EQ(entry.entry->chemical_info->formula, expected[i][2]);
+        EXPECT_EQ(entry.entry->publication->authors.size(), i < 4 ? 1U : 0U);
+        EXPECT_EQ(entry.entry->deposition_info->depositions.size(), i < 4 ? 1U : 0U);
+        const std::vector<std::string> problems = problems_of(entry);
+        EXPECT_EQ(std::count(problems.begin(), problems.end(),
+                             "2 global _audit_creation_date:  'never' (a date like 2004-07-09)"),
+                  i == 0 ? 1 : 0);
+        EXPECT_EQ(std::count(problems.begin(), problems.end(),
+                             "5 global : ';' at the beginning of a line of a text field"),
+                  i == 0 ? 1 : 0);
+    }
+    // Those that follow count where none stand before; without structures all are entries.
+    const EntryReader behind("data_I _cell_length_a 1 " + cif.substr(0, cif.find("data_global")));
+    EXPECT_EQ(behind.size(), 1U);
+    EXPECT_EQ(EntryReader("data_a _publ_x 1 data_b _journal_year 1").size(), 2U);
+}
+
 TEST(EntryReader, DoubtsVolumesThatTheCellCannotHave) {
     const struct {
         const char* cell;  // a, b, c and the angles, without measured ones at 90 degrees
