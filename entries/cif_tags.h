@@ -11,6 +11,7 @@ inline constexpr std::string_view name = "_chemical_name_systematic";
 inline constexpr std::string_view synonyms[] = {"_chemical_name_common", "_chemical_name_mineral"};
 
 inline constexpr std::string_view author = "_publ_author_name";
+inline constexpr std::string_view journal = "_journal_name_full";
 inline constexpr std::string_view last_page = "_journal_page_last";
 inline constexpr std::string_view accession = "_audit_creation_date";
 inline constexpr std::string_view update = "_audit_update_record";

@@ -5,6 +5,7 @@
 #include "entries/PersonName.h"
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
+#include "fields/LMRFieldNames.h"
 
 namespace {
 
@@ -15,6 +16,26 @@ void add_cross_reference(CrystalStructureDatabaseEntry& entry, std::string datab
     }
     entry.cross_reference_info->references.push_back(
         {DatabaseCrossReference::same_structure, database + ' ' + number});
+}
+
+/// A reference that lacks a part would show the signs around it: it gets a text of its own, which
+/// looks like the others: "Acta Cryst. C (2001), 12-15" with the journal in italics.
+void add_incomplete_reference(BlockReader& block, const Publication& article) {
+    if (!article.journal.empty() && !article.volume.empty() && !article.year.empty() &&
+        !article.page.empty()) {
+        return;
+    }
+    const std::string journal = block.first_text(just(cif_tags::journal));
+    std::string text = journal.empty() ? "" : "<i>" + journal + "</i>";
+    std::string issue = article.volume.empty() ? "" : "<b>" + article.volume + "</b>";
+    if (!issue.empty() && !article.year.empty()) issue += ", ";
+    issue += article.year;
+    if (!issue.empty()) text.append(text.empty() ? "(" : " (").append(issue).append(")");
+    if (!text.empty() && !article.page.empty()) text += ", ";
+    text += article.page;
+    if (text.empty()) return;
+    block.add_text(
+        {LMRFieldNames::text(LMRFieldNames::literature_reference), "cif-text", std::move(text)});
 }
 
 }  // namespace
@@ -32,8 +53,10 @@ void read_publication(BlockReader& block, CrystalStructureDatabaseEntry& entry) 
         if (!name.text.empty()) article.authors.push_back(name.text);
     }
     const std::string last_page = block.first_text(just(cif_tags::last_page));
-    if (article.page.empty() || last_page.empty() || last_page == article.page) return;
-    article.page.append("-").append(last_page);
+    if (!article.page.empty() && !last_page.empty() && last_page != article.page) {
+        article.page.append("-").append(last_page);
+    }
+    add_incomplete_reference(block, article);
 }
 
 void read_dates(BlockReader& block, CrystalStructureDatabaseEntry& entry) {

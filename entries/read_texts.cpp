@@ -72,7 +72,7 @@ constexpr TextRow text_rows[] = {
      text_field<experimental, &ExperimentalInfo::intensity_method>, "", Names::intensity_method},
     {"_diffrn_measurement_device", text_field<experimental, &ExperimentalInfo::intensity_method>,
      "", Names::intensity_method},
-    {"_journal_name_full", text_field<publication, &Publication::journal>, "", {}},
+    {cif_tags::journal, text_field<publication, &Publication::journal>, "", {}},
     {"_journal_volume", text_field<publication, &Publication::volume>, "", {}},
     {"_journal_year", text_field<publication, &Publication::year>, "", {}},
     {"_journal_page_first", text_field<publication, &Publication::page>, "", {}},

@@ -12,10 +12,9 @@ struct Side {
     std::optional<TextItem> item;
     bool matched = false;
 
-    Side(const Field& field, const SearchSettings& settings, const FieldText& text,
-         const FieldText& other) {
+    Side(const SearchSettings& settings, const FieldText& text, const FieldText& other) {
         if (text.text.empty()) return;
-        const Highlighting highlighting(*text.source, field.search->make_comparison(settings),
+        const Highlighting highlighting(*text.source, text.search->make_comparison(settings),
                                         other.shown());
         item.emplace(highlighting.finder(), text.text);
         matched = highlighting.search().matched();
@@ -30,8 +29,8 @@ EntryComparison::EntryComparison(const CifEntry& left, const CifEntry& right,
         const FieldText left_text = text_of(left, field), right_text = text_of(right, field);
         if (left_text.text.empty() && right_text.text.empty()) continue;
         try {
-            Side left_side(field, settings, left_text, right_text);
-            Side right_side(field, settings, right_text, left_text);
+            Side left_side(settings, left_text, right_text);
+            Side right_side(settings, right_text, left_text);
             const bool equal =
                 left_text.text == right_text.text || (left_side.matched && right_side.matched);
             same = same && equal;

@@ -6,10 +6,9 @@
 
 namespace {
 
-THandle<InputTextStyleFinder> finder_of(const Field& field, const Source& source,
-                                        const std::string& term) {
-    if (term.empty()) return source.make_finder();
-    return Highlighting(source, field.search->make_search({}), term).finder();
+THandle<InputTextStyleFinder> finder_of(const FieldText& text, const std::string& term) {
+    if (term.empty()) return text.source->make_finder();
+    return Highlighting(*text.source, text.search->make_search({}), term).finder();
 }
 
 }  // namespace
@@ -20,8 +19,7 @@ EntryFields::EntryFields(const CifEntry& entry, std::span<const Field> wanted,
         const FieldText text = text_of(entry, field);
         if (text.text.empty()) continue;
         try {
-            fields.push_back(
-                {field.label, field.group, {finder_of(field, *text.source, term), text.text}});
+            fields.push_back({field.label, field.group, {finder_of(text, term), text.text}});
         } catch (const std::exception& error) {
             Problem& problem = problems.emplace_back();
             problem.block = std::string(entry.block.name());

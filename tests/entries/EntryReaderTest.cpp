@@ -78,6 +78,12 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
           "Absorption Correction: T 0.8 to 0.9", "Theta Range: up to 27.5\xC2\xB0",
           "Reflections: 12 observed, R(int) 2.31 %", "wR-Factor (%): 1210"},
          {"8 x _refine_ls_wr_factor_ref:  '12.1' (a number up to 1)"}},
+        {"_journal_name_full 'J. x' _journal_year 2001 _journal_page_first 5\n",
+         {"Literature Reference: <i>J. x</i> (2001), 5"},
+         {}},
+        {"_journal_volume 12 _journal_year 2001\n",
+         {"Literature Reference: (<b>12</b>, 2001)"},
+         {}},
         {"_chemical_melting_point '70 oC'\n", {"Melting Point: 70 oC"}, {}},
         {"_chemical_melting_point_gt 500(2)\n_chemical_melting_point_lt 510\n",
          {"Melting Point: > 500(2) K, < 510 K"},
@@ -124,7 +130,7 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
          {}},
         {"_audit_creation_date 'Tue Jul 9 2004'\n_database_code_Y x\n_journal_page_first o118\n"
          "_journal_page_last o118\n",
-         {"Accession Date: 2004-07-09", "Literature Reference: <j></j><v></v><y></y><p>o118</p>"},
+         {"Accession Date: 2004-07-09", "Literature Reference: o118"},
          {}},
         {"_cell_length_a 5\n_cell_length_c 6\n_symmetry_space_group_name_H-M 5\n"
          "_refine_ls_R_factor_gt 1e308\n_CELL_length_a 6\n_other 1\n_other 2\n",
