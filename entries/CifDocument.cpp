@@ -150,13 +150,24 @@ CifDocument::CifDocument(std::string_view bytes) : bytes_(bytes) {
     if (contents_.blocks.empty()) throw CifError(1, "expected a data block");
 }
 
-CifBlock CifDocument::blocks(std::size_t first, std::size_t last) const {
-    const std::size_t end =
-        last < blocks() ? contents_.blocks[last].first_item : contents_.items.size();
+std::size_t CifDocument::end_of_items(std::size_t block) const {
+    return block + 1 < blocks() ? contents_.blocks[block + 1].first_item : contents_.items.size();
+}
+
+CifBlock CifDocument::block(std::size_t index) const {
+    const std::size_t first = contents_.blocks[index].first_item;
     CifBlock::Items items;
-    items.reserve(end - contents_.blocks[first].first_item);
-    for (std::size_t i = contents_.blocks[first].first_item; i < end; ++i) {
-        items.push_back(&contents_.items[i]);
+    items.reserve(end_of_items(index) - first);
+    for (std::size_t i = first; i < end_of_items(index); ++i) items.push_back(&contents_.items[i]);
+    return {contents_.blocks[index].name, std::move(items)};
+}
+
+CifBlock CifDocument::common_block(std::size_t first, std::size_t last) const {
+    constexpr std::size_t most = 10000;
+    CifBlock::Items items;
+    for (std::size_t i = contents_.blocks[first].first_item; i < end_of_items(last - 1); ++i) {
+        const CifItem& item = contents_.items[i];
+        if (items.size() < most && item.size() <= most && item.has_text()) items.push_back(&item);
     }
     return {contents_.blocks[first].name, std::move(items)};
 }

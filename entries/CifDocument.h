@@ -101,9 +101,11 @@ public:
 
     std::size_t blocks() const { return contents_.blocks.size(); }
     /// `index` is below blocks(). O(m log m) for m items.
-    CifBlock block(std::size_t index) const { return blocks(index, index + 1); }
-    /// The blocks from `first` to `last`, that excluded, as if they were one with the first's name.
-    CifBlock blocks(std::size_t first, std::size_t last) const;
+    CifBlock block(std::size_t index) const;
+    /// The blocks from `first` to `last`, that excluded, as if they were one with the first's name:
+    /// the items with texts. As many entries may have them in common, there are at most 10,000, and
+    /// those with more values than that are left out.
+    CifBlock common_block(std::size_t first, std::size_t last) const;
     /// The block in which a place of the bytes is that stands behind a block's heading.
     std::size_t block_at(const char* place) const;
     /// As that of the CifBlock. `index` is below blocks().
@@ -136,6 +138,9 @@ public:
     };
 
 private:
+    /// One past the last item of a block.
+    std::size_t end_of_items(std::size_t block) const;
+
     std::string_view bytes_;
     Contents contents_;
     mutable std::vector<const char*> line_ends_;  // found when they are asked for

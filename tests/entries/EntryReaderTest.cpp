@@ -217,8 +217,15 @@ TEST(EntryReader, TakesWhatStructuresHaveInCommonFromOtherBlocks) {
                   i == 0 ? 1 : 0);
     }
     // Those that follow count where none stand before; without structures all are entries.
-    const EntryReader behind("data_I _cell_length_a 1 " + cif.substr(0, cif.find("data_global")));
+    const std::string reversed =
+        "data_I _cell_length_a 1 " + cif.substr(0, cif.size() - first.size());
+    const EntryReader behind(reversed);
+    EXPECT_EQ(behind[0].entry->publication->year, "1");
     EXPECT_EQ(behind.size(), 1U);
+    const std::string authors = "data_g loop_ _publ_author_name" + repeated(" a", 10001);
+    const std::string hostile = authors + " data_s _cell_length_a 1";
+    const EntryReader many(hostile);
+    EXPECT_TRUE(many[0].entry->publication->authors.empty());
     EXPECT_EQ(EntryReader("data_a _publ_x 1 data_b _journal_year 1").size(), 2U);
 }
 
