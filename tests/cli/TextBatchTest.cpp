@@ -23,6 +23,7 @@ TEST_F(TextBatch, ATextThatFailsHoldsItsPlaceAndTheRestGoesOn) {
               "lmrtext: none: No such file or directory\n"
               "names:2: creating an overlapping style error\n"
               "names:3: warning: Greek code without a letter\n"
+              "names:4: note: tevo has no code for '?'\n"
               "lmrtext: .: Is a directory\n");
     EXPECT_EQ(done.status, 1);
 }

@@ -154,17 +154,18 @@ TEST(EntryReader, ReadsWhatThereIsAndTellsWhatItCannotRead) {
          {"Number Of Coordinates: 1", "Disorder: C1 and C2 over positions related by symmetry"},
          {}},
         {"_chemical_name_common '~a^b~c^'\n_chemical_name_systematic x\\d-ok\n",
-         {"Compound Name: x\\d-ok"},
-         {"2 x _chemical_name_common: creating an overlapping style error in '~a^b~c^'"}},
+         {"Compound Name: x\\d-ok", "Synonym: ~a^b~c^"},
+         {"2 x _chemical_name_common: no partner for '^'",
+          "2 x _chemical_name_common: no partner for '^'"}},
         {"_chemical_name_systematic\n;\n poly-\n \\m~2~-oxo\n-iron \n\n;\n"
          "_chemical_name_common ?\n_chemical_name_mineral\n;\n ? \n;\n",
-         {"Compound Name: poly-mu!2$-oxo-iron"},
+         {"Compound Name: poly-\\m~2~-oxo-iron"},
          {}},
         {"_chemical_name_systematic\n;\\\nalpha-\\\n\\k~2~ b\\\nc\nd\n;\n"
          "loop_\n_chemical_name_common\n'one' two .\nloop_\n_publ_author_name\n"
          "'M\\\"uller, Yi-Zhi J.'\n'Van Poucke, L. C.'\n'\xC3\x96z, \xC3\x96.'\n",
-         {"Author(s): Y.-Z.J.Muller, L.C.Van Poucke, \xC3\x96.\xC3\x96z",
-          "Compound Name: alpha-kappa!2$ bc d", "Synonym: one; two"},
+         {"Author(s): Y.-Z.J.M\xC3\xBCller, L.C.Van Poucke, \xC3\x96.\xC3\x96z",
+          "Compound Name: alpha-\\k~2~ bc d", "Synonym: one; two"},
          {}},
     };
     for (const auto& c : cases) {

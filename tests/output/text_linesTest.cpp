@@ -38,13 +38,15 @@ TEST(Conversion, ATextThatFailsHoldsItsPlace) {
     const ProcessedTexts done = converted("cif-name", "tevo", "C~2~\n~a^b~c^\na\\dx\n\xFF\xFE~3~");
     EXPECT_EQ(done.output, "C!2$\n\nax\n\xFF\xFE!3$\n");
     EXPECT_FALSE(done.good);
-    ASSERT_EQ(done.problems.size(), 2U);
+    ASSERT_EQ(done.problems.size(), 3U);
     EXPECT_EQ(done.problems[0].line, 2U);
     EXPECT_EQ(done.problems[0].what, "creating an overlapping style error");
     EXPECT_EQ(done.problems[0].level, Problem::Level::error);
     EXPECT_EQ(done.problems[1].line, 3U);
     EXPECT_EQ(done.problems[1].what, "Greek code without a letter");
     EXPECT_EQ(done.problems[1].level, Problem::Level::warning);
+    EXPECT_EQ(done.problems[2].what, "tevo has no code for");
+    EXPECT_EQ(done.problems[2].level, Problem::Level::note);
     EXPECT_TRUE(converted("cif-name", "tevo", "a\\dx").good);
 }
 
