@@ -32,6 +32,7 @@ public:
 
     void parse() {
         while (at_ < text_.size()) {
+            if (open_.empty() && valign_ == 0) skip_plain();
             const std::string_view rest = text_.substr(at_);
             const Utf8Character character = first_character(rest);
             if (rest.starts_with("_{") || rest.starts_with("^{") || rest.front() == '{') {
@@ -55,6 +56,17 @@ private:
         char sign;  // '_', '^' or '{' where neither stands before it
         bool could_be_raised = true, could_be_lowered = true;
     };
+
+    /// Passes over plain characters of ASCII but the last, which a mark may stand on.
+    void skip_plain() {
+        const auto is_plain = [](char c) {
+            return static_cast<unsigned char>(c) < 0x80 && c != '_' && c != '^' && c != '{' &&
+                   c != '}';
+        };
+        while (at_ + 1 < text_.size() && is_plain(text_[at_]) && is_plain(text_[at_ + 1])) {
+            unit_ = at_++;
+        }
+    }
 
     void open_brace() {
         end_script();

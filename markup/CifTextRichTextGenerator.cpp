@@ -38,15 +38,17 @@ Unit first_unit(std::string_view text) {
     const Utf8Character first = first_character(text);
     Unit unit{first.valid ? letter_code(first.code) : "", first.size};
     if (unit.code.empty() || !is_letter_of_text(first.code)) return unit;
+    std::string accents;  // backwards: the outermost comes first
     char32_t single = first.code;
     while (unit.size < text.size()) {
         const Utf8Character mark = first_character(text.substr(unit.size));
         const char accent = cif_accent_of(mark.code);
         if (accent == 0 || composed(single, mark.code) != 0) break;
-        unit.code.insert(0, {'\\', accent});
+        accents += {accent, '\\'};
         unit.size += mark.size;
         single = 0;
     }
+    unit.code.insert(0, std::string(accents.rbegin(), accents.rend()));
     return unit;
 }
 
