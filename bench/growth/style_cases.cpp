@@ -3,13 +3,16 @@
 #include "bench/growth/Case.h"
 #include "finders/CifChemicalNameStyleFinder.h"
 #include "finders/CifFormulaStyleFinder.h"
+#include "finders/CifTextStyleFinder.h"
 #include "finders/CombinedCellLengthsStyleFinder.h"
 #include "finders/SpaceGroupStyleFinder.h"
 #include "finders/TevoChemicalFormulaStyleFinder.h"
 #include "finders/TevoChemicalNameStyleFinder.h"
 #include "finders/TevoPublicationStyleFinder.h"
 #include "finders/TextSearchStyleFinder.h"
+#include "finders/UnicodeTextStyleFinder.h"
 #include "fuzz/StyleLists.h"
+#include "markup/DisplayedText.h"
 #include "markup/RichTextTarget.h"
 #include "search/NumericComparison.h"
 #include "text/TextAtom.h"
@@ -72,6 +75,22 @@ Case replaced() {
             }};
 }
 
+/// Each position asked for both ways.
+Case displayed() {
+    return {"displayed text", 2000, [](unsigned int n) -> Operation {
+                const auto item = std::make_shared<TextItem>(make_handle<CifTextStyleFinder>(),
+                                                             repeated("\\'e~2~é", n));
+                return [item] {
+                    const DisplayedText shown(*item);
+                    for (unsigned int i = 0; i < shown.size(DisplayedText::utf16); ++i) {
+                        const StringSlice place(i, i + 1);
+                        shown.shown(shown.in_item(place, DisplayedText::utf16),
+                                    DisplayedText::characters);
+                    }
+                };
+            }};
+}
+
 Case written(const RichTextTarget& target, const char* name, Shape shape,
              StyleLists& (StyleLists::*add)(unsigned int, unsigned int)) {
     return {std::string("write ") + target.name + ' ' + name, 1000,
@@ -123,12 +142,19 @@ std::vector<Case> style_cases() {
         found<TevoChemicalFormulaStyleFinder>("formula digits", 8000, "C", "9"),
         found<CifFormulaStyleFinder>("cif formula", 2000, "", "C1-x H3.5 2+, "),
         found<CifFormulaStyleFinder>("cif formula dots", 8000, "C", "1."),
+        found<CifTextStyleFinder>("cif text marks", 4000, "", "~^"),
+        found<CifTextStyleFinder>("cif text tags", 4000, "", "<sub>"),
+        found<CifTextStyleFinder>("cif text codes", 2000, "", "\\a\\'e--&lt;~2~"),
+        found<CifTextStyleFinder>("cif text accents", 8000, "", "\\'"),
+        found<UnicodeTextStyleFinder>("unicode scripts", 2000, "", "x²₃"),
+        found<UnicodeTextStyleFinder>("unicode braces", 4000, "", "_{"),
         found<SpaceGroupStyleFinder>("space group", 2000, "P", "2<sub>1</sub><bar>1</bar>"),
         found<SpaceGroupStyleFinder>("space group unclosed", 4000, "P", "<sub>"),
         found<CombinedCellLengthsStyleFinder>("cell lengths", 8000, "a 1 b 2 c 3", " 4"),
         found<TevoPublicationStyleFinder>("reference", 8000, "<j>A</j><v>1</v><y>2</y><p>3</p>",
                                           "<j>"),
         replaced(),
+        displayed(),
         highlighted(),
     };
     for (const auto& shape : shapes) {

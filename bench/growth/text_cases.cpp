@@ -126,6 +126,19 @@ std::vector<Case> text_cases() {
         read("long line", 500000, units("sixteen letters "), read_blocks),
         read("symmetry operations", 4000, symmetry_operations, read_entries),
         read("blocks", 1000, units("data_a\n"), read_entries),
+        read(
+            "blocks with what they have in common", 1000,
+            [](unsigned int n) {
+                return repeated("data_global\n_journal_year 1999\n", n) +
+                       numbers("data_#\n_cell_length_a 1\n")(n);
+            },
+            read_entries),
+        read(
+            "authors", 2000,
+            [](unsigned int n) {
+                return "data_a\nloop_\n_publ_author_name\n" + repeated("'Li, \\'A. B.'\n", n);
+            },
+            read_entries),
         read("blocks with loops", 1000, numbers("data_#\nloop_\n_tag\n1 2\n"), read_entries),
     };
 }

@@ -75,6 +75,17 @@ TEST(EntryLayout, SetsTitlesAndRowsAsTheTargetWantsThem) {
                                "</section>\n</body>\n</html>\n"));
 }
 
+TEST(JsonLayout, TellsTextsAsTheyAreShownAndPlaces) {
+    const EntryReader reader("data_a _publ_section_title '\\a-F^2^'");
+    const std::vector<Field> title = fields_named("Title");
+    const EntryFields fields(reader[0], title);
+    const auto layout = make_entry_layout(*row_named(show_outputs(), "json"), false, title,
+                                          TextPositions{DisplayedText::characters, true});
+    const std::string json = layout->entry("f", "a", fields.fields);
+    EXPECT_THAT(json, HasSubstr("\"text\": \"\\\\a-F^2^\",\n   \"displayed\": \"α-F2\""));
+    EXPECT_THAT(json, HasSubstr("\"valign\": 1,\n     \"from\": 3,\n     \"to\": 4"));
+}
+
 TEST(TableLayout, HasAColumnForEachFieldAndNoFormulas) {
     const std::string labels = "Color,R-Factor (%),Space Group,Synonym";
     EXPECT_EQ(

@@ -50,6 +50,64 @@ TEST(Conversion, ATextThatFailsHoldsItsPlace) {
     EXPECT_TRUE(converted("cif-name", "tevo", "a\\dx").good);
 }
 
+TEST(Conversion, NotesWhatATargetLacksAndWritesAsciiAlone) {
+    const struct {
+        const char *to, *text, *output, *ascii;
+        std::vector<std::string> notes;
+    } cases[] = {
+        {"tevo",
+         "β-P1̅ é",
+         "beta-P1 é",
+         "beta-P1 e",
+         {"tevo has no bars", "tevo has no code for é"}},
+        {"tevo", "4′–x²", "4′–x$2!", "4'-x$2!", {"tevo has no code for ′"}},
+        {"tevo",
+         "ø ß × Åλ Ω č ﬀ",
+         "ø ß × Ålambda Ω č ﬀ",
+         "o ss x Alambda Omega c ?",
+         {"tevo has no code for ø"}},
+        {"cif-text", "β∼eq", "\\b∼eq", "\\b&#x223C;eq", {"cif-text has no code for ∼"}},
+        {"html5", "é<", "é&lt;", "&#xE9;&lt;", {}},
+    };
+    for (const auto& c : cases) {
+        ConvertOptions options;
+        options.from = row_named(sources(), "unicode");
+        options.to = row_named(rich_text_targets(), c.to);
+        std::vector<std::string> notes;
+        const auto process = [&] { return make_conversion(options); };
+        const ProcessedTexts done = process_texts(c.text, '\n', 1, process);
+        for (const Problem& p : done.problems) {
+            notes.push_back(p.what + (p.found.empty() ? "" : " " + p.found));
+            EXPECT_EQ(p.level, Problem::Level::note);
+        }
+        EXPECT_EQ(done.output, c.output + std::string("\n"));
+        EXPECT_EQ(notes, c.notes);
+        options.ascii = ascii_form_of(*options.to);
+        EXPECT_EQ(process_texts(c.text, '\n', 1, process).output, c.ascii + std::string("\n"));
+    }
+    EXPECT_EQ(ascii_form_of(*row_named(rich_text_targets(), "latex")), nullptr);
+}
+
+TEST(Search, TellsPlacesOfTheTextOrOfWhatIsShown) {
+    const std::pair<TextPositions, const char*> cases[] = {
+        {{DisplayedText::bytes, false}, "false\t4-10\n"},
+        {{DisplayedText::bytes, true}, "false\t4-9\n"},
+        {{DisplayedText::characters, true}, "false\t1-5\n"},
+        {{DisplayedText::utf16, true}, "false\t2-6\n"}};
+    SearchOptions options;
+    options.how = row_named(search_kinds(), "substring");
+    options.term = "\u00E1rov";
+    options.from = row_named(sources(), "cif-text");
+    options.to = row_named(search_outputs(), "slices");
+    for (const auto& [positions, output] : cases) {
+        options.positions = positions;
+        EXPECT_EQ(
+            process_texts("\U0001D538\\'arov\\'a", '\n', 1, [&] { return make_search(options); })
+                .output,
+            output);
+    }
+}
+
 TEST(Search, WritesEachTextWithItsMatches) {
     const struct {
         const char *how, *term, *tolerance, *from, *to;

@@ -8,11 +8,13 @@
 #include <sstream>
 
 #include "finders/CifChemicalNameStyleFinder.h"
+#include "finders/CifTextStyleFinder.h"
 #include "finders/SpaceGroupStyleFinder.h"
 #include "finders/TevoChemicalFormulaStyleFinder.h"
 #include "finders/TevoChemicalNameStyleFinder.h"
 #include "finders/TevoPublicationStyleFinder.h"
 #include "finders/TextSearchStyleFinder.h"
+#include "finders/UnicodeTextStyleFinder.h"
 #include "markup/RichTextTarget.h"
 #include "search/CombinedPublicationComparisonSearch.h"
 #include "search/CommonSubstringFinderAdapter.h"
@@ -109,6 +111,8 @@ std::vector<Case> all_cases() {
     const std::string authors = "A.B.Smith, C.Jones, D.Nunez-Garcia";
     std::vector<Case> cases = {
         set_text<TevoChemicalNameStyleFinder>("tevo", "tri-mu!3$-oxo-alpha-kappa$2!N and more"),
+        set_text<CifTextStyleFinder>("cif text", "<i>N</i>-\\k~2~ \\'e &lt; \\\\foo ~"),
+        set_text<UnicodeTextStyleFinder>("unicode", "x²₃ _{eq} P1\u0305 αβ"),
         set_text<CifChemicalNameStyleFinder>("cif", "\\a-C~2~H^3+^ and so on and so forth"),
         set_text<TevoChemicalFormulaStyleFinder>("formula", "C6 H12 N1 O2 1+,(C1 H2)n"),
         set_text<SpaceGroupStyleFinder>("space group", "P<bar>1</bar>2<sub>1</sub>/c"),
