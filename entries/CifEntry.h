@@ -14,7 +14,7 @@ struct CifEntry {
     CifBlock block;  ///< Where its values stand; its document must live on.
     THandle<CrystalStructureDatabaseEntry> entry;
     std::vector<EntryText> texts;   ///< The fields of which more is known than `entry` holds.
-    std::vector<Problem> problems;  ///< The items that could not be read, and doubts.
+    std::vector<Problem> problems;  ///< What could not be read, and doubts, line by line.
 
     /// The text of that field among `texts`, or null.
     const EntryText* text(std::string_view label) const;

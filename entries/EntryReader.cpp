@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "entries/BlockReader.h"
 #include "entries/further_fields.h"
@@ -89,5 +90,8 @@ CifEntry EntryReader::operator[](std::size_t index) const {
     }
     note_doubts(place.block);
     block.note_repetitions();
-    return {block.block(), entry, block.take_texts(), block.take_problems()};
+    std::vector<Problem> problems = block.take_problems();
+    std::stable_sort(problems.begin(), problems.end(),
+                     [](const Problem& a, const Problem& b) { return a.line < b.line; });
+    return {block.block(), entry, block.take_texts(), std::move(problems)};
 }

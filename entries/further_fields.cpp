@@ -41,14 +41,23 @@ constexpr char grams_per_volume[] = "g/cm\xC2\xB3";
 constexpr char degrees[] = "\xC2\xB0";
 constexpr char times[] = " \xC3\x97 ";
 
+/// With its codes, of which the doubts are noted.
+std::string title_as_written(BlockReader& block) {
+    const BlockReader::Value value = block.first_value(title);
+    if (!value) return "";
+    std::string written = one_line(value.text, true);
+    if (CodedText::may_hold_codes(written)) block.note_doubts(value, CodedText(written));
+    return written;
+}
+
 template <const auto& tags>
 std::string first_text(BlockReader& block) {
-    return block.first_text(tags);
+    return block.first_decoded_text(tags);
 }
 
 template <const auto& tags, const auto& unit>
 std::string with_its_unit(BlockReader& block) {
-    return with_unit(block.first_text(tags), unit);
+    return with_unit(block.first_decoded_text(tags), unit);
 }
 
 /// Adds a part of a list.
@@ -59,15 +68,15 @@ void add_part(std::string& list, std::string_view separator, std::string_view pa
 
 /// "2.5 to 27.5", or what there is of it.
 std::string range(BlockReader& block, const std::string_view (&ends)[2]) {
-    const std::string from = block.first_text(just(ends[0]));
-    const std::string to = block.first_text(just(ends[1]));
+    const std::string from = block.first_decoded_text(just(ends[0]));
+    const std::string to = block.first_decoded_text(just(ends[1]));
     if (from == to || to.empty()) return from.empty() ? "" : (to.empty() ? "from " : "") + from;
     return from.empty() ? "up to " + to : from + " to " + to;
 }
 
 /// What many files say in place of a number, such as "not measured", says nothing.
 std::string measured_density(BlockReader& block) {
-    const std::string text = block.first_text(density);
+    const std::string text = block.first_decoded_text(density);
     const bool has_number = text.find_first_of("0123456789") != std::string::npos;
     return has_number ? with_unit(text, grams_per_volume) : "";
 }
@@ -83,7 +92,7 @@ std::string all_wavelengths(BlockReader& block) {
 }
 
 std::string absorption_correction(BlockReader& block) {
-    std::string text = block.first_text(correction);
+    std::string text = block.first_decoded_text(correction);
     const std::string factors = range(block, transmission);
     if (!factors.empty()) add_part(text, ", ", "T " + factors);
     return text;
@@ -91,8 +100,9 @@ std::string absorption_correction(BlockReader& block) {
 
 std::string crystal_size(BlockReader& block) {
     std::string text;
-    for (const std::string_view size : sizes) add_part(text, times, block.first_text(just(size)));
-    const std::string sphere = block.first_text(radius);
+    for (const std::string_view size : sizes)
+        add_part(text, times, block.first_decoded_text(just(size)));
+    const std::string sphere = block.first_decoded_text(radius);
     if (text.empty() && !sphere.empty()) text = "radius " + sphere;
     return text.empty() ? "" : text + " mm";
 }
@@ -117,7 +127,7 @@ std::string reflections(BlockReader& block) {
         {measured, " measured"}, {independent, " independent"}, {observed, " observed"}};
     std::string text;
     for (const auto& [tags, what] : counts) {
-        const std::string count = block.first_text(tags);
+        const std::string count = block.first_decoded_text(tags);
         if (!count.empty()) add_part(text, ", ", count + what);
     }
     const std::string internal = per_cent(block, r_int);
@@ -126,7 +136,7 @@ std::string reflections(BlockReader& block) {
 }
 
 constexpr FurtherField rows[] = {
-    {"Title", "cif-text", "substring", first_text<title>},
+    {"Title", "cif-text", "substring", title_as_written},
     {"DOI", "plain", "exact", first_text<doi>},
     {"Moiety Formula", "cif-formula", "substring", first_text<moiety>},
     {"Formula Weight", "plain", "numeric", first_text<weight>},

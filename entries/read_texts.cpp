@@ -124,8 +124,8 @@ void read_melting_point(BlockReader& block, Entry& entry) {
         block.add_unexpected(point, "a temperature in K").level = Problem::Level::warning;
     }
     if (point) return;
-    const std::string above = block.first_text(just(cif_tags::melting_point_above));
-    const std::string below = block.first_text(just(cif_tags::melting_point_below));
+    const std::string above = block.first_decoded_text(just(cif_tags::melting_point_above));
+    const std::string below = block.first_decoded_text(just(cif_tags::melting_point_below));
     if (!above.empty()) shown = "> " + with_unit(above, kelvin);
     if (!above.empty() && !below.empty()) shown += ", ";
     if (!below.empty()) shown.append("< ").append(with_unit(below, kelvin));
