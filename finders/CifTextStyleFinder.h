@@ -10,6 +10,7 @@ class CifTextStyleFinder : public InputTextStyleFinder {
 public:
     /// What may not be what its author meant. It stays as it stands.
     struct Doubt {
+        /// What is wrong there.
         enum Kind {
             unknown_code,       ///< A backslash that begins no code.
             unknown_reference,  ///< A reference to no character.
@@ -18,7 +19,7 @@ public:
         };
 
         StringSlice place;  ///< Of neighbours of one kind, all.
-        Kind kind;
+        Kind kind;          ///< Likewise.
     };
 
     ~CifTextStyleFinder() override;
