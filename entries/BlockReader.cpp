@@ -76,13 +76,12 @@ std::string BlockReader::decoded(const Value& value) {
 }
 
 void BlockReader::note_doubts(const Value& value, const CodedText& text) {
-    const std::size_t first = problems_.size();
-    text.append_doubts(problems_);
-    for (std::size_t i = first; i < problems_.size(); ++i) {
-        problems_[i].line = document_.line_of(value.item->origin());
-        problems_[i].column = 0;  // of the line that was made of several
-        problems_[i].block = std::string(block_.name());
-        problems_[i].item = in_lower_case(value.item->tag());
+    std::vector<Problem> doubts;
+    text.append_doubts(doubts);
+    for (const Problem& doubt : doubts) {
+        Problem& problem = add_problem(*value.item, doubt.what);
+        problem.level = doubt.level;
+        problem.found = doubt.found;
     }
 }
 

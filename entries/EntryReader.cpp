@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "entries/BlockReader.h"
+#include "entries/cif_text.h"
 #include "entries/further_fields.h"
 
 namespace {
@@ -21,8 +22,15 @@ bool has_crystal(const CifBlock& block) {
     });
 }
 
-bool has_article(const CifBlock& block) {
-    return block.has_any("_publ_") || block.has_any("_journal_") || block.has_any("_chemical_");
+/// Whether the block tells of an article, and not of one structure.
+bool is_common(const CifBlock& block) {
+    constexpr std::string_view of_structures[] = {"_chemical_formula_", "_exptl_",    "_refine_",
+                                                  "_diffrn_",           "_symmetry_", "_pd_",
+                                                  "_space_group_"};
+    if (!block.has_any("_publ_") && !block.has_any("_journal_")) return false;
+    return in_lower_case(block.name()) == "global" ||
+           std::none_of(std::begin(of_structures), std::end(of_structures),
+                        [&](std::string_view prefix) { return block.has_any(prefix); });
 }
 
 }  // namespace
@@ -42,7 +50,7 @@ void EntryReader::find_entries() {
         const CifBlock block = document_.block(i);
         const bool crystal = has_crystal(block);
         any_crystal = any_crystal || crystal;
-        if (crystal || !has_article(block)) {
+        if (crystal || !is_common(block)) {
             entries_.push_back({i, runs.empty() ? 0 : runs.size() - 1});
         } else if (!runs.empty() && runs.back().second == i) {
             ++runs.back().second;

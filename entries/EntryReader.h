@@ -10,9 +10,10 @@
 /// Reads the entries of a CIF file one after the other, one a data block. What a block lacks stays
 /// empty; what cannot be read is among the entry's problems, and the rest of the entry is there.
 ///
-/// Where some blocks have cells or atoms, those that have neither but persons, a journal or names
-/// are no entries: they say what the blocks behind them have in common, up to the next such blocks,
-/// and those at the end of a file without others what all have in common.
+/// Where some blocks have cells or atoms, those that have neither but persons or a journal, and
+/// nothing of a structure unless they are called "global", are no entries: they say what the blocks
+/// behind them have in common, up to the next such blocks, and those at the end of a file without
+/// others what all have in common.
 class EntryReader {
 public:
     /// Refers to the bytes, which the caller keeps. Throws CifError.

@@ -44,6 +44,7 @@ void read_publication(BlockReader& block, CrystalStructureDatabaseEntry& entry) 
     Publication& article = *entry.publication;
     const CifItem* const authors = block.item(cif_tags::author);
     for (std::string& author : block.texts(cif_tags::author)) {
+        if (author.empty()) continue;
         const BlockReader::Value value{authors, std::move(author)};
         const PersonName name = read_person_name(block.decoded(value));
         if (name.doubtful) {

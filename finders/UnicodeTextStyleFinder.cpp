@@ -131,9 +131,13 @@ private:
 
     /// One past the character and the marks on it, but before an overline.
     static std::size_t end_of_unit(std::string_view rest) {
-        const std::size_t end = end_of_character(rest);
-        const std::size_t bar = rest.substr(0, end).find("\u0305");
-        return bar == std::string_view::npos || bar == 0 ? end : bar;
+        std::size_t end = first_character(rest).size;
+        while (end < rest.size()) {
+            const Utf8Character next = first_character(rest.substr(end));
+            if (next.code == overline || !combines(next.code)) break;
+            end += next.size;
+        }
+        return end;
     }
 
     void note_forms(char32_t code) {

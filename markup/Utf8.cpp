@@ -31,11 +31,6 @@ bool may_follow(unsigned char lead, unsigned char second) {
     }
 }
 
-/// The diacritical marks that are laid over the character before them.
-bool combines(char32_t code) {
-    return (code >= 0x300 && code <= 0x36F) || (code >= 0x20D0 && code <= 0x20F0);
-}
-
 }  // namespace
 
 Utf8Character first_character(std::string_view text) {

@@ -22,6 +22,11 @@ constexpr bool is_continuation_byte(char byte) {
 /// Decodes the front of `text`, which is not empty.
 Utf8Character first_character(std::string_view text);
 
+/// Whether it is a diacritical mark, which is laid over the character before it.
+constexpr bool combines(char32_t code) {
+    return (code >= 0x300 && code <= 0x36F) || (code >= 0x20D0 && code <= 0x20F0);
+}
+
 /// One past the character at the front of `text`, which is not empty, with the accents, bars and
 /// the like that combine with it.
 std::size_t end_of_character(std::string_view text);

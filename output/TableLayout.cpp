@@ -101,8 +101,8 @@ std::string TableLayout::written(const std::string& text) {
 }
 
 std::string TableLayout::cell(const std::string& text) const {
-    const std::string harmless = may_be_formula(text) ? '\'' + text : text;
-    return form_ == Form::csv ? csv_cell(harmless) : tsv_cell(harmless);
+    if (form_ == Form::tsv) return tsv_cell(text);
+    return csv_cell(may_be_formula(text) ? '\'' + text : text);
 }
 
 std::string TableLayout::row(const std::vector<std::string>& texts) const {

@@ -8,9 +8,9 @@
 #include "output/EntryLayout.h"
 
 /// A table with a row an entry and a column a field, in plain text, for spreadsheets and scripts.
-/// The first row has the labels; the first columns have file and block. Cells that a spreadsheet
-/// would take for a formula, since they begin with "=", "+", "-" or "@" and are no number, begin
-/// with an apostrophe, which makes them text.
+/// The first row has the labels; the first columns have file and block. Cells of CSV that a
+/// spreadsheet would take for a formula, since they begin with "=", "+", "-" or "@" and are no
+/// number, begin with an apostrophe, which makes them text.
 class TableLayout : public EntryLayout {
 public:
     enum class Form {

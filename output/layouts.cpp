@@ -1,7 +1,6 @@
 #include "output/layouts.h"
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "output/JsonLayout.h"
@@ -18,19 +17,20 @@ using Labels = std::vector<std::string>;
 struct OwnForm {
     const char* name;
     const char* help;
-    std::unique_ptr<EntryLayout> (*make)(Labels labels, std::optional<TextPositions> positions);
+    std::unique_ptr<EntryLayout> (*make)(const Labels& labels,
+                                         std::optional<TextPositions> positions);
 };
 
 template <TableLayout::Form form>
-std::unique_ptr<EntryLayout> make_table(Labels labels, std::optional<TextPositions> /*positions*/) {
-    return std::make_unique<TableLayout>(form, std::move(labels));
+std::unique_ptr<EntryLayout> make_table(const Labels& labels,
+                                        std::optional<TextPositions> /*positions*/) {
+    return std::make_unique<TableLayout>(form, labels);
 }
 
 constexpr OwnForm own_forms[] = {
     {"json", "labels, groups, texts, mark-up and runs of uniform style of each entry (.json)",
-     [](Labels /*labels*/, std::optional<TextPositions> positions) -> std::unique_ptr<EntryLayout> {
-         return std::make_unique<JsonLayout>(positions);
-     }},
+     [](const Labels& /*labels*/, std::optional<TextPositions> positions)
+         -> std::unique_ptr<EntryLayout> { return std::make_unique<JsonLayout>(positions); }},
     {"csv",
      "a row an entry and a column a field, for spreadsheets; what they would take for a formula "
      "begins with ' (.csv)",
@@ -61,8 +61,7 @@ std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_fi
     if (!output.target) {
         Labels labels;
         for (const Field& field : wanted) labels.emplace_back(field.label);
-        return row_named(std::span<const OwnForm>(own_forms), output.name)
-            ->make(std::move(labels), positions);
+        return row_named(std::span<const OwnForm>(own_forms), output.name)->make(labels, positions);
     }
     if (own_file) return make_comparison_layout(*output.target);
     return std::make_unique<LineLayout>(*output.target);
