@@ -131,7 +131,8 @@ std::optional<Parts> parts_of(std::string_view surname, std::string_view given_n
     parts.particles = take_particles(parts.given);
     if (before.empty() || parts.given.empty()) return std::nullopt;
     const auto is_lone_initial = [](const NamePiece& piece) {
-        return is_initial(piece) && (piece.has_dot || characters_of(piece.text) == 1);
+        const bool may_be_word = !piece.has_dot && characters_of(piece.text) > 1;
+        return is_initial(piece) && !may_be_word && piece.text != "St";
     };
     // Two names may be in the list, or a surname that has one letter.
     const bool has_initial = is_lone_initial(before.front()) || is_lone_initial(before.back());
