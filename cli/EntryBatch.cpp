@@ -1,7 +1,10 @@
 #include "cli/EntryBatch.h"
 
+#include <cstdint>
+#include <filesystem>
 #include <new>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 #include "cli/launch_policy.h"
@@ -9,7 +12,9 @@
 
 namespace {
 
-constexpr std::size_t entries_of_a_thread = 16;  // enough to be worth one
+// Enough to be worth a thread.
+constexpr std::size_t entries_of_a_thread = 16;
+constexpr std::uintmax_t bytes_of_a_thread = 1 << 18;
 
 }  // namespace
 
@@ -22,7 +27,7 @@ bool EntryBatch::next(ProcessedEntries& done) {
     while (true) {
         if (file_ && next_of_file(done)) break;
         begin_to_open();
-        if (openings_.empty()) return false;
+        if (openings_.empty() && opened_.empty()) return false;
         if (open_next(done) && done.count > 0) break;
     }
     good_ = report(done.problems) && good_;
@@ -37,40 +42,65 @@ std::vector<CifEntry> EntryBatch::read_entries(EntryFile& file) const {
     return entries;
 }
 
-/// Keeps as many files being opened as there are jobs.
+EntryBatch::Opened EntryBatch::open(Place place) const {
+    if (!place.problem.empty()) return {std::move(place.problem)};
+    try {
+        Opened opened{"", std::make_unique<EntryFile>(place.path)};
+        opened.first = process_(place.path, read_entries(*opened.file));
+        return opened;
+    } catch (const std::bad_alloc&) {
+        return {place.path + ": out of memory"};
+    }
+}
+
+/// The next file, or several small ones, which one thread opens.
+std::vector<Place> EntryBatch::next_places() {
+    std::vector<Place> places;
+    std::uintmax_t size = 0;
+    while (next_place_ < places_.size()) {
+        if (jobs_ > 1) {
+            std::error_code unknown;
+            const auto more = std::filesystem::file_size(places_[next_place_].path, unknown);
+            size += unknown ? bytes_of_a_thread : more;
+        }
+        const bool suffices = jobs_ == 1 || size > bytes_of_a_thread;
+        if (suffices && !places.empty()) break;
+        places.push_back(std::move(places_[next_place_++]));
+    }
+    return places;
+}
+
+/// Keeps as many threads opening files as there are jobs.
 void EntryBatch::begin_to_open() {
     while (openings_.size() < jobs_ && next_place_ < places_.size()) {
-        Place place = std::move(places_[next_place_++]);
-        const auto open = [this, path = place.path] {
-            Opened opened{std::make_unique<EntryFile>(path), {}};
-            const std::vector<CifEntry> entries = read_entries(*opened.file);
-            opened.first = process_(path, entries);
-            return opened;
-        };
-        const bool is_file = place.problem.empty();
-        openings_.push_back(
-            {std::move(place.path), std::move(place.problem),
-             is_file ? std::async(launch_policy(jobs_), open) : std::future<Opened>()});
+        auto places = std::make_shared<std::vector<Place>>(next_places());
+        being_opened_ += places->size();
+        openings_.push_back(std::async(launch_policy(jobs_), [this, places] {
+            std::vector<Opened> all;
+            for (Place& place : *places) all.push_back(open(std::move(place)));
+            return all;
+        }));
     }
 }
 
 /// Takes the next file, and what became of its first entries; false where there is none.
 bool EntryBatch::open_next(ProcessedEntries& done) {
-    Opening opening = std::move(openings_.front());
-    openings_.pop_front();
-    if (!opening.problem.empty()) {
-        refuse(opening.problem);
+    if (opened_.empty()) {
+        std::future<std::vector<Opened>> first = std::move(openings_.front());
+        openings_.pop_front();
+        begin_to_open();
+        for (Opened& opened : first.get()) opened_.push_back(std::move(opened));
+        being_opened_ -= opened_.size();
+    }
+    Opened opened = std::move(opened_.front());
+    opened_.pop_front();
+    if (!opened.problem.empty()) {
+        refuse(opened.problem);
         return false;
     }
-    try {
-        Opened opened = opening.opened.get();
-        file_ = std::move(opened.file);
-        done = std::move(opened.first);
-        return true;
-    } catch (const std::bad_alloc&) {
-        refuse(opening.path + ": out of memory");
-        return false;
-    }
+    file_ = std::move(opened.file);
+    done = std::move(opened.first);
+    return true;
 }
 
 /// The next result of the file; at its end there is no file any more.
@@ -107,7 +137,7 @@ void EntryBatch::begin_to_process() {
 }
 
 double EntryBatch::places_read() const {
-    const std::size_t begun = next_place_ - openings_.size();
+    const std::size_t begun = next_place_ - being_opened_ - opened_.size();
     return static_cast<double>(begun) - (file_ ? 1 - file_->part_read() : 0);
 }
 

@@ -49,16 +49,14 @@ public:
 private:
     /// A file that has been opened, and what became of its first entries.
     struct Opened {
-        std::unique_ptr<EntryFile> file;
-        ProcessedEntries first;
-    };
-    struct Opening {
-        std::string path;
-        std::string problem;  // empty: there is `opened`
-        std::future<Opened> opened;
+        std::string problem;  // empty: there is a file
+        std::unique_ptr<EntryFile> file{};
+        ProcessedEntries first{};
     };
 
     std::vector<CifEntry> read_entries(EntryFile& file) const;
+    Opened open(Place place) const;
+    std::vector<Place> next_places();
     bool open_next(ProcessedEntries& done);
     bool next_of_file(ProcessedEntries& done);
     void begin_to_open();
@@ -69,7 +67,9 @@ private:
     unsigned int jobs_;
     ProcessEntries process_;
     std::size_t next_place_ = 0;
-    std::deque<Opening> openings_;                       // in the order of the places
+    std::deque<std::future<std::vector<Opened>>> openings_;  // in the order of the places
+    std::size_t being_opened_ = 0;                           // the places of these
+    std::deque<Opened> opened_;                              // those that stand before them
     std::unique_ptr<EntryFile> file_;                    // of which entries are left; null: none
     std::deque<std::future<ProcessedEntries>> in_work_;  // entries of the file; ends before it
     bool good_ = true;

@@ -52,7 +52,8 @@ private:
         setting_ = setting;
     }
     void take_first(const char* subject, const Statements& statements) {
-        if (!statements.empty()) take(subject, {group_of(statements[0].operations)});
+        if (setting_.group || statements.empty()) return;  // to find it costs
+        take(subject, {group_of(statements[0].operations)});
     }
     /// Whether a setting of the group has just that Hall symbol, which saves finding operations.
     bool is_confirmed_by(std::string_view hall_symbol);
@@ -118,7 +119,7 @@ const gemmi::SpaceGroup* SpaceGroupReader::find() {
     take_first("the operations' group ", by_operations);
     const std::optional<UncertainValue> number =
         read_number(block_.first_text(cif_tags::group_number));
-    if (number && is_number_of_group(*number)) {
+    if (!setting_.group && number && is_number_of_group(*number)) {
         const auto* const group = gemmi::find_spacegroup_by_number(static_cast<int>(number->value));
         take("the number's group ", find_space_group(group->hm, alpha_, gamma_));
     }

@@ -1,7 +1,17 @@
 #include "output/LineLayout.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include "finders/InputTextStyleFinder.h"
 #include "text/TextItem.h"
+
+namespace {
+
+/// Whether every target writes the character of a label as it is.
+bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == ' '; }
+
+}  // namespace
 
 LineLayout::LineLayout(const RichTextTarget& target)
     : target_(target), generator_(target.make_generator()) {}
@@ -12,8 +22,7 @@ std::string LineLayout::entry(const std::string& file, const std::string& block,
                               const std::vector<EntryField>& fields) {
     std::string lines = title(file + ": data_" + block);
     for (const EntryField& field : fields) {
-        lines += row(target_.layout.indent + std::string(field.label),
-                     field.item.mark_up_text(*generator_));
+        append_row(lines, target_.layout.indent, field.label, field.item.mark_up_text(*generator_));
     }
     return lines + target_.layout.foot;
 }
@@ -24,10 +33,9 @@ std::string LineLayout::comparison(const Side& left, const Side& right,
                               " and data_" + right.block);
     for (const ComparedField& field : fields) {
         const std::string left_text = mark_up(field.left), right_text = mark_up(field.right);
-        const std::string label = std::string(" ") + field.label;
-        lines += row((field.same ? '=' : '<') + label, left_text);
+        append_row(lines, field.same ? "= " : "< ", field.label, left_text);
         if (field.same && left_text == right_text) continue;
-        lines += row((field.same ? '=' : '>') + label, right_text);
+        append_row(lines, field.same ? "= " : "> ", field.label, right_text);
     }
     return lines + target_.layout.foot;
 }
@@ -45,7 +53,10 @@ std::string LineLayout::title(const std::string& text) const {
     return target_.layout.before_title + written(text) + target_.layout.behind_title;
 }
 
-std::string LineLayout::row(const std::string& label, const std::string& mark_up) const {
-    return target_.layout.before_row + written(label) + target_.layout.behind_label + mark_up +
-           '\n';
+void LineLayout::append_row(std::string& lines, const char* sign, const char* label,
+                            const std::string& mark_up) const {
+    const bool is_plain = *sign == ' ' && std::all_of(label, label + std::strlen(label), is_letter);
+    lines += target_.layout.before_row;
+    lines += is_plain ? std::string(sign).append(label) : written(std::string(sign).append(label));
+    lines.append(target_.layout.behind_label).append(mark_up).push_back('\n');
 }

@@ -22,7 +22,8 @@ private:
     std::string written(const std::string& text) const;
     std::string mark_up(const std::optional<TextItem>& item) const;
     std::string title(const std::string& text) const;
-    std::string row(const std::string& label, const std::string& mark_up) const;
+    void append_row(std::string& lines, const char* sign, const char* label,
+                    const std::string& mark_up) const;
 
     const RichTextTarget& target_;
     THandle<RichTextGenerator> generator_;
