@@ -90,7 +90,7 @@ private:
             if (done.count++ > 0) done.output += layout->separator();
             done.output += layout->entry(file, std::string(entry.block.name()), fields.fields);
         }
-        if (losses) losses->note_characters(done.output, done.problems);
+        if (losses) losses->note_characters(done.output, done.problems, true);
         return done;
     }
 

@@ -86,11 +86,13 @@ void Losses::note_styles(const TextItem& item, std::vector<Problem>& problems) {
     }
 }
 
-void Losses::note_characters(std::string_view mark_up, std::vector<Problem>& problems) const {
+void Losses::note_characters(std::string_view mark_up, std::vector<Problem>& problems,
+                             bool is_of_run) const {
     const std::string_view beyond = is_ascii_ ? first_beyond_ascii(mark_up) : std::string_view();
     if (beyond.empty()) return;
     Problem& note = problems.emplace_back();
     note.level = Problem::Level::note;
+    note.is_of_run = is_of_run;
     note.what = std::string(target_.name) + " has no code for";
     note.found = beyond;
 }

@@ -16,8 +16,10 @@ public:
     /// Appends a note for each kind of style of the item that the target has no tags for. O(m) for
     /// m styles.
     void note_styles(const TextItem& item, std::vector<Problem>& problems);
-    /// Appends a note where mark-up that is ASCII by its nature holds more.
-    void note_characters(std::string_view mark_up, std::vector<Problem>& problems) const;
+    /// Appends a note where mark-up that is ASCII by its nature holds more; `is_of_run` says that
+    /// it shall be told once.
+    void note_characters(std::string_view mark_up, std::vector<Problem>& problems,
+                         bool is_of_run = false) const;
 
 private:
     static constexpr std::size_t kinds = 6;
