@@ -1,5 +1,6 @@
 #include "entries/further_fields.h"
 
+#include <locale>
 #include <sstream>
 #include <utility>
 
@@ -116,6 +117,7 @@ std::string per_cent(BlockReader& block, Tags tags) {
     const std::optional<double> fraction = read_per_cent(block, tags);
     if (!fraction) return "";
     std::ostringstream text;
+    text.imbue(std::locale::classic());
     text << *fraction;
     return text.str();
 }
