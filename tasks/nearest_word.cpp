@@ -38,7 +38,7 @@ std::string_view nearest_word(std::string_view word, std::span<const std::string
     std::size_t limit = word.size() / 3;
     std::string_view nearest;
     for (const std::string_view candidate : known) {
-        const auto [shorter, longer] = std::minmax(word.size(), candidate.size());
+        const auto [shorter, longer] = std::minmax({word.size(), candidate.size()});
         if (longer - shorter > limit) continue;
         const std::size_t steps = distance(lower, in_lower_case(candidate));
         if (steps > limit || (steps == limit && !nearest.empty())) continue;
