@@ -45,7 +45,6 @@ private:
             "a page\nwith two columns. The exit status is 0 when all is the same, 1 when something "
             "differs and 2 on trouble.");
         add_field_options(command, choices, fields_);
-        add_tolerance_option(command, settings_);
         add_row_option(command, choices, "--to", to_, rich_text_targets(),
                        "What to write; unless given, ansi on a terminal and unicode elsewhere");
         add_progress_option(command, progress_);
@@ -78,7 +77,9 @@ private:
             const CifEntry* const right_entry = right.next();
             if (!left_entry && !right_entry) break;
             if (!left_entry || !right_entry) continue;
-            const EntryComparison compared(*left_entry, *right_entry, wanted, settings_);
+            const EntryComparison compared({left.path(), *left_entry, wanted},
+                                           {right.path(), *right_entry, wanted}, wanted, settings_,
+                                           true);
             same = same && compared.same;
             std::vector<Problem> problems = compared.problems;
             for (const ComparedField& field : compared.fields) {
@@ -99,7 +100,7 @@ private:
 
     const RichTextTarget* to_ = nullptr;
     ChosenFields fields_;
-    SearchSettings settings_;
+    ComparisonSettings settings_;
     std::string left_, right_;
     bool recursive_ = false;
     bool progress_ = true;

@@ -138,20 +138,21 @@ std::string reflections(BlockReader& block) {
 }
 
 constexpr FurtherField rows[] = {
-    {"Title", "cif-text", "substring", title_as_written},
-    {"DOI", "plain", "exact", first_text<doi>},
-    {"Moiety Formula", "cif-formula", "substring", first_text<moiety>},
-    {"Formula Weight", "plain", "numeric", first_text<weight>},
-    {"Measured Density", "plain", "numeric", measured_density},
-    {"F(000)", "plain", "numeric", first_text<f_000>},
-    {"Crystal Size", "plain", "numeric", crystal_size},
-    {"Wavelength", "plain", "numeric", all_wavelengths},
-    {"Absorption Coefficient", "plain", "numeric", with_its_unit<absorption, per_millimetre>},
-    {"Absorption Correction", "plain", "substring", absorption_correction},
-    {"Theta Range", "plain", "numeric", theta_range},
-    {"Reflections", "plain", "numeric", reflections},
-    {"wR-Factor (%)", "plain", "numeric", weighted_r_factor},
-    {"Goodness Of Fit", "plain", "numeric", first_text<goodness>},
+    {"Title", "cif-text", "substring", "text", title_as_written},
+    {"DOI", "plain", "exact", "exact", first_text<doi>},
+    {"Moiety Formula", "cif-formula", "substring", "formula", first_text<moiety>},
+    {"Formula Weight", "plain", "numeric", "numbers", first_text<weight>},
+    {"Measured Density", "plain", "numeric", "numbers", measured_density},
+    {"F(000)", "plain", "numeric", "numbers", first_text<f_000>},
+    {"Crystal Size", "plain", "numeric", "numbers", crystal_size},
+    {"Wavelength", "plain", "numeric", "numbers", all_wavelengths},
+    {"Absorption Coefficient", "plain", "numeric", "numbers",
+     with_its_unit<absorption, per_millimetre>},
+    {"Absorption Correction", "plain", "substring", "text", absorption_correction},
+    {"Theta Range", "plain", "numeric", "numbers", theta_range},
+    {"Reflections", "plain", "numeric", "numbers", reflections},
+    {"wR-Factor (%)", "plain", "numeric", "numbers", weighted_r_factor},
+    {"Goodness Of Fit", "plain", "numeric", "numbers", first_text<goodness>},
 };
 
 }  // namespace

@@ -8,8 +8,9 @@
 /// A field beyond the catalogue, which a CIF file may tell of an entry besides.
 struct FurtherField {
     const char* label;
-    const char* source;  ///< The kind of its texts.
-    const char* search;  ///< How it is searched and compared.
+    const char* source;      ///< The kind of its texts.
+    const char* search;      ///< How it is searched,
+    const char* comparison;  ///< and how it is compared.
     /// Its text, empty where the block has none.
     std::string (*text_of)(BlockReader& block);
 };

@@ -11,6 +11,10 @@ namespace {
 /// Whether every target writes the character of a label as it is.
 bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == ' '; }
 
+bool is_same(const ComparedField& field) {
+    return field.verdict == Verdict::equal || field.verdict == Verdict::equivalent;
+}
+
 }  // namespace
 
 LineLayout::LineLayout(const RichTextTarget& target)
@@ -33,9 +37,9 @@ std::string LineLayout::comparison(const Side& left, const Side& right,
                               " and data_" + right.block);
     for (const ComparedField& field : fields) {
         const std::string left_text = mark_up(field.left), right_text = mark_up(field.right);
-        append_row(lines, field.same ? "= " : "< ", field.label, left_text);
-        if (field.same && left_text == right_text) continue;
-        append_row(lines, field.same ? "= " : "> ", field.label, right_text);
+        append_row(lines, is_same(field) ? "= " : "< ", field.label, left_text);
+        if (is_same(field) && left_text == right_text) continue;
+        append_row(lines, is_same(field) ? "= " : "> ", field.label, right_text);
     }
     return lines + target_.layout.foot;
 }

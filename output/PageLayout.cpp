@@ -21,6 +21,10 @@ std::string section_head(const std::string& title, const std::string& source) {
 
 constexpr char section_foot[] = "</section>\n";
 
+bool is_same(const ComparedField& field) {
+    return field.verdict == Verdict::equal || field.verdict == Verdict::equivalent;
+}
+
 }  // namespace
 
 PageLayout::~PageLayout() = default;
@@ -79,7 +83,7 @@ std::string PageLayout::comparison(const Side& left, const Side& right,
         section_head(name("data_" + left.block) + " and " + name("data_" + right.block),
                      name(left.file) + " and " + name(right.file));
     for (const ComparedField& field : fields) {
-        section += std::string("<div class=\"pair") + (field.same ? "" : " different") + "\"><p>" +
+        section += std::string("<div class=\"pair") + (is_same(field) ? "" : " different") + "\"><p>" +
                    escaped(field.label) + "</p><p>" + mark_up(field.left) + "</p><p>" +
                    mark_up(field.right) + "</p></div>\n";
     }

@@ -3,44 +3,49 @@
 #include <exception>
 #include <utility>
 
-#include "tasks/Highlighting.h"
-
 namespace {
 
-/// One side of a field, and whether all of it matches the other side.
-struct Side {
-    std::optional<TextItem> item;
-    bool matched = false;
-
-    Side(const SearchSettings& settings, const FieldText& text, const FieldText& other) {
-        if (text.text.empty()) return;
-        const Highlighting highlighting(*text.source, text.search->make_comparison(settings),
-                                        other.shown());
-        item.emplace(highlighting.finder(), text.text);
-        matched = highlighting.search().matched();
-    }
-};
+/// Compares a field of which either side has a text.
+ComparedField compared(const Field& field, const FieldText& left, const FieldText& right,
+                       const ComparisonSettings& settings) {
+    ComparedField result{field.label, field.group, {}, {}, Verdict::equal, {}};
+    if (!left.text.empty()) result.left.emplace(left.source->make_finder(), left.text);
+    if (!right.text.empty()) result.right.emplace(right.source->make_finder(), right.text);
+    if (!result.right) result.verdict = Verdict::only_left;
+    if (!result.left) result.verdict = Verdict::only_right;
+    if (!result.left || !result.right) return result;
+    TextComparison comparison(ComparedText(*result.left), ComparedText(*result.right),
+                              *field.comparison, settings.policy_of(field));
+    result.verdict = comparison.verdict;
+    result.findings = std::move(comparison.findings);
+    return result;
+}
 
 }  // namespace
 
-EntryComparison::EntryComparison(const CifEntry& left, const CifEntry& right,
-                                 std::span<const Field> wanted, const SearchSettings& settings) {
-    for (const Field& field : wanted) {
-        const FieldText left_text = text_of(left, field), right_text = text_of(right, field);
-        if (left_text.text.empty() && right_text.text.empty()) continue;
+ComparisonPolicy ComparisonSettings::policy_of(const Field& field) const {
+    return {(field.comparison->equivalent | ignored) & ~counted, sigmas, tolerance,
+            relative_tolerance};
+}
+
+EntryComparison::EntryComparison(const EntryTexts& left, const EntryTexts& right,
+                                 std::span<const Field> wanted, const ComparisonSettings& settings,
+                                 bool all) {
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        const FieldText &left_text = left.texts[i], &right_text = right.texts[i];
+        verdicts.push_back(Verdict::equal);
+        if (left_text.text == right_text.text && (!all || left_text.text.empty())) continue;
         try {
-            Side left_side(settings, left_text, right_text);
-            Side right_side(settings, right_text, left_text);
-            const bool equal =
-                left_text.text == right_text.text || (left_side.matched && right_side.matched);
-            same = same && equal;
-            fields.push_back(
-                {field.label, std::move(left_side.item), std::move(right_side.item), equal});
+            ComparedField field = compared(wanted[i], left_text, right_text, settings);
+            verdicts.back() = field.verdict;
+            same =
+                same && (field.verdict == Verdict::equal || field.verdict == Verdict::equivalent);
+            if (all || field.verdict != Verdict::equal) fields.push_back(std::move(field));
         } catch (const std::exception& error) {
             Problem& problem = problems.emplace_back();
-            problem.block = std::string(left.block.name());
-            problem.other_block = std::string(right.block.name());
-            problem.item = field.label;
+            problem.block = left.block;
+            problem.other_block = right.block;
+            problem.item = wanted[i].label;
             problem.what = error.what();
         }
     }

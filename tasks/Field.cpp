@@ -18,37 +18,46 @@ struct Row {
     Names::TextID id;
     const char* source;
     const char* search;
+    const char* comparison;
 };
 
 // Fields that are more than a plain text that matches as a whole.
 constexpr Row rows[] = {
-    {Names::cell_lengths, "cell-lengths", "numeric"},
-    {Names::cell_angles, "cell-angles", "numeric"},
-    {Names::cell_volume, "plain", "numeric"},
-    {Names::space_group, "spacegroup", "exact"},
-    {Names::reduced_cell_lengths, "cell-lengths", "numeric"},
-    {Names::reduced_cell_angles, "cell-angles", "numeric"},
-    {Names::reduced_cell_volume, "plain", "numeric"},
-    {Names::temperature, "plain", "numeric"},
-    {Names::pressure, "plain", "numeric"},
-    {Names::density_author, "plain", "numeric"},
-    {Names::density_kovr, "plain", "numeric"},
-    {Names::average_sigma, "plain", "numeric"},
-    {Names::r_factor, "plain", "numeric"},
-    {Names::diffraction_details, "plain", "lines"},
-    {Names::refinement_details, "plain", "lines"},
-    {Names::memo, "plain", "lines"},
-    {Names::remarks, "plain", "lines"},
-    {Names::formula, "formula", "exact"},
-    {Names::compound_name, "tevo-name", "substring"},
-    {Names::synonym, "tevo-name", "substring"},
-    {Names::z_zprime, "z", "numeric"},
-    {Names::melting_point, "plain", "numeric"},
-    {Names::experimental_notes, "plain", "lines"},
-    {Names::other_cell_details, "plain", "lines"},
-    {Names::number_of_coordinates, "plain", "numeric"},
-    {Names::literature_reference, "reference", "publication"},
-    {Names::authors, "plain", "surnames"},
+    {Names::identifier, "plain", "exact", "exact"},
+    {Names::cell_lengths, "cell-lengths", "numeric", "numbers"},
+    {Names::cell_angles, "cell-angles", "numeric", "numbers"},
+    {Names::cell_volume, "plain", "numeric", "numbers"},
+    {Names::space_group, "spacegroup", "exact", "space-group"},
+    {Names::reduced_cell_lengths, "cell-lengths", "numeric", "numbers"},
+    {Names::reduced_cell_angles, "cell-angles", "numeric", "numbers"},
+    {Names::reduced_cell_volume, "plain", "numeric", "numbers"},
+    {Names::temperature, "plain", "numeric", "numbers"},
+    {Names::pressure, "plain", "numeric", "numbers"},
+    {Names::density_author, "plain", "numeric", "numbers"},
+    {Names::density_kovr, "plain", "numeric", "numbers"},
+    {Names::average_sigma, "plain", "numeric", "numbers"},
+    {Names::r_factor, "plain", "numeric", "numbers"},
+    {Names::diffraction_details, "plain", "lines", "text"},
+    {Names::refinement_details, "plain", "lines", "text"},
+    {Names::memo, "plain", "lines", "text"},
+    {Names::remarks, "plain", "lines", "text"},
+    {Names::formula, "formula", "exact", "formula"},
+    {Names::compound_name, "tevo-name", "substring", "text"},
+    {Names::synonym, "tevo-name", "substring", "text"},
+    {Names::z_zprime, "z", "numeric", "numbers"},
+    {Names::melting_point, "plain", "numeric", "numbers"},
+    {Names::experimental_notes, "plain", "lines", "text"},
+    {Names::other_cell_details, "plain", "lines", "text"},
+    {Names::number_of_coordinates, "plain", "numeric", "numbers"},
+    {Names::literature_reference, "reference", "publication", "reference"},
+    {Names::authors, "plain", "surnames", "authors"},
+    {Names::accession_date, "plain", "exact", "exact"},
+    {Names::modification_date, "plain", "exact", "exact"},
+    {Names::previous_refcode, "plain", "exact", "exact"},
+    {Names::kovr_number, "plain", "exact", "exact"},
+    {Names::deposition_numbers, "plain", "exact", "exact"},
+    {Names::cross_references, "plain", "exact", "exact"},
+    {Names::msdbbib, "plain", "exact", "exact"},
 };
 
 Field field_in_catalogue(Names::TextID id) {
@@ -56,9 +65,12 @@ Field field_in_catalogue(Names::TextID id) {
                                          [id](const Row& candidate) { return candidate.id == id; });
     const bool special = row != std::end(rows);
     const bool lacks_group = id == Names::sohncke_group || id == Names::isomer;
-    return {Names::text(id), lacks_group ? "Other" : Names::group(id),
+    return {Names::text(id),
+            lacks_group ? "Other" : Names::group(id),
             row_named(sources(), special ? row->source : "plain"),
-            row_named(search_kinds(), special ? row->search : "exact"), id};
+            row_named(search_kinds(), special ? row->search : "exact"),
+            row_named(comparison_kinds(), special ? row->comparison : "text"),
+            id};
 }
 
 }  // namespace
@@ -71,7 +83,8 @@ std::span<const Field> fields() {
         }
         for (const FurtherField& row : further_fields()) {
             fields.push_back({row.label, further_group, row_named(sources(), row.source),
-                              row_named(search_kinds(), row.search), std::nullopt});
+                              row_named(search_kinds(), row.search),
+                              row_named(comparison_kinds(), row.comparison), std::nullopt});
         }
         return fields;
     }();

@@ -4,17 +4,19 @@
 #include <span>
 #include <string>
 
+#include "comparison/ComparisonKind.h"
 #include "entries/CifEntry.h"
 #include "fields/LMRFieldNames.h"
 #include "tasks/SearchKind.h"
 #include "tasks/Source.h"
 
-/// How a field is called, styled and searched.
+/// How a field is called, styled, searched and compared.
 struct Field {
     const char* label;
     const char* group;     ///< "Other" where the catalogue has none.
     const Source* source;  ///< Of the texts in the records.
     const SearchKind* search;
+    const ComparisonKind* comparison;
     std::optional<LMRFieldNames::TextID> id;  ///< None: beyond the catalogue.
 };
 
@@ -27,7 +29,7 @@ const Field& field_of(LMRFieldNames::TextID id);
 struct FieldText {
     std::string text;          ///< Empty: nothing.
     const Source* source;      ///< The kind of text that it is.
-    const SearchKind* search;  ///< How it is searched and compared.
+    const SearchKind* search;  ///< How it is searched.
 
     /// As a reader sees it where there are codes in it, else as it is.
     std::string shown() const;
