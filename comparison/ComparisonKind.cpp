@@ -1,5 +1,6 @@
 #include "comparison/ComparisonKind.h"
 
+#include "comparison/compare_numbers.h"
 #include "comparison/compare_plain_texts.h"
 
 std::span<const ComparisonKind> comparison_kinds() {
@@ -11,7 +12,7 @@ std::span<const ComparisonKind> comparison_kinds() {
                     Reason::greek, Reason::coding),
          compare_plain_texts},
         {"numbers", "numbers, paired by their labels", reasons_of(Reason::number_within_limit),
-         compare_plain_texts},
+         compare_numbers},
         {"formula", "formulae, element by element", reasons_of(Reason::element_order),
          compare_plain_texts},
         {"authors", "lists of people", reasons_of(Reason::author_form), compare_plain_texts},

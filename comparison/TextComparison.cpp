@@ -1,18 +1,55 @@
 #include "comparison/TextComparison.h"
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
+
+#include "comparison/compare_plain_texts.h"
+#include "text/Position.h"
+
+namespace {
+
+using Findings = std::vector<Finding>;
+
+/// What differs, in positions of the items.
+Findings find(const ComparedText& left, const ComparedText& right, const ComparisonKind& kind,
+              const ComparisonPolicy& policy) {
+    Findings findings;
+    if (left.shown() != right.shown()) findings = kind.find(left, right, policy);
+    // What readers see alike, or what the kind looks for, has been written otherwise.
+    if (findings.empty()) findings = compare_plain_texts(left, right, policy);
+    for (Finding& finding : findings) {
+        finding.left = left.in_item(finding.left);
+        finding.right = right.in_item(finding.right);
+    }
+    // What nobody sees has no place in the shown texts.
+    if (findings.empty()) {
+        const auto all = [](const ComparedText& text) {
+            return StringSlice(0, length_of(text.item().characters()));
+        };
+        findings.push_back({Finding::Reason::coding, all(left), all(right)});
+    }
+    return findings;
+}
+
+}  // namespace
 
 TextComparison::TextComparison(const ComparedText& left, const ComparedText& right,
                                const ComparisonKind& kind, const ComparisonPolicy& policy)
     : verdict(Verdict::equal) {
-    if (left.item().characters() == right.item().characters()) return;
-    findings = kind.find(left, right, policy);
+    const std::string &left_text = left.item().characters(),
+                      &right_text = right.item().characters();
+    if (left_text == right_text) return;
+    // In one order of the two, so that either way round gives the same.
+    const bool exchanged = right_text < left_text;
+    findings = exchanged ? find(right, left, kind, policy) : find(left, right, kind, policy);
+    verdict = Verdict::equivalent;
     for (Finding& finding : findings) {
-        finding.left = left.in_item(finding.left);
-        finding.right = right.in_item(finding.right);
+        if (exchanged) finding = finding.mirrored();
         finding.is_equivalent = policy.allows(finding.reason);
+        if (!finding.is_equivalent) verdict = Verdict::different;
     }
-    const bool all = std::all_of(findings.begin(), findings.end(),
-                                 [](const Finding& finding) { return finding.is_equivalent; });
-    verdict = all ? Verdict::equivalent : Verdict::different;
+    std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
+        return std::tie(a.left, a.right) < std::tie(b.left, b.right);
+    });
 }

@@ -6,7 +6,8 @@
 namespace {
 
 /// Compares a field of which either side has a text.
-ComparedField compared(const Field& field, const FieldText& left, const FieldText& right,
+ComparedField compared(const Field& field, const EntryTexts& left_entry, const FieldText& left,
+                       const EntryTexts& right_entry, const FieldText& right,
                        const ComparisonSettings& settings) {
     ComparedField result{field.label, field.group, {}, {}, Verdict::equal, {}};
     if (!left.text.empty()) result.left.emplace(left.source->make_finder(), left.text);
@@ -14,8 +15,9 @@ ComparedField compared(const Field& field, const FieldText& left, const FieldTex
     if (!result.right) result.verdict = Verdict::only_left;
     if (!result.left) result.verdict = Verdict::only_right;
     if (!result.left || !result.right) return result;
-    TextComparison comparison(ComparedText(*result.left), ComparedText(*result.right),
-                              *field.comparison, settings.policy_of(field));
+    const ComparedText left_side(*result.left, derived_uncertainties(left_entry, field, left));
+    const ComparedText right_side(*result.right, derived_uncertainties(right_entry, field, right));
+    TextComparison comparison(left_side, right_side, *field.comparison, settings.policy_of(field));
     result.verdict = comparison.verdict;
     result.findings = std::move(comparison.findings);
     return result;
@@ -36,7 +38,7 @@ EntryComparison::EntryComparison(const EntryTexts& left, const EntryTexts& right
         verdicts.push_back(Verdict::equal);
         if (left_text.text == right_text.text && (!all || left_text.text.empty())) continue;
         try {
-            ComparedField field = compared(wanted[i], left_text, right_text, settings);
+            ComparedField field = compared(wanted[i], left, left_text, right, right_text, settings);
             verdicts.back() = field.verdict;
             same =
                 same && (field.verdict == Verdict::equal || field.verdict == Verdict::equivalent);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "entries/CifEntry.h"
+#include "host/Cell.h"
 #include "host/ReducedCell.h"
 #include "tasks/Field.h"
 
@@ -23,4 +24,15 @@ struct EntryTexts {
     std::string identifier, formula, name;
     std::optional<ReducedCell> cell;
     /// @}
+
+    /// What the cell of the crystal was measured as, and its centring.
+    /// @{
+    std::optional<Cell> measured_cell;
+    char centring;
+    /// @}
 };
+
+/// The standard uncertainties of the numbers in a field's text, where the text is computed from
+/// what was measured: those of cell volume and reduced cell. None for other fields.
+std::vector<double> derived_uncertainties(const EntryTexts& entry, const Field& field,
+                                          const FieldText& text);

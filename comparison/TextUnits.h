@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "comparison/ComparedText.h"
+#include "text/StringSlice.h"
+
+/// What a text is cut into to be compared: a character with its accents, a number's digits, blanks
+/// in a row, the name of a Greek letter, or what is raised or lowered together.
+struct TextUnit {
+    enum class Class : std::uint8_t { letter, digits, blank, punctuation, other };
+
+    unsigned int from, to;  ///< In the shown text.
+    std::uint32_t key;      ///< Equal where units are, but for what may not count.
+    signed char valign;     ///< Raised above 0, lowered below, also by the characters themselves.
+    Class kind;
+
+    StringSlice place() const { return {from, to}; }
+    /// Whether it is a part of words.
+    bool is_of_word() const { return kind == Class::letter || kind == Class::digits; }
+};
+using TextUnits = std::vector<TextUnit>;
+
+/// Cuts texts that are compared with each other: their keys have the same meaning.
+class TextCutter {
+public:
+    /// The units of a range of the shown text, in order and without gaps. Linear in the range.
+    TextUnits units(const ComparedText& text, const StringSlice& range);
+
+private:
+    void add(TextUnits& units, std::string_view shown, unsigned int from, unsigned int to,
+             int valign);
+    std::uint32_t key_of(std::string_view text);
+
+    std::unordered_map<std::string, std::uint32_t>
+        keys_;  // of what is more than one ASCII character
+};
