@@ -2,6 +2,7 @@
 
 #include "comparison/compare_numbers.h"
 #include "comparison/compare_plain_texts.h"
+#include "comparison/compare_space_groups.h"
 
 std::span<const ComparisonKind> comparison_kinds() {
     using Reason = Finding::Reason;
@@ -18,7 +19,7 @@ std::span<const ComparisonKind> comparison_kinds() {
         {"authors", "lists of people", reasons_of(Reason::author_form), compare_plain_texts},
         {"reference", "journal, volume, year and pages", reasons_of(Reason::journal_form),
          compare_plain_texts},
-        {"space-group", "space groups", {}, compare_plain_texts},
+        {"space-group", "space groups", {}, compare_space_groups},
     };
     return rows;
 }
