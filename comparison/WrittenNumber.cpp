@@ -97,7 +97,7 @@ WrittenNumber NumberScanner::next(std::size_t digit) {
     position_ = end;
     const std::string_view power = exponent();
     double last_place = std::pow(10.0, -static_cast<double>(decimals));
-    if (!power.empty()) last_place *= value_of("1" + std::string(power));
+    if (!power.empty()) last_place *= value_of(std::string(1, '1').append(power));
     plain += power;
     const double uncertain = uncertainty(last_place);
     position_ += end_of_character(text_.substr(position_ - 1)) - 1;  // a bar belongs to its digit
