@@ -82,7 +82,7 @@ std::size_t end_of_unit(std::string_view text, std::size_t from) {
 
 }  // namespace
 
-TextUnits TextCutter::units(const ComparedText& text, const StringSlice& range) {
+CutText TextCutter::cut(const ComparedText& text, const StringSlice& range) {
     const std::string_view shown = text.shown();
     const auto& scripts = text.scripts();
     auto script = std::find_if(scripts.begin(), scripts.end(), [&](const auto& candidate) {
@@ -101,7 +101,7 @@ TextUnits TextCutter::units(const ComparedText& text, const StringSlice& range) 
         if (is_script) ++script;
         from = to;
     }
-    return units;
+    return {text, range, std::move(units)};
 }
 
 void TextCutter::add(TextUnits& units, std::string_view shown, unsigned int from, unsigned int to,

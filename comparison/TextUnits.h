@@ -24,11 +24,27 @@ struct TextUnit {
 };
 using TextUnits = std::vector<TextUnit>;
 
+/// A range of a text, cut.
+struct CutText {
+    const ComparedText& text;
+    StringSlice range;  ///< Of the shown text.
+    TextUnits units;    ///< In order and without gaps.
+
+    /// Where the units [from, to) stand; where they would, if there are none.
+    StringSlice place(std::size_t from, std::size_t to) const {
+        const unsigned int begin = from < units.size() ? units[from].from : range.to();
+        return {begin, from == to ? begin : units[to - 1].to};
+    }
+    std::string_view shown(const TextUnit& unit) const {
+        return text.shown().substr(unit.from, unit.to - unit.from);
+    }
+};
+
 /// Cuts texts that are compared with each other: their keys have the same meaning.
 class TextCutter {
 public:
-    /// The units of a range of the shown text, in order and without gaps. Linear in the range.
-    TextUnits units(const ComparedText& text, const StringSlice& range);
+    /// Cuts a range of the shown text. Linear in the range.
+    CutText cut(const ComparedText& text, const StringSlice& range);
 
 private:
     void add(TextUnits& units, std::string_view shown, unsigned int from, unsigned int to,

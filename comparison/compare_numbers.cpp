@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -43,6 +44,18 @@ struct Side {
         const bool is_last = number + 1 == numbers.size();
         const unsigned int from = numbers[number].place.to();
         return {from, is_last ? length_of(text.shown()) : numbers[number + 1].label.from()};
+    }
+
+    bool are_paired() const {
+        return std::find(partners.begin(), partners.end(), none) == partners.end();
+    }
+    /// The first number in a range, or none.
+    std::size_t first_in(const StringSlice& range) const {
+        const auto first = std::partition_point(
+            numbers.begin(), numbers.end(),
+            [&](const WrittenNumber& number) { return number.place.from() < range.from(); });
+        const bool is_in = first != numbers.end() && first->place.to() <= range.to();
+        return is_in ? static_cast<std::size_t>(first - numbers.begin()) : none;
     }
 
     const ComparedText& text;
@@ -94,27 +107,24 @@ void pair(Side& left, const Places& left_places, Side& right, const Places& righ
     }
 }
 
-Finding number_finding(Reason reason, const StringSlice& left, const StringSlice& right,
-                       std::string_view label) {
-    return {.reason = reason, .left = left, .right = right, .subject = std::string(label)};
-}
-
 /// Compares the values of a pair that is written differently.
 void judge(Finding& finding, const WrittenNumber& left, const WrittenNumber& right,
-           const ComparisonPolicy& policy) {
+           const ComparisonPolicy& policy, bool are_counts) {
     finding.left_number = left.value;
     finding.right_number = right.value;
     const double difference = std::abs(left.value - right.value);
     const double combined = std::hypot(left.uncertainty, right.uncertainty);
     constexpr double rounding = 1e-9;  // of what the numbers are computed with, in these units
-    const double half_unit = 0.5 * std::max(left.last_place, right.last_place);
+    const double larger = std::max(std::abs(left.value), std::abs(right.value));
+    constexpr double printed = 1e-5;  // six digits are
+    const double half_unit =
+        are_counts ? printed * larger : 0.5 * std::max(left.last_place, right.last_place);
     bool is_within = difference <= half_unit * (1 + rounding) && combined == 0;
     finding.limit = combined > 0 ? policy.sigmas : half_unit;
     if (combined > 0 && std::isfinite(difference / combined)) {
         finding.sigmas = difference / combined;
         is_within = *finding.sigmas <= policy.sigmas * (1 + rounding);
     }
-    const double larger = std::max(std::abs(left.value), std::abs(right.value));
     const double tolerance = std::max(policy.tolerance, policy.relative_tolerance * larger);
     if (!is_within && difference <= tolerance * (1 + rounding)) {
         is_within = true;
@@ -135,75 +145,123 @@ StringSlice trimmed(const Side& side, const StringSlice& place) {
     return {place.from() + to_position(first), place.from() + to_position(last)};
 }
 
+/// The units of a text, each number as one of them, of which pairs have the same key; none where a
+/// number is only a part of a unit.
+std::optional<CutText> cut(const Side& side, TextCutter& cutter, bool is_right) {
+    CutText text = cutter.cut(side.text, {0, length_of(side.text.shown())});
+    TextUnits units;
+    auto unit = text.units.begin();
+    const auto copy_up_to = [&](unsigned int position) {
+        while (unit != text.units.end() && unit->from < position) units.push_back(*unit++);
+        return units.empty() || units.back().to <= position;
+    };
+    for (std::size_t i = 0; i < side.numbers.size(); ++i) {
+        const StringSlice& place = side.numbers[i].place;
+        if (!copy_up_to(place.from())) return {};
+        while (unit != text.units.end() && unit->to <= place.to()) ++unit;
+        if (unit != text.units.end() && unit->from < place.to()) return {};
+        // Pairs by the left number; of those without a partner each has a key of its own.
+        const bool is_alone = side.partners[i] == none;
+        const std::size_t number = is_alone || !is_right ? i : side.partners[i];
+        const std::size_t key = 3 * number + (is_alone ? (is_right ? 2 : 1) : 0);
+        units.push_back({place.from(), place.to(), opaque_key + static_cast<std::uint32_t>(key), 0,
+                         TextUnit::Class::digits});
+    }
+    copy_up_to(text.range.to());
+    text.units = std::move(units);
+    return text;
+}
+
 class NumbersComparison {
 public:
     NumbersComparison(const ComparedText& left, const ComparedText& right,
-                      const ComparisonPolicy& policy)
-        : left_(left), right_(right), policy_(policy) {}
+                      const ComparisonPolicy& policy, bool are_counts)
+        : left_(left), right_(right), policy_(policy), are_counts_(are_counts) {}
 
     std::vector<Finding> findings() {
-        if (left_.numbers.empty() || right_.numbers.empty()) {
-            return compare_plain_texts(left_.text, right_.text, policy_);
+        if (!left_.numbers.empty() && !right_.numbers.empty()) {
+            const std::map<std::string, Places> right_places = by_label(right_);
+            for (const auto& [label, places] : by_label(left_)) {
+                const auto same = right_places.find(label);
+                if (same != right_places.end()) pair(left_, places, right_, same->second);
+            }
         }
-        const std::map<std::string, Places> right_places = by_label(right_);
-        for (const auto& [label, places] : by_label(left_)) {
-            const auto same = right_places.find(label);
-            if (same != right_places.end()) pair(left_, places, right_, same->second);
+        const bool are_pairs = left_.are_paired() && right_.are_paired();
+        if (are_pairs && !std::is_sorted(left_.partners.begin(), left_.partners.end())) {
+            compare_moved();
+        } else {
+            compare_in_order();
         }
-        // Where all are in order, so is what stands between them.
-        is_in_order_ = left_.numbers.size() == right_.numbers.size();
-        for (std::size_t i = 0; i < left_.numbers.size() && is_in_order_; ++i) {
-            is_in_order_ = left_.partners[i] == i;
-        }
-        compare_texts({0, left_.numbers[0].label.from()}, {0, right_.numbers[0].label.from()});
-        for (std::size_t i = 0; i < left_.numbers.size(); ++i) compare_number(i);
-        add_unpaired(left_, right_, false);
-        add_unpaired(right_, left_, true);
         return std::move(findings_);
     }
 
 private:
-    void compare_number(std::size_t i) {
-        const std::size_t j = left_.partners[i];
-        if (j == none) return;
+    /// Compares each number with what belongs to it.
+    void compare_moved() {
+        compare_texts({0, left_.numbers[0].label.from()}, {0, right_.numbers[0].label.from()});
+        for (std::size_t i = 0; i < left_.numbers.size(); ++i) {
+            const std::size_t j = left_.partners[i];
+            compare_texts(left_.numbers[i].label, right_.numbers[j].label);
+            compare_values(i, j);
+            compare_texts(left_.behind(i), right_.behind(j));
+        }
+    }
+    void compare_texts(const StringSlice& left, const StringSlice& right) {
+        const StringSlice left_part = trimmed(left_, left), right_part = trimmed(right_, right);
+        if (left_.shown(left_part) == right_.shown(right_part)) return;
+        compare_plain_texts(left_.text, left_part, right_.text, right_part, policy_, findings_);
+    }
+
+    /// Compares the texts from the front to the end, in which numbers stand for what they are.
+    void compare_in_order() {
+        TextCutter cutter;
+        std::optional<CutText> left = cut(left_, cutter, false), right = cut(right_, cutter, true);
+        if (!left || !right) {
+            findings_ = compare_plain_texts(left_.text, right_.text, policy_);
+            return;
+        }
+        compare_units(std::move(*left), std::move(*right), policy_, findings_);
+        const std::vector<Finding> texts = findings_;
+        for (Finding& finding : findings_) name_number(finding);
+        auto text = texts.begin();
+        for (std::size_t i = 0; i < left_.numbers.size(); ++i) {
+            if (left_.partners[i] == none) continue;
+            const StringSlice& place = left_.numbers[i].place;
+            while (text != texts.end() && text->left.to() <= place.from()) ++text;
+            const bool is_told = text != texts.end() && text->left.from() < place.to();
+            if (!is_told) compare_values(i, left_.partners[i]);
+        }
+    }
+
+    void compare_values(std::size_t i, std::size_t j) {
         const WrittenNumber &left = left_.numbers[i], &right = right_.numbers[j];
-        compare_texts(left.label, right.label);
-        if (left_.shown(left.place) != right_.shown(right.place)) {
-            findings_.push_back(number_finding(Reason::number_within_limit, left.place, right.place,
-                                               std::min(left_.label(i), right_.label(j))));
-            judge(findings_.back(), left, right, policy_);
-        }
-        compare_texts(left_.behind(i), right_.behind(j));
+        if (left_.shown(left.place) == right_.shown(right.place)) return;
+        const std::string_view label = std::min(left_.label(i), right_.label(j));
+        findings_.push_back({.reason = Reason::number_within_limit,
+                             .left = left.place,
+                             .right = right.place,
+                             .subject = std::string(label)});
+        judge(findings_.back(), left, right, policy_, are_counts_);
     }
 
-    void compare_texts(StringSlice left, StringSlice right) {
-        if (!is_in_order_) {
-            left = trimmed(left_, left);
-            right = trimmed(right_, right);
-        }
-        if (left_.shown(left) == right_.shown(right)) return;
-        compare_plain_texts(left_.text, left, right_.text, right, policy_, findings_);
-    }
-
-    /// Adds the numbers that the other side lacks, behind what stands there for the number before.
-    void add_unpaired(const Side& side, const Side& other, bool is_right) {
-        unsigned int behind = 0;
-        for (std::size_t i = 0; i < side.numbers.size(); ++i) {
-            const WrittenNumber& number = side.numbers[i];
-            if (side.partners[i] != none) {
-                behind = other.numbers[side.partners[i]].place.to();
-                continue;
-            }
-            const StringSlice here(number.label.from(), number.place.to()), there(behind, behind);
-            Finding finding = number_finding(Reason::number_missing, here, there, side.label(i));
-            finding.left_number = number.value;
-            findings_.push_back(is_right ? finding.mirrored() : finding);
+    /// What only one side has is a number, where there is one in it.
+    void name_number(Finding& finding) const {
+        const std::size_t left = left_.first_in(finding.left),
+                          right = right_.first_in(finding.right);
+        if (left != none && right == none) {
+            finding.reason = Reason::number_missing;
+            finding.left_number = left_.numbers[left].value;
+            finding.subject = left_.label(left);
+        } else if (right != none && left == none) {
+            finding.reason = Reason::number_added;
+            finding.right_number = right_.numbers[right].value;
+            finding.subject = right_.label(right);
         }
     }
 
     Side left_, right_;
     const ComparisonPolicy& policy_;
-    bool is_in_order_ = true;
+    bool are_counts_;  // exact, and not rounded
     std::vector<Finding> findings_;
 };
 
@@ -211,5 +269,10 @@ private:
 
 std::vector<Finding> compare_numbers(const ComparedText& left, const ComparedText& right,
                                      const ComparisonPolicy& policy) {
-    return NumbersComparison(left, right, policy).findings();
+    return NumbersComparison(left, right, policy, false).findings();
+}
+
+std::vector<Finding> compare_counts(const ComparedText& left, const ComparedText& right,
+                                    const ComparisonPolicy& policy) {
+    return NumbersComparison(left, right, policy, true).findings();
 }

@@ -12,3 +12,6 @@
 /// tolerance. What stands beside the numbers is compared as text. O(n log n).
 std::vector<Finding> compare_numbers(const ComparedText& left, const ComparedText& right,
                                      const ComparisonPolicy& policy);
+/// Likewise of counts, which nobody rounds: the last place allows no difference.
+std::vector<Finding> compare_counts(const ComparedText& left, const ComparedText& right,
+                                    const ComparisonPolicy& policy);

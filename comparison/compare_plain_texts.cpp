@@ -29,41 +29,38 @@ constexpr Row rows[] = {
 
 constexpr Folding as_written{false, false, false, false, false, false, false, false};
 
-bool is_letter(const TextUnit& unit) { return unit.kind == TextUnit::Class::letter; }
+/// Where the first word of two letters or more begins: case tells "N-butyl" from "n-butyl", and not
+/// "N-Butyl" from "N-butyl".
+std::size_t first_letter(const TextUnits& units) {
+    const auto is_pair = [](const TextUnit& unit, const TextUnit& next) {
+        return unit.kind == TextUnit::Class::letter && next.kind == TextUnit::Class::letter;
+    };
+    return static_cast<std::size_t>(std::adjacent_find(units.begin(), units.end(), is_pair) -
+                                    units.begin());
+}
 
 /// Pairs the units of two texts, and compares each with its partner.
 class PairedTexts {
 public:
-    PairedTexts(const ComparedText& left, const StringSlice& left_range, const ComparedText& right,
-                const StringSlice& right_range, const ComparisonPolicy& policy,
+    PairedTexts(CutText left, CutText right, const ComparisonPolicy& policy,
                 std::vector<Finding>& findings)
-        : left_(left),
-          right_(right),
-          left_end_(left_range.to()),
-          right_end_(right_range.to()),
+        : left_(std::move(left)),
+          right_(std::move(right)),
+          left_first_letter_(first_letter(left_.units)),
+          right_first_letter_(first_letter(right_.units)),
           policy_(policy),
           findings_(findings),
-          first_(findings.size()) {
-        TextCutter cutter;
-        left_units_ = cutter.units(left, left_range);
-        right_units_ = cutter.units(right, right_range);
-        const auto first_letter = [](const TextUnits& units) {
-            return static_cast<std::size_t>(std::find_if(units.begin(), units.end(), is_letter) -
-                                            units.begin());
-        };
-        left_first_letter_ = first_letter(left_units_);
-        right_first_letter_ = first_letter(right_units_);
-    }
+          first_(findings.size()) {}
 
     void compare() {
         std::size_t i = 0, j = 0;
-        for (const Block& block : unit_blocks(left_units_, right_units_)) {
+        for (const Block& block : unit_blocks(left_.units, right_.units)) {
             compare_pairs(i, block.left_from, j);
             add_block(block);
             i = block.left_to;
             j = block.right_to;
         }
-        compare_pairs(i, left_units_.size(), j);
+        compare_pairs(i, left_.units.size(), j);
     }
 
 private:
@@ -71,7 +68,7 @@ private:
     void compare_pairs(std::size_t i, std::size_t end, std::size_t j) {
         for (; i < end; ++i, ++j) {
             if (const auto reason = reason_of_pair(i, j)) {
-                add(*reason, left_units_[i].place(), right_units_[j].place(), false);
+                add(*reason, left_.units[i].place(), right_.units[j].place(), false);
             }
         }
     }
@@ -81,13 +78,7 @@ private:
     /// Adds a finding, to the last one where both say the same of characters in a row.
     void add(Reason reason, const StringSlice& left, const StringSlice& right, bool is_coarse);
 
-    std::string_view shown(const ComparedText& text, const TextUnit& unit) const {
-        return text.shown().substr(unit.from, unit.to - unit.from);
-    }
-
-    const ComparedText &left_, &right_;
-    unsigned int left_end_, right_end_;  // of the ranges
-    TextUnits left_units_, right_units_;
+    CutText left_, right_;
     std::size_t left_first_letter_, right_first_letter_;
     const ComparisonPolicy& policy_;
     std::vector<Finding>& findings_;
@@ -96,8 +87,9 @@ private:
 
 /// Of reasons that hold together one that counts.
 std::optional<Reason> PairedTexts::reason_of_pair(std::size_t i, std::size_t j) const {
-    const TextUnit &left = left_units_[i], &right = right_units_[j];
-    const std::string_view left_text = shown(left_, left), right_text = shown(right_, right);
+    const TextUnit &left = left_.units[i], &right = right_.units[j];
+    if (left.key >= opaque_key) return {};
+    const std::string_view left_text = left_.shown(left), right_text = right_.shown(right);
     std::optional<Reason> found;
     const auto note = [&](Reason reason) {
         const bool is_first = i == left_first_letter_ && j == right_first_letter_;
@@ -106,7 +98,8 @@ std::optional<Reason> PairedTexts::reason_of_pair(std::size_t i, std::size_t j) 
     };
     if (left.valign != right.valign) note(Reason::script);
     if (left_text == right_text) {
-        if (found || left_.written(left.place()) == right_.written(right.place())) return found;
+        if (found || left_.text.written(left.place()) == right_.text.written(right.place()))
+            return found;
         const bool is_greek = folded(left_text, {}) != folded(left_text, {.greek = false});
         return is_greek ? Reason::greek : Reason::coding;
     }
@@ -122,13 +115,8 @@ std::optional<Reason> PairedTexts::reason_of_pair(std::size_t i, std::size_t j) 
 }
 
 void PairedTexts::add_block(const Block& block) {
-    const auto place = [](const TextUnits& units, std::size_t from, std::size_t to,
-                          unsigned int end) {
-        const unsigned int begin = from < units.size() ? units[from].from : end;
-        return StringSlice(begin, from == to ? begin : units[to - 1].to);
-    };
-    add(reason_of_block(block), place(left_units_, block.left_from, block.left_to, left_end_),
-        place(right_units_, block.right_from, block.right_to, right_end_), block.is_coarse);
+    add(reason_of_block(block), left_.place(block.left_from, block.left_to),
+        right_.place(block.right_from, block.right_to), block.is_coarse);
 }
 
 Reason PairedTexts::reason_of_block(const Block& block) const {
@@ -137,8 +125,8 @@ Reason PairedTexts::reason_of_block(const Block& block) const {
             return std::all_of(units.begin() + static_cast<std::ptrdiff_t>(from),
                                units.begin() + static_cast<std::ptrdiff_t>(to), is);
         };
-        return in(left_units_, block.left_from, block.left_to) &&
-               in(right_units_, block.right_from, block.right_to);
+        return in(left_.units, block.left_from, block.left_to) &&
+               in(right_.units, block.right_from, block.right_to);
     };
     const auto is_blank = [](const TextUnit& unit) { return unit.kind == TextUnit::Class::blank; };
     const auto parts_words = [](const TextUnits& units, std::size_t from, std::size_t to) {
@@ -146,8 +134,8 @@ Reason PairedTexts::reason_of_block(const Block& block) const {
                units[to].is_of_word();
     };
     // "ethyl acetate" is not "ethylacetate".
-    const bool counts = parts_words(left_units_, block.left_from, block.left_to) ||
-                        parts_words(right_units_, block.right_from, block.right_to);
+    const bool counts = parts_words(left_.units, block.left_from, block.left_to) ||
+                        parts_words(right_.units, block.right_from, block.right_to);
     if (all(is_blank) && !counts) return Reason::blank;
     const auto is_passed_over = [&](const TextUnit& unit) {
         return is_blank(unit) || unit.kind == TextUnit::Class::punctuation;
@@ -185,5 +173,12 @@ std::vector<Finding> compare_plain_texts(const ComparedText& left, const Compare
 void compare_plain_texts(const ComparedText& left, const StringSlice& left_range,
                          const ComparedText& right, const StringSlice& right_range,
                          const ComparisonPolicy& policy, std::vector<Finding>& findings) {
-    PairedTexts(left, left_range, right, right_range, policy, findings).compare();
+    TextCutter cutter;
+    CutText left_cut = cutter.cut(left, left_range), right_cut = cutter.cut(right, right_range);
+    compare_units(std::move(left_cut), std::move(right_cut), policy, findings);
+}
+
+void compare_units(CutText left, CutText right, const ComparisonPolicy& policy,
+                   std::vector<Finding>& findings) {
+    PairedTexts(std::move(left), std::move(right), policy, findings).compare();
 }

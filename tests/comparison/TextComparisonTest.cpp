@@ -83,17 +83,58 @@ void compare_both_ways(const TextItem& left_item, const TextItem& right_item,
 
 /// Pieces of names, numbers, formulae, people, references and groups, and what breaks them.
 constexpr const char* pieces[] = {
-    "a",     "B",      "alpha",    "\xCE\xB1",     "\\a",  "\\'e",    "\xC3\xA9", "e\xCC\x81",
-    "-",     "--",     "\xE2\x80\x93", "'",        "\xE2\x80\xB2", " ", "  ",   "\xC2\xA0",
-    "~2~",   "^2+^",   "\xC2\xB2", "2",            "22",   "10.001(2)", "10.0012(15)", "1.5e-400",
-    "C22",   "H40",    "Cl",       ", ",           "2(",   ")",       "A.B.Smith", "J.M\xC3\xBCller",
-    "Mueller B A",     "Acta Cryst. C", "Acta Crystallographica Section C", " (59, 2003), ", "12-15",
-    "P21/c", "P-1",    "\xFF",     "\xCC\x85",     "<sub>", "</sub>", "\xC3\x9F", "ss", "a 5.1 b 6(1)",
+    "a",
+    "B",
+    "alpha",
+    "\xCE\xB1",
+    "\\a",
+    "\\'e",
+    "\xC3\xA9",
+    "e\xCC\x81",
+    "-",
+    "--",
+    "\xE2\x80\x93",
+    "'",
+    "\xE2\x80\xB2",
+    " ",
+    "  ",
+    "\xC2\xA0",
+    "~2~",
+    "^2+^",
+    "\xC2\xB2",
+    "2",
+    "22",
+    "10.001(2)",
+    "10.0012(15)",
+    "1.5e-400",
+    "C22",
+    "H40",
+    "Cl",
+    ", ",
+    "2(",
+    ")",
+    "A.B.Smith",
+    "J.M\xC3\xBCller",
+    "Mueller B A",
+    "Acta Cryst. C",
+    "Acta Crystallographica Section C",
+    " (59, 2003), ",
+    "12-15",
+    "P21/c",
+    "P-1",
+    "\xFF",
+    "\xCC\x85",
+    "<sub>",
+    "</sub>",
+    "\xC3\x9F",
+    "ss",
+    "a 5.1 b 6(1)",
 };
 
 std::string random_text(Random& random, unsigned int most) {
     std::string text;
-    for (unsigned int i = random() % (most + 1); i > 0; --i) text += pieces[random() % std::size(pieces)];
+    for (unsigned int i = random() % (most + 1); i > 0; --i)
+        text += pieces[random() % std::size(pieces)];
     return text;
 }
 
@@ -173,6 +214,8 @@ TEST(TextComparison, IsBounded) {
         EXPECT_LT(seconds.count(), 1) << name;  // a tenth alone on a machine
         RecordProperty(std::string(name) + std::to_string(&left - &cases[0].left),
                        std::to_string(seconds.count()));
-        if (getenv("VERBOSE")) printf("%s %zu: %.4f s, %zu findings\n", name, left.size(), seconds.count(), compared.findings.size());
+        if (getenv("VERBOSE"))
+            printf("%s %zu: %.4f s, %zu findings\n", name, left.size(), seconds.count(),
+                   compared.findings.size());
     }
 }
