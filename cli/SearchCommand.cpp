@@ -63,6 +63,16 @@ private:
                 "--min-length", options_.settings.min_match_length,
                 "The shortest run that a substring search marks, in characters; 3 unless given")
             ->check(CLI::Range(1U, longest_line));
+        const auto fold = [this]() -> Folding& {
+            std::optional<Folding>& folding = options_.settings.folding;
+            return folding ? *folding : folding.emplace();
+        };
+        command.add_flag_callback(
+            "--fold", [fold] { fold(); },
+            "Before any search take for the same: capitals and small letters, letters with and "
+            "without accents, dashes, primes and quotation marks, blanks, Greek letters and their "
+            "names, raised, lowered and other forms of characters");
+        add_umlauts_option(command, fold);
         add_row_option(command, choices, "--from", options_.from, sources(),
                        "What the texts are; plain unless given");
         add_row_option(command, choices, "--to", options_.to, search_outputs(),

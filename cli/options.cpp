@@ -113,6 +113,12 @@ void add_tolerance_option(CLI::App& command, SearchSettings& settings) {
         });
 }
 
+void add_umlauts_option(CLI::App& command, const std::function<Folding&()>& fold) {
+    command.add_flag_callback(
+        "--fold-umlauts", [fold] { fold().umlauts = true; },
+        "Fold, and take ä, ö and ü for ae, oe and ue, not for a, o and u");
+}
+
 std::optional<TextPositions> ChosenPositions::chosen() const {
     if (!unit && !of_displayed) return std::nullopt;
     return TextPositions{unit ? unit->unit : DisplayedText::bytes, of_displayed};

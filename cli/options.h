@@ -1,6 +1,7 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <functional>
 #include <span>
 #include <string>
 #include <vector>
@@ -8,6 +9,7 @@
 #include "cli/Choices.h"
 #include "cli/Places.h"
 #include "cli/TextBatch.h"
+#include "comparison/folding.h"
 #include "output/Output.h"
 #include "output/TextPositions.h"
 #include "tasks/SearchKind.h"
@@ -83,6 +85,9 @@ struct ChosenFields {
 void add_field_options(CLI::App& command, Choices& choices, ChosenFields& fields);
 
 void add_tolerance_option(CLI::App& command, SearchSettings& settings);
+
+/// Adds the option that folds umlauts otherwise; `fold` is asked for the folding to change.
+void add_umlauts_option(CLI::App& command, const std::function<Folding&()>& fold);
 
 /// What `find` gives, or a complaint where no field has that label.
 template <class Find>

@@ -42,6 +42,14 @@ StringSlice FoldedText::in_text(const StringSlice& folded) const {
     return {from, last->is_plain ? place_in(*last, folded.to()) : std::next(last)->in_text};
 }
 
+std::optional<StringSlice> FoldedText::whole_characters(const StringSlice& folded) const {
+    const auto first = run_of(folded.from()), last = run_of(folded.to());
+    const unsigned int from = is_boundary(folded.from()) ? folded.from() : (first + 1)->folded;
+    const unsigned int to = is_boundary(folded.to()) ? folded.to() : last->folded;
+    if (from > to || (from == to && !folded.empty())) return std::nullopt;
+    return in_text({from, to});
+}
+
 bool FoldedText::is_boundary(unsigned int folded) const {
     const auto run = run_of(folded);
     return run->is_plain || run->folded == folded;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "comparison/folding.h"
@@ -23,6 +25,9 @@ public:
     /// The smallest range of whole characters of the text that are folded to that range and what
     /// lies around it; an empty one stays empty. O(log n), as is the other.
     StringSlice in_text(const StringSlice& folded) const;
+    /// The characters that are folded to nothing but what lies in that range; none where there are
+    /// none, nor where an empty range lies inside of what a character is folded to.
+    std::optional<StringSlice> whole_characters(const StringSlice& folded) const;
     /// Whether a position of the folded text lies between two characters of the text, and not
     /// inside of what one is folded to.
     bool is_boundary(unsigned int folded) const;

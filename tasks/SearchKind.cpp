@@ -3,6 +3,7 @@
 #include <cmath>
 #include <optional>
 
+#include "comparison/FoldedSearch.h"
 #include "entries/read_whole.h"
 #include "finders/ChemicalNameMatchStyleFinder.h"
 #include "search/CombinedPublicationComparisonSearch.h"
@@ -56,29 +57,36 @@ bool has_part(const std::string& term) {
 using Effort = CommonSubstringFinderAdapter::Effort;
 
 constexpr SearchKind kind_rows[] = {
-    {"exact", "the text, when it equals the term", make<EntireTextComparison>,
+    {"exact", "the text, when it equals the term", false, make<EntireTextComparison>,
      make<EntireTextComparison>, any},
-    {"lines", "lines that equal a line of the term; whole when it equals the term",
+    {"lines", "lines that equal a line of the term; whole when it equals the term", true,
      make_line_search, make_line_search, any},
     {"numeric",
      "each number within --tolerance of the term's number of the same place; whole when all agree",
-     make_numeric_search, make_numeric_search, has_digit},
-    {"surnames", "authors of the term, or their surnames; whole when it equals the term",
+     false, make_numeric_search, make_numeric_search, has_digit},
+    {"surnames", "authors of the term, or their surnames; whole when it equals the term", false,
      make<SurnameComparison>, make<SurnameComparison>, any},
     {"publication",
      "<j> journal, <y> year, <v> volume and <p> page that equal the term's; whole when all four "
      "agree",
-     make<CombinedPublicationComparisonSearch>, make<CombinedPublicationComparisonSearch>,
+     false, make<CombinedPublicationComparisonSearch>, make<CombinedPublicationComparisonSearch>,
      has_part},
     {"substring",
      "runs of --min-length characters or more that also stand in the term, blanks and punctuation "
      "aside; whole when it equals the term",
-     make_substring_search<Effort::limited>, make_substring_search<Effort::linear>, any},
+     false, make_substring_search<Effort::limited>, make_substring_search<Effort::linear>, any},
 };
 
 }  // namespace
 
 std::span<const SearchKind> search_kinds() { return kind_rows; }
+
+THandle<TextSearch> make_search(const SearchKind& kind, const SearchSettings& settings) {
+    if (!settings.folding) return kind.make_search(settings);
+    Folding folding = *settings.folding;
+    folding.blanks = folding.blanks && !kind.keeps_lines;
+    return make_handle<FoldedSearch>(kind.make_search(settings), folding);
+}
 
 bool is_tolerance(const std::string& tolerance) {
     const std::optional<double> number = read_whole<double>(tolerance);

@@ -2,7 +2,7 @@
 
 TextSearcher::TextSearcher(const Source& from, const SearchKind& how,
                            const SearchSettings& settings, const std::string& term)
-    : highlighting_(from, how.make_search(settings), term), item_(highlighting_.finder()) {}
+    : highlighting_(from, make_search(how, settings), term), item_(highlighting_.finder()) {}
 
 void TextSearcher::search(const std::string& text) {
     std::vector<StringSlice> ranges;
