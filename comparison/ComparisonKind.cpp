@@ -1,5 +1,6 @@
 #include "comparison/ComparisonKind.h"
 
+#include "comparison/compare_formulae.h"
 #include "comparison/compare_numbers.h"
 #include "comparison/compare_plain_texts.h"
 #include "comparison/compare_space_groups.h"
@@ -17,7 +18,7 @@ std::span<const ComparisonKind> comparison_kinds() {
         {"counts", "exact numbers, paired by their labels",
          reasons_of(Reason::number_within_limit, Reason::blank, Reason::coding), compare_counts},
         {"formula", "formulae, element by element",
-         reasons_of(Reason::element_order, Reason::blank, Reason::coding), compare_plain_texts},
+         reasons_of(Reason::element_order, Reason::blank, Reason::coding), compare_formulae},
         {"authors", "lists of people",
          reasons_of(Reason::author_form, Reason::letter_case, Reason::first_letter_case,
                     Reason::accent, Reason::dash, Reason::apostrophe, Reason::blank,
