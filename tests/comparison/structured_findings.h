@@ -17,8 +17,12 @@ inline const ComparisonKind& comparison_kind(const std::string& name) {
                          [&](const ComparisonKind& kind) { return kind.name == name; });
 }
 
-inline ComparedText compared(const std::string& text) {
-    return ComparedText(TextItem(make_handle<InputTextStyleFinder>(), text));
+/// What the kind finds between two texts that are shown as they are.
+inline std::vector<Finding> findings_of(const ComparisonKind& kind, const std::string& left,
+                                        const std::string& right) {
+    const TextItem items[] = {TextItem(make_handle<InputTextStyleFinder>(), left),
+                              TextItem(make_handle<InputTextStyleFinder>(), right)};
+    return kind.find(ComparedText(items[0]), ComparedText(items[1]), {kind.equivalent});
 }
 
 /// "element H 40/39 [4,7)/[4,7)": reason, subject, numbers and ranges, as far as there are any.
@@ -58,15 +62,14 @@ inline void expect_disjoint(std::vector<StringSlice> ranges, const std::string& 
 inline std::string found(const std::string& kind_name, const std::string& left,
                          const std::string& right) {
     const ComparisonKind& kind = comparison_kind(kind_name);
-    const ComparisonPolicy policy{kind.equivalent};
     std::vector<std::string> texts, mirrored;
     std::vector<StringSlice> left_ranges, right_ranges;
-    for (const Finding& finding : kind.find(compared(left), compared(right), policy)) {
+    for (const Finding& finding : findings_of(kind, left, right)) {
         texts.push_back(as_text(finding));
         left_ranges.push_back(finding.left);
         right_ranges.push_back(finding.right);
     }
-    for (const Finding& finding : kind.find(compared(right), compared(left), policy)) {
+    for (const Finding& finding : findings_of(kind, right, left)) {
         mirrored.push_back(as_text(finding.mirrored()));
     }
     std::sort(texts.begin(), texts.end());
