@@ -11,17 +11,22 @@ ComparedText::ComparedText(const TextItem& item, std::vector<double> uncertainti
     unsigned int from = 0;
     for (const TextAtom& atom : item_.atomize()) {
         const unsigned int to = from + length_of(atom.text());
-        if (atom.valign() != 0 && !atom.invisible()) {
-            const StringSlice place = displayed_.shown({from, to}, DisplayedText::bytes);
-            const bool goes_on = !scripts_.empty() && scripts_.back().valign == atom.valign() &&
-                                 scripts_.back().place.to() == place.from();
-            if (goes_on) {
-                scripts_.back().place = scripts_.back().place.combine(place);
-            } else if (!place.empty()) {
-                scripts_.push_back({place, atom.valign()});
-            }
+        if ((atom.valign() != 0 || atom.overstrike()) && !atom.invisible()) {
+            add_script({displayed_.shown({from, to}, DisplayedText::bytes), atom.valign(),
+                        atom.overstrike()});
         }
         from = to;
+    }
+}
+
+void ComparedText::add_script(const Script& script) {
+    const bool goes_on = !scripts_.empty() && scripts_.back().valign == script.valign &&
+                         scripts_.back().is_barred == script.is_barred &&
+                         scripts_.back().place.to() == script.place.from();
+    if (goes_on) {
+        scripts_.back().place = scripts_.back().place.combine(script.place);
+    } else if (!script.place.empty()) {
+        scripts_.push_back(script);
     }
 }
 

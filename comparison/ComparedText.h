@@ -19,10 +19,13 @@ public:
     std::string_view shown() const { return displayed_.text(); }
     const std::vector<double>& uncertainties() const { return uncertainties_; }
 
-    /// A raised or lowered run of the shown text.
+    /// A run of the shown text that is raised, lowered or barred.
     struct Script {
         StringSlice place;
         int valign;  ///< As TextAtom::valign() has it.
+        bool is_barred;
+
+        friend bool operator==(const Script&, const Script&) = default;
     };
     /// All of them, ascending and disjoint.
     const std::vector<Script>& scripts() const { return scripts_; }
@@ -35,6 +38,8 @@ public:
     std::string_view written(const StringSlice& shown) const;
 
 private:
+    void add_script(const Script& script);
+
     const TextItem& item_;
     DisplayedText displayed_;
     std::vector<double> uncertainties_;

@@ -35,8 +35,8 @@ struct Finding {
         greek,                ///< A Greek letter and its name, or the letter otherwise coded.
         blank,                ///< Blanks and line ends: other ones, more or none.
         punctuation,          ///< Other punctuation, more or none.
-        script,               ///< The same characters, raised or lowered otherwise.
-        coding,               ///< The same to a reader, in other bytes.
+        script,               ///< The same characters, raised, lowered or barred otherwise.
+        coding,               ///< The same characters, in other bytes or another face.
         number_within_limit,  ///< Numbers; the difference is within what is allowed.
         number_beyond_limit,  ///< Numbers; it is not.
         number_added,         ///< A number that the right side alone has.

@@ -15,7 +15,9 @@ using Findings = std::vector<Finding>;
 Findings find(const ComparedText& left, const ComparedText& right, const ComparisonKind& kind,
               const ComparisonPolicy& policy) {
     Findings findings;
-    if (left.shown() != right.shown()) findings = kind.find(left, right, policy);
+    if (left.shown() != right.shown() || left.scripts() != right.scripts()) {
+        findings = kind.find(left, right, policy);
+    }
     // What readers see alike, or what the kind looks for, has been written otherwise.
     if (findings.empty()) findings = compare_plain_texts(left, right, policy);
     for (Finding& finding : findings) {

@@ -85,43 +85,47 @@ std::size_t end_of_unit(std::string_view text, std::size_t from) {
 CutText TextCutter::cut(const ComparedText& text, const StringSlice& range) {
     const std::string_view shown = text.shown();
     const auto& scripts = text.scripts();
-    auto script = std::find_if(scripts.begin(), scripts.end(), [&](const auto& candidate) {
-        return candidate.place.to() > range.from();
+    auto script = std::partition_point(scripts.begin(), scripts.end(), [&](const auto& candidate) {
+        return candidate.place.to() <= range.from();
     });
     TextUnits units;
     for (unsigned int from = range.from(); from < range.to();) {
-        const bool is_script = script != scripts.end() && script->place.from() <= from;
-        std::size_t limit = range.to();
-        if (script != scripts.end() && !is_script)
-            limit = std::min(limit, std::size_t{script->place.from()});
-        if (is_script) limit = std::min(limit, std::size_t{script->place.to()});
-        const unsigned int to =
-            is_script ? to_position(limit) : to_position(end_of_unit(shown.substr(0, limit), from));
-        add(units, shown, from, to, is_script ? script->valign : 0);
-        if (is_script) ++script;
+        const unsigned int next_script =
+            script == scripts.end() ? range.to() : std::min(range.to(), script->place.from());
+        if (next_script > from) {
+            const unsigned int to = to_position(end_of_unit(shown.substr(0, next_script), from));
+            add(units, shown, {{from, to}, 0, false});
+            from = to;
+            continue;
+        }
+        const unsigned int to = std::min(range.to(), script->place.to());
+        add(units, shown, {{from, to}, script->valign, script->is_barred});
+        ++script;
         from = to;
     }
     return {text, range, std::move(units)};
 }
 
-void TextCutter::add(TextUnits& units, std::string_view shown, unsigned int from, unsigned int to,
-                     int valign) {
-    const std::string_view text = shown.substr(from, to - from);
-    TextUnit unit{from, to, 0, static_cast<signed char>(valign), class_of(text)};
+void TextCutter::add(TextUnits& units, std::string_view shown, const ComparedText::Script& script) {
+    const StringSlice& place = script.place;
+    const std::string_view text = shown.substr(place.from(), place.length());
+    TextUnit unit{place.from(),     place.to(),    0, static_cast<signed char>(script.valign),
+                  script.is_barred, class_of(text)};
     if (text.size() == 1 && is_ascii(text[0]) && text[0] != '"' && text[0] != '`') {
-        unit.key =
-            static_cast<unsigned char>(is_ascii_blank(text[0]) ? ' ' : in_lower_case(text[0]));
+        const char usual = is_ascii_blank(text[0]) ? ' ' : in_lower_case(text[0]);
+        unit.key = static_cast<unsigned char>(usual);
     } else {
         const std::string key = folded(text, {});
         unit.key = key_of(key);
         unit.kind = class_of(key);
-        if (valign == 0)
-            unit.valign = static_cast<signed char>(valign_of(first_character(text).code));
+        const int own = valign_of(first_character(text).code);
+        if (unit.valign == 0) unit.valign = static_cast<signed char>(own);
     }
     const bool goes_on = unit.kind == TextUnit::Class::blank && !units.empty() &&
-                         units.back().kind == unit.kind && units.back().valign == unit.valign;
+                         units.back().kind == unit.kind && units.back().valign == unit.valign &&
+                         units.back().is_barred == unit.is_barred;
     if (goes_on) {
-        units.back().to = to;
+        units.back().to = unit.to;
     } else {
         units.push_back(unit);
     }

@@ -9,13 +9,14 @@
 #include "text/StringSlice.h"
 
 /// What a text is cut into to be compared: a character with its accents, a number's digits, blanks
-/// in a row, the name of a Greek letter, or what is raised or lowered together.
+/// in a row, the name of a Greek letter, or what is raised, lowered or barred together.
 struct TextUnit {
     enum class Class : std::uint8_t { letter, digits, blank, punctuation, other };
 
     unsigned int from, to;  ///< In the shown text.
     std::uint32_t key;      ///< Equal where units are, but for what may not count.
     signed char valign;     ///< Raised above 0, lowered below, also by the characters themselves.
+    bool is_barred;
     Class kind;
 
     StringSlice place() const { return {from, to}; }
@@ -47,8 +48,7 @@ public:
     CutText cut(const ComparedText& text, const StringSlice& range);
 
 private:
-    void add(TextUnits& units, std::string_view shown, unsigned int from, unsigned int to,
-             int valign);
+    void add(TextUnits& units, std::string_view shown, const ComparedText::Script& script);
     std::uint32_t key_of(std::string_view text);
 
     std::unordered_map<std::string, std::uint32_t>

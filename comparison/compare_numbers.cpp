@@ -165,7 +165,7 @@ std::optional<CutText> cut(const Side& side, TextCutter& cutter, bool is_right) 
         const std::size_t number = is_alone || !is_right ? i : side.partners[i];
         const std::size_t key = 3 * number + (is_alone ? (is_right ? 2 : 1) : 0);
         units.push_back({place.from(), place.to(), opaque_key + static_cast<std::uint32_t>(key), 0,
-                         TextUnit::Class::digits});
+                         false, TextUnit::Class::digits});
     }
     copy_up_to(text.range.to());
     text.units = std::move(units);

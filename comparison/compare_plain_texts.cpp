@@ -96,7 +96,8 @@ std::optional<Reason> PairedTexts::reason_of_pair(std::size_t i, std::size_t j) 
         if (reason == Reason::letter_case && is_first) reason = Reason::first_letter_case;
         if (!found || (policy_.allows(*found) && !policy_.allows(reason))) found = reason;
     };
-    if (left.valign != right.valign) note(Reason::script);
+    const bool is_same_script = left.valign == right.valign && left.is_barred == right.is_barred;
+    if (!is_same_script) note(Reason::script);
     if (left_text == right_text) {
         if (found || left_.text.written(left.place()) == right_.text.written(right.place()))
             return found;
@@ -108,8 +109,7 @@ std::optional<Reason> PairedTexts::reason_of_pair(std::size_t i, std::size_t j) 
         Folding others;
         others.*row.flag = false;
         if (folded(left_text, others) == folded(right_text, others)) continue;
-        const bool is_same_script = row.reason == Reason::script && left.valign == right.valign;
-        note(is_same_script ? Reason::coding : row.reason);
+        note(row.reason == Reason::script && is_same_script ? Reason::coding : row.reason);
     }
     return found ? found : Reason::coding;
 }

@@ -8,19 +8,24 @@
 
 namespace {
 
-/// "P1̅" as "P-1", which is how symbols are found.
-std::string with_bars_in_front(std::string_view shown) {
+/// The symbol with a "-" before what is barred, by its style or by overlines, as symbols are found.
+std::string with_bars_in_front(const ComparedText& text) {
     constexpr std::string_view overlines[] = {"\u0305", "\u0304"};
+    const std::string_view shown = text.shown();
     std::string symbol;
-    for (std::size_t pos = 0; pos < shown.size(); ++pos) {
-        const std::string_view rest = shown.substr(pos + 1);
-        std::size_t bar = 0;
+    auto script = text.scripts().begin();
+    for (unsigned int position = 0; position < shown.size(); ++position) {
+        for (; script != text.scripts().end() && script->place.from() <= position; ++script) {
+            if (script->is_barred) symbol += '-';
+        }
+        const std::string_view behind = shown.substr(position + 1);
+        unsigned int bar = 0;
         for (const std::string_view overline : overlines) {
-            if (rest.starts_with(overline)) bar = overline.size();
+            if (behind.starts_with(overline)) bar = length_of(overline);
         }
         if (bar > 0) symbol += '-';
-        symbol += shown[pos];
-        pos += bar;
+        symbol += shown[position];
+        position += bar;
     }
     return symbol;
 }
@@ -36,9 +41,8 @@ Finding::Reason reason_for(const SpaceGroupSetting& left, const SpaceGroupSettin
 
 std::vector<Finding> compare_space_groups(const ComparedText& left, const ComparedText& right,
                                           const ComparisonPolicy& policy) {
-    const SpaceGroupSetting settings[] = {
-        find_space_group(with_bars_in_front(left.shown()), 0, 0),
-        find_space_group(with_bars_in_front(right.shown()), 0, 0)};
+    const SpaceGroupSetting settings[] = {find_space_group(with_bars_in_front(left), 0, 0),
+                                          find_space_group(with_bars_in_front(right), 0, 0)};
     if (!settings[0].group || !settings[1].group) return compare_plain_texts(left, right, policy);
     Finding finding{reason_for(settings[0], settings[1]),
                     {0, length_of(left.shown())},
