@@ -3,11 +3,23 @@
 #include <utility>
 
 #include "entries/cell_uncertainties.h"
+#include "entries/cif_tags.h"
+
+namespace {
+
+/// The number that the database has given the entry; empty where it has none, and its block's name
+/// stands for it.
+std::string number_of(const CifEntry& entry) {
+    const CifItem* const number = entry.block.find(cif_tags::identifier);
+    return number && number->has_text() ? entry.entry->identifier : "";
+}
+
+}  // namespace
 
 EntryTexts::EntryTexts(std::string file_name, const CifEntry& entry, std::span<const Field> wanted)
     : file(std::move(file_name)),
       block(entry.block.name()),
-      identifier(entry.entry->identifier),
+      identifier(number_of(entry)),
       formula(entry.entry->chemical_info->formula),
       name(entry.entry->chemical_info->compound_name),
       cell(entry.entry->crystal_info->reduced_cell),
