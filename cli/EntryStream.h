@@ -12,7 +12,10 @@
 /// The entries of several CIF files, one after the other. What cannot be read is reported.
 class EntryStream {
 public:
-    explicit EntryStream(std::vector<Place> places) : places_(std::move(places)) {}
+    /// With the name of a block, that of the first file alone is read; that it is not there is
+    /// reported.
+    explicit EntryStream(std::vector<Place> places, std::string block = "")
+        : places_(std::move(places)), block_(std::move(block)) {}
 
     /// Reads the next entry, which lives until the next call; null at the end.
     const CifEntry* next();
@@ -32,8 +35,11 @@ public:
 
 private:
     bool open_next();
+    bool is_wanted();
 
     std::vector<Place> places_;
+    std::string block_;                // whose case does not count; empty: all
+    std::vector<std::string> others_;  // the names of other blocks, where one is wanted
     std::size_t next_place_ = 0;
     std::unique_ptr<EntryFile> file_;  // null: before the first, and behind one that has ended
     std::optional<CifEntry> entry_;

@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <optional>
 #include <span>
 #include <utility>
@@ -8,8 +7,8 @@
 #include "cli/EntryBatch.h"
 #include "cli/Progress.h"
 #include "cli/TextOutput.h"
-#include "cli/default_target.h"
 #include "cli/options.h"
+#include "cli/output_file.h"
 #include "cli/report.h"
 #include "output/layouts.h"
 #include "tasks/EntryFields.h"
@@ -25,23 +24,10 @@ public:
             return exit_trouble;
         }
         if (path_ == "-") path_.clear();
-        if (!to_) {
-            to_ = path_.empty() ? output_of(show_outputs(), RichTextTarget::Use::plain_terminal)
-                                : output_of_path(show_outputs(), path_);
-        }
-        if (!to_) {
-            report(path_ + ": no target writes " +
-                   std::filesystem::path(path_).extension().string() +
-                   " files; name one with --to");
-            return exit_trouble;
-        }
-        const std::unique_ptr<TextOutput> output =
-            path_.empty() ? std::make_unique<TextOutput>() : std::make_unique<TextOutput>(path_);
+        if (!to_) to_ = output_for(show_outputs(), path_);
+        if (!to_) return exit_trouble;
         std::vector<Place> places = places_.cif_files();
-        for (const Place& place : places) {
-            if (!output->is_at(place.path)) continue;
-            throw InputError(place.path + ": input file is output file");
-        }
+        const std::unique_ptr<TextOutput> output = begin_output(path_, places);
         return show(std::move(places), *output) ? exit_success : exit_failure;
     }
 
@@ -57,14 +43,7 @@ private:
         add_row_option(command, choices, "--to", to_, show_outputs(),
                        "What to write; unless given, as the ending of the file says, ansi on a "
                        "terminal and unicode elsewhere");
-        command
-            .add_option("-o,--output", path_,
-                        "Write to this file, -: standard output; html5, also for a file without "
-                        "ending, is a page")
-            ->check([](const std::string& path) {
-                return path.empty() ? "expected the name of a file" : std::string();
-            })
-            ->type_name("FILE");
+        add_output_option(command, path_);
         add_position_options(command, choices, positions_);
         add_jobs_option(command, jobs_, "entries");
         add_progress_option(command, progress_);

@@ -1,5 +1,6 @@
 #include "comparison/Finding.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -110,4 +111,10 @@ const char* name_of(Finding::Kind kind) {
 const char* name_of(Verdict verdict) {
     constexpr const char* names[] = {"equal", "equivalent", "different", "only-left", "only-right"};
     return names[static_cast<std::size_t>(verdict)];
+}
+
+std::string words_of(Verdict verdict) {
+    std::string words = name_of(verdict);
+    std::replace(words.begin(), words.end(), '-', ' ');
+    return words;
 }

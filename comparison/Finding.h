@@ -114,3 +114,5 @@ const FindingReason& reason_of(const Finding& finding);
 const char* name_of(Finding::Kind kind);
 /// "equal", "equivalent", "different", "only-left" or "only-right".
 const char* name_of(Verdict verdict);
+/// The same in words: "only left".
+std::string words_of(Verdict verdict);

@@ -9,6 +9,8 @@
 #include "markup/TextItemToStringColor.h"
 #include "markup/Utf8.h"
 #include "markup/internal/controls.h"
+#include "output/comparison_summary.h"
+#include "output/finding_sentences.h"
 #include "text/Position.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
@@ -35,24 +37,90 @@ Json json_of(const TextAtom& atom) {
     return json;
 }
 
-/// The runs of uniform style.
-Json atoms_of(const TextItem& item, const std::optional<TextPositions>& positions) {
-    std::optional<PositionTeller> teller;
-    if (positions) teller.emplace(item, *positions);
+Json json_of(const StringSlice& range) { return {{"from", range.from()}, {"to", range.to()}}; }
+
+/// The runs of uniform style, with their positions where there is a teller.
+Json atoms_of(const TextItem& item, const PositionTeller* teller) {
     Json atoms = Json::array();
     unsigned int from = 0;
     for (const TextAtom& atom : item.atomize()) {
         const unsigned int to = from + length_of(atom.text());
         Json written = json_of(atom);
-        if (teller && !item.characters().empty()) {
-            const StringSlice place = teller->told({from, to});
-            written["from"] = place.from();
-            written["to"] = place.to();
-        }
+        if (teller && !item.characters().empty()) written.update(json_of(teller->told({from, to})));
         atoms.push_back(std::move(written));
         from = to;
     }
     return atoms;
+}
+
+/// A text: as it is, as it is shown, marked up and in runs.
+class Text {
+public:
+    Text(const TextItem& item, const std::optional<TextPositions>& positions)
+        : item_(item),
+          displayed_(item),
+          teller_(item, displayed_, positions.value_or(TextPositions())),
+          tells_(positions) {}
+
+    void write_to(Json& json, Html5RichTextGenerator& generator) const {
+        json["text"] = item_.characters();
+        json["displayed"] = displayed_.text();
+        json["markup"] = item_.mark_up_text(generator);
+        json["atoms"] = atoms_of(item_, tells_ ? &teller_ : nullptr);
+    }
+    const DisplayedText& displayed() const { return displayed_; }
+    StringSlice told(const StringSlice& range) const { return teller_.told(range); }
+
+private:
+    const TextItem& item_;
+    DisplayedText displayed_;
+    PositionTeller teller_;
+    bool tells_;  // of runs; of what differs always
+};
+
+const char* verdict_of(const Finding& finding) {
+    return name_of(finding.is_equivalent ? Verdict::equivalent : Verdict::different);
+}
+
+/// One finding, with what it has.
+Json json_of(const Finding& finding, const Text& left, const Text& right) {
+    const FindingReason& reason = reason_of(finding);
+    Json json{{"kind", name_of(reason.kind)},
+              {"reason", reason.name},
+              {"verdict", verdict_of(finding)},
+              {"left", json_of(left.told(finding.left))},
+              {"right", json_of(right.told(finding.right))}};
+    if (!finding.subject.empty()) json["subject"] = finding.subject;
+    const std::pair<const char*, const std::optional<double>&> numbers[] = {
+        {"left_number", finding.left_number},
+        {"right_number", finding.right_number},
+        {"sigmas", finding.sigmas},
+        {"limit", finding.limit},
+    };
+    for (const auto& [name, number] : numbers) {
+        if (number) json[name] = *number;
+    }
+    if (finding.is_coarse) json["coarse"] = true;
+    json["sentence"] = FindingSentences(left.displayed(), right.displayed()).clause(finding);
+    return json;
+}
+
+/// A field of two entries; a side without text is null.
+Json json_of(const ComparedField& field, const std::optional<TextPositions>& positions,
+             Html5RichTextGenerator& generator) {
+    std::optional<Text> left, right;
+    Json json{{"label", field.label}, {"group", field.group}, {"verdict", name_of(field.verdict)},
+              {"left", nullptr},      {"right", nullptr},     {"findings", Json::array()}};
+    if (field.left) left.emplace(*field.left, positions).write_to(json["left"], generator);
+    if (field.right) right.emplace(*field.right, positions).write_to(json["right"], generator);
+    for (const Finding& finding : field.findings) {
+        json["findings"].push_back(json_of(finding, *left, *right));
+    }
+    return json;
+}
+
+Json json_of(const ComparisonLayout::Side& side) {
+    return {{"file", side.file}, {"block", side.block}};
 }
 
 /// nlohmann's JSON with escapes, which stand only in strings, for what would act where it is shown
@@ -82,6 +150,10 @@ std::string harmless(std::string_view json) {
     }
 }
 
+std::string written(const Json& json) {
+    return '\n' + harmless(json.dump(1, ' ', false, Json::error_handler_t::replace));
+}
+
 }  // namespace
 
 JsonLayout::~JsonLayout() = default;
@@ -92,14 +164,37 @@ std::string JsonLayout::separator() const { return ","; }
 
 std::string JsonLayout::entry(const std::string& file, const std::string& block,
                               const std::vector<EntryField>& fields) {
-    Json written{{"file", file}, {"block", block}, {"fields", Json::array()}};
+    Json json{{"file", file}, {"block", block}, {"fields", Json::array()}};
     for (const EntryField& field : fields) {
-        written["fields"].push_back({{"label", field.label},
-                                     {"group", field.group},
-                                     {"text", field.item.text()},
-                                     {"displayed", DisplayedText(field.item).text()},
-                                     {"markup", field.item.mark_up_text(generator_)},
-                                     {"atoms", atoms_of(field.item, positions_)}});
+        Json& added =
+            json["fields"].emplace_back(Json{{"label", field.label}, {"group", field.group}});
+        Text(field.item, positions_).write_to(added, generator_);
     }
-    return '\n' + harmless(written.dump(1, ' ', false, Json::error_handler_t::replace));
+    return written(json);
+}
+
+std::string JsonLayout::comparison(const Side& left, const Side& right, PairingReason reason,
+                                   const EntryComparison& compared) {
+    Json json{{"left", json_of(left)},
+              {"right", json_of(right)},
+              {"pairing", name_of(reason)},
+              {"verdict", name_of(compared.verdict())},
+              {"fields", Json::array()}};
+    for (const ComparedField& field : compared.fields) {
+        json["fields"].push_back(json_of(field, positions_, generator_));
+    }
+    return written(json);
+}
+
+std::string JsonLayout::only(const Side& entry, Verdict verdict) {
+    const bool is_left = verdict == Verdict::only_left;
+    return written({{"left", is_left ? json_of(entry) : Json()},
+                    {"right", is_left ? Json() : json_of(entry)},
+                    {"pairing", nullptr},
+                    {"verdict", name_of(verdict)},
+                    {"fields", Json::array()}});
+}
+
+std::string JsonLayout::summary(const ComparisonSummary& summary, std::span<const Field> compared) {
+    return summary_as_json(summary, compared);
 }

@@ -4,13 +4,13 @@
 #include <string>
 
 #include "markup/Html5RichTextGenerator.h"
-#include "output/EntryLayout.h"
+#include "output/ComparisonLayout.h"
 #include "output/TextPositions.h"
 
 /// One array of entries: of each field its label, group, text with its codes and as it is shown,
 /// mark-up in HTML5 and runs of uniform style, with their positions where they are asked for. Bytes
 /// that are not UTF-8 become replacement characters; what would act where it is shown is escaped.
-class JsonLayout : public EntryLayout {
+class JsonLayout : public ComparisonLayout {
 public:
     explicit JsonLayout(std::optional<TextPositions> positions = {}) : positions_(positions) {}
     ~JsonLayout() override;
@@ -20,6 +20,12 @@ public:
     std::string separator() const override;
     std::string entry(const std::string& file, const std::string& block,
                       const std::vector<EntryField>& fields) override;
+    /// Of each field both sides as an entry has them, and what differs: kind, reason, verdict,
+    /// places, numbers and a clause in English.
+    std::string comparison(const Side& left, const Side& right, PairingReason reason,
+                           const EntryComparison& compared) override;
+    std::string only(const Side& entry, Verdict verdict) override;
+    std::string summary(const ComparisonSummary& summary, std::span<const Field> compared) override;
 
 private:
     std::optional<TextPositions> positions_;

@@ -1,9 +1,10 @@
 #include "output/LineLayout.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "finders/InputTextStyleFinder.h"
+#include "markup/DisplayedText.h"
+#include "output/finding_sentences.h"
 #include "text/TextItem.h"
 
 namespace {
@@ -11,14 +12,14 @@ namespace {
 /// Whether every target writes the character of a label as it is.
 bool is_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == ' '; }
 
-bool is_same(const ComparedField& field) {
-    return field.verdict == Verdict::equal || field.verdict == Verdict::equivalent;
+std::string name_of(const ComparisonLayout::Side& side) {
+    return side.file + " data_" + side.block;
 }
 
 }  // namespace
 
 LineLayout::LineLayout(const RichTextTarget& target)
-    : target_(target), generator_(target.make_generator()) {}
+    : target_(target), generator_(target.make_generator()), marks_(target) {}
 
 LineLayout::~LineLayout() = default;
 
@@ -31,17 +32,43 @@ std::string LineLayout::entry(const std::string& file, const std::string& block,
     return lines + target_.layout.foot;
 }
 
-std::string LineLayout::comparison(const Side& left, const Side& right,
-                                   const std::vector<ComparedField>& fields) {
-    std::string lines = title(left.file + " and " + right.file + ": data_" + left.block +
-                              " and data_" + right.block);
-    for (const ComparedField& field : fields) {
-        const std::string left_text = mark_up(field.left), right_text = mark_up(field.right);
-        append_row(lines, is_same(field) ? "= " : "< ", field.label, left_text);
-        if (is_same(field) && left_text == right_text) continue;
-        append_row(lines, is_same(field) ? "= " : "> ", field.label, right_text);
+std::string LineLayout::comparison(const Side& left, const Side& right, PairingReason reason,
+                                   const EntryComparison& compared) {
+    std::string lines =
+        title(name_of(left) + " and " + name_of(right) + " (" + clause_of(reason) + ')');
+    for (const ComparedField& field : compared.fields) {
+        if (field.verdict == Verdict::equal) {
+            append_row(lines, "= ", field.label, field.left->mark_up_text(*generator_));
+        } else if (!field.right) {
+            append_row(lines, "< ", field.label + (" (" + words_of(field.verdict) + ')'),
+                       field.left->mark_up_text(*generator_));
+        } else if (!field.left) {
+            append_row(lines, "> ", field.label + (" (" + words_of(field.verdict) + ')'),
+                       field.right->mark_up_text(*generator_));
+        } else {
+            append_differences(lines, field);
+        }
     }
     return lines + target_.layout.foot;
+}
+
+/// The two texts of a field, and why they differ.
+void LineLayout::append_differences(std::string& lines, const ComparedField& field) const {
+    const bool is_equivalent = field.verdict == Verdict::equivalent;
+    const DisplayedText left(*field.left), right(*field.right);
+    append_row(lines, is_equivalent ? "~ " : "< ", field.label,
+               marks_.marked(*field.left, field.findings, DifferenceMarks::left)
+                   .mark_up_text(*generator_));
+    append_row(lines, is_equivalent ? "~ " : "> ", field.label,
+               marks_.marked(*field.right, field.findings, DifferenceMarks::right)
+                   .mark_up_text(*generator_));
+    append_row(lines, "  ", "why", written(FindingSentences(left, right).reasons(field.findings)));
+}
+
+std::string LineLayout::only(const Side& entry, Verdict verdict) {
+    // Where entries end with a foot, lines that follow each other would be one paragraph.
+    const char* const end = *target_.layout.foot ? "\n\n" : "\n";
+    return written(name_of(entry) + ": " + words_of(verdict)) + end;
 }
 
 std::string LineLayout::written(const std::string& text) const {
@@ -49,18 +76,14 @@ std::string LineLayout::written(const std::string& text) const {
     return TextItem(make_handle<InputTextStyleFinder>(), text).mark_up_text(*generator_);
 }
 
-std::string LineLayout::mark_up(const std::optional<TextItem>& item) const {
-    return item ? item->mark_up_text(*generator_) : "";
-}
-
 std::string LineLayout::title(const std::string& text) const {
     return target_.layout.before_title + written(text) + target_.layout.behind_title;
 }
 
-void LineLayout::append_row(std::string& lines, const char* sign, const char* label,
+void LineLayout::append_row(std::string& lines, const char* sign, const std::string& label,
                             const std::string& mark_up) const {
-    const bool is_plain = *sign == ' ' && std::all_of(label, label + std::strlen(label), is_letter);
+    const bool is_plain = *sign == ' ' && std::all_of(label.begin(), label.end(), is_letter);
     lines += target_.layout.before_row;
-    lines += is_plain ? std::string(sign).append(label) : written(std::string(sign).append(label));
+    lines += is_plain ? sign + label : written(sign + label);
     lines.append(target_.layout.behind_label).append(mark_up).push_back('\n');
 }

@@ -4,6 +4,7 @@
 
 #include "markup/RichTextTarget.h"
 #include "output/ComparisonLayout.h"
+#include "tasks/DifferenceMarks.h"
 
 /// A title for each entry and a row for each field, in the mark-up of a target. Titles and labels
 /// are text, which is escaped where the target escapes.
@@ -14,17 +15,20 @@ public:
 
     std::string entry(const std::string& file, const std::string& block,
                       const std::vector<EntryField>& fields) override;
-    /// Rows begin with "=" where both sides are the same, with "<" and ">" where they differ.
-    std::string comparison(const Side& left, const Side& right,
-                           const std::vector<ComparedField>& fields) override;
+    /// Rows begin with "<" and ">" where the sides differ, with "~" where they do in nothing that
+    /// counts and with "=" where they are the same; below those that differ stands why.
+    std::string comparison(const Side& left, const Side& right, PairingReason reason,
+                           const EntryComparison& compared) override;
+    std::string only(const Side& entry, Verdict verdict) override;
 
 private:
     std::string written(const std::string& text) const;
-    std::string mark_up(const std::optional<TextItem>& item) const;
+    void append_differences(std::string& lines, const ComparedField& field) const;
     std::string title(const std::string& text) const;
-    void append_row(std::string& lines, const char* sign, const char* label,
+    void append_row(std::string& lines, const char* sign, const std::string& label,
                     const std::string& mark_up) const;
 
     const RichTextTarget& target_;
     THandle<RichTextGenerator> generator_;
+    DifferenceMarks marks_;
 };

@@ -11,5 +11,5 @@ struct Output {
     const RichTextTarget* target;  // null: the command's own form
 };
 
-/// All targets, and a form of the command's own behind them.
-std::vector<Output> outputs_with(const char* own_name, const char* own_help);
+/// All targets, and a command's own forms behind them.
+std::vector<Output> outputs_with(const std::vector<Output>& own_forms);

@@ -2,6 +2,9 @@
 
 #include <string_view>
 
+#include "markup/DisplayedText.h"
+#include "output/comparison_summary.h"
+#include "output/finding_sentences.h"
 #include "text/TextItem.h"
 
 namespace {
@@ -21,11 +24,22 @@ std::string section_head(const std::string& title, const std::string& source) {
 
 constexpr char section_foot[] = "</section>\n";
 
-bool is_same(const ComparedField& field) {
-    return field.verdict == Verdict::equal || field.verdict == Verdict::equivalent;
+/// Why the two texts differ; empty where they are equal.
+std::string reasons_of(const ComparedField& field) {
+    if (!field.left || !field.right) return words_of(field.verdict);
+    if (field.findings.empty()) return {};
+    const DisplayedText left(*field.left), right(*field.right);
+    return FindingSentences(left, right).reasons(field.findings);
+}
+
+const char* class_of(Verdict verdict) {
+    if (verdict == Verdict::equal) return "pair";
+    return verdict == Verdict::equivalent ? "pair equivalent" : "pair different";
 }
 
 }  // namespace
+
+PageLayout::PageLayout() : marks_(rich_text_target_for(RichTextTarget::Use::page)) {}
 
 PageLayout::~PageLayout() = default;
 
@@ -52,7 +66,9 @@ std::string PageLayout::head(const std::string& title) {
            ".pair { display: grid; grid-template-columns: 12em 1fr 1fr; column-gap: 1em; }\n"
            ".pair p { margin: 0.2em 0; overflow-wrap: anywhere; }\n"
            ".pair p:first-child { color: #666; }\n"
+           ".pair .why { grid-column: 2 / 4; color: #666; font-size: 0.9em; }\n"
            ".different { background: #fff3e0; }\n"
+           ".equivalent { background: #eef4fb; }\n"
            "bdi, dt, dd, .pair p { unicode-bidi: isolate; }\n"
            "sub, sup { line-height: 0; }\n"
            "</style>\n"
@@ -77,19 +93,37 @@ std::string PageLayout::entry(const std::string& file, const std::string& block,
     return section + section_foot;
 }
 
-std::string PageLayout::comparison(const Side& left, const Side& right,
-                                   const std::vector<ComparedField>& fields) {
+std::string PageLayout::comparison(const Side& left, const Side& right, PairingReason reason,
+                                   const EntryComparison& compared) {
     std::string section =
         section_head(name("data_" + left.block) + " and " + name("data_" + right.block),
-                     name(left.file) + " and " + name(right.file));
-    for (const ComparedField& field : fields) {
-        section += std::string("<div class=\"pair") + (is_same(field) ? "" : " different") + "\"><p>" +
-                   escaped(field.label) + "</p><p>" + mark_up(field.left) + "</p><p>" +
-                   mark_up(field.right) + "</p></div>\n";
+                     name(left.file) + " and " + name(right.file) + ", " + clause_of(reason));
+    for (const ComparedField& field : compared.fields) {
+        section.append("<div class=\"").append(class_of(field.verdict)).append("\"><p>");
+        section.append(escaped(field.label)).append("</p><p>");
+        section.append(cell(field.left, field.findings, DifferenceMarks::left)).append("</p><p>");
+        section.append(cell(field.right, field.findings, DifferenceMarks::right)).append("</p>");
+        const std::string reasons = reasons_of(field);
+        if (!reasons.empty()) {
+            section.append("<p class=\"why\">").append(escaped(reasons)).append("</p>");
+        }
+        section += "</div>\n";
     }
     return section + section_foot;
 }
 
-std::string PageLayout::mark_up(const std::optional<TextItem>& item) const {
-    return item ? item->mark_up_text(generator_) : "";
+std::string PageLayout::only(const Side& entry, Verdict verdict) {
+    return section_head(name("data_" + entry.block), name(entry.file) + ", " + words_of(verdict)) +
+           section_foot;
+}
+
+std::string PageLayout::summary(const ComparisonSummary& summary, std::span<const Field> compared) {
+    return head("Comparison") + "<pre>\n" + escaped(summary_as_text(summary, compared)) +
+           "</pre>\n" + foot();
+}
+
+std::string PageLayout::cell(const std::optional<TextItem>& item,
+                             const std::vector<Finding>& findings,
+                             DifferenceMarks::Side side) const {
+    return item ? marks_.marked(*item, findings, side).mark_up_text(generator_) : "";
 }

@@ -15,10 +15,18 @@ struct TextPositions {
 class PositionTeller {
 public:
     PositionTeller(const TextItem& item, const TextPositions& positions);
+    /// The same; `displayed` is what is shown of the item, and is referred to.
+    PositionTeller(const TextItem& item, const DisplayedText& displayed,
+                   const TextPositions& positions);
+    PositionTeller(const PositionTeller&) = delete;
+    PositionTeller& operator=(const PositionTeller&) = delete;
 
     StringSlice told(const StringSlice& in_item) const;
 
 private:
+    void tell_of_text(const TextItem& item);
+
     TextPositions positions_;
-    std::optional<DisplayedText> shown_;
+    std::optional<DisplayedText> own_;
+    const DisplayedText* shown_ = nullptr;  // by which positions are mapped; null: as they are
 };

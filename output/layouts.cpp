@@ -45,13 +45,19 @@ constexpr OwnForm own_forms[] = {
 
 std::span<const Output> show_outputs() {
     static const std::vector<Output> outputs = [] {
-        std::vector<Output> all;
-        for (const RichTextTarget& target : rich_text_targets()) {
-            all.push_back({target.name, target.help, &target});
-        }
-        for (const OwnForm& form : own_forms) all.push_back({form.name, form.help, nullptr});
-        return all;
+        std::vector<Output> own;
+        for (const OwnForm& form : own_forms) own.push_back({form.name, form.help, nullptr});
+        return outputs_with(own);
     }();
+    return outputs;
+}
+
+std::span<const Output> compare_outputs() {
+    static const std::vector<Output> outputs = outputs_with(
+        {{"json",
+          "both sides of each field as show has them, verdicts, and what differs: kind, reason, "
+          "places, numbers, a clause in English (.json)",
+          nullptr}});
     return outputs;
 }
 
@@ -63,11 +69,13 @@ std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_fi
         for (const Field& field : wanted) labels.emplace_back(field.label);
         return row_named(std::span<const OwnForm>(own_forms), output.name)->make(labels, positions);
     }
-    if (own_file) return make_comparison_layout(*output.target);
+    if (own_file) return make_comparison_layout(output);
     return std::make_unique<LineLayout>(*output.target);
 }
 
-std::unique_ptr<ComparisonLayout> make_comparison_layout(const RichTextTarget& target) {
-    if (target.use == RichTextTarget::Use::page) return std::make_unique<PageLayout>();
-    return std::make_unique<LineLayout>(target);
+std::unique_ptr<ComparisonLayout> make_comparison_layout(const Output& output,
+                                                         std::optional<TextPositions> positions) {
+    if (!output.target) return std::make_unique<JsonLayout>(positions);
+    if (output.target->use == RichTextTarget::Use::page) return std::make_unique<PageLayout>();
+    return std::make_unique<LineLayout>(*output.target);
 }

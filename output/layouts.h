@@ -17,5 +17,10 @@ std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_fi
                                                std::span<const Field> wanted,
                                                std::optional<TextPositions> positions = {});
 
-/// The layout of comparisons in the mark-up of a target.
-std::unique_ptr<ComparisonLayout> make_comparison_layout(const RichTextTarget& target);
+/// What compare writes: the targets, and JSON.
+std::span<const Output> compare_outputs();
+
+/// The layout of comparisons; the target that is for pages makes one. JSON tells positions in bytes
+/// of the texts where nothing else is asked for.
+std::unique_ptr<ComparisonLayout> make_comparison_layout(
+    const Output& output, std::optional<TextPositions> positions = {});

@@ -70,7 +70,8 @@ std::unique_ptr<TextProcess> make_conversion(const ConvertOptions& options) {
 
 std::span<const Output> search_outputs() {
     static const std::vector<Output> outputs = outputs_with(
-        "slices", "true or false, a tab, and the ranges in bytes from 0: false<TAB>14-30");
+        {{"slices", "true or false, a tab, and the ranges in bytes from 0: false<TAB>14-30",
+          nullptr}});
     return outputs;
 }
 

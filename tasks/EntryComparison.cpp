@@ -1,5 +1,6 @@
 #include "tasks/EntryComparison.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -51,4 +52,11 @@ EntryComparison::EntryComparison(const EntryTexts& left, const EntryTexts& right
             problem.what = error.what();
         }
     }
+}
+
+Verdict EntryComparison::verdict() const {
+    if (!same) return Verdict::different;
+    const bool is_equal = std::all_of(verdicts.begin(), verdicts.end(),
+                                      [](Verdict field) { return field == Verdict::equal; });
+    return is_equal ? Verdict::equal : Verdict::equivalent;
 }

@@ -40,6 +40,9 @@ struct EntryComparison {
     EntryComparison(const EntryTexts& left, const EntryTexts& right, std::span<const Field> wanted,
                     const ComparisonSettings& settings, bool all);
 
+    /// Different where a field differs, else equivalent where one is, else equal.
+    Verdict verdict() const;
+
     std::vector<ComparedField> fields;
     std::vector<Verdict> verdicts;  ///< Of each of `wanted`; equal where both have no text.
     std::vector<Problem> problems;

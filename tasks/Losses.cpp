@@ -3,12 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "finders/InputTextStyleFinder.h"
-#include "markup/RichTextData.h"
-#include "markup/RichTextGenerator.h"
-#include "markup/RichTextTagFactory.h"
-#include "markup/TextItemToOtherGreek.h"
 #include "markup/ascii_text.h"
+#include "tasks/styles_of.h"
 
 namespace {
 
@@ -36,48 +32,24 @@ constexpr AsciiForm ascii_forms[] = {
     {"qt", with_references, false},      {"html5", with_references, false},
 };
 
-/// Sees the styles of an item instead of writing them.
-class StyleKinds : public RichTextGenerator {
-public:
-    StyleKinds() : RichTextGenerator({}, {}) {}
-
-    std::string mark_up_text(const RichTextData& data) const override {
-        for (const auto& style : data.styles()) {
-            const auto* const row =
-                std::find_if(std::begin(rows), std::end(rows),
-                             [&](const Row& known) { return known.kind == style->kind(); });
-            if (row != std::end(rows) && !style->slice().empty()) {
-                has[static_cast<std::size_t>(row - std::begin(rows))] = true;
-            }
-        }
-        return {};
-    }
-
-    mutable std::array<bool, std::size(rows)> has{};
-};
-
 }  // namespace
 
 Losses::Losses(const RichTextTarget& target) : target_(target) {
     const AsciiForm* const form = ascii_form_of(target);
     is_ascii_ = form && form->is_usual;
     const THandle<RichTextGenerator> generator = target.make_generator();
-    const TextItem plain(make_handle<InputTextStyleFinder>(), "x");
-    const std::string without = plain.mark_up_text(*generator);
     static_assert(std::size(rows) == kinds);
-    for (std::size_t i = 0; i < kinds; ++i) {
-        TextItem styled = plain;
-        rows[i].create(styled);
-        is_lost_[i] = styled.mark_up_text(*generator) == without;
-    }
+    for (std::size_t i = 0; i < kinds; ++i) is_lost_[i] = !shows_style(*generator, rows[i].create);
 }
 
 void Losses::note_styles(const TextItem& item, std::vector<Problem>& problems) {
     if (std::none_of(is_lost_.begin(), is_lost_.end(), [](bool lost) { return lost; })) return;
-    StyleKinds found;
-    item.mark_up_text(found);
+    const std::vector<THandle<TextItemStyle>> styles = styles_of(item);
     for (std::size_t i = 0; i < kinds; ++i) {
-        if (!is_lost_[i] || !found.has[i]) continue;
+        const bool has_it = std::any_of(styles.begin(), styles.end(), [&](const auto& style) {
+            return style->kind() == rows[i].kind && !style->slice().empty();
+        });
+        if (!is_lost_[i] || !has_it) continue;
         is_lost_[i] = false;
         Problem& note = problems.emplace_back();
         note.level = Problem::Level::note;

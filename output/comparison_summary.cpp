@@ -1,0 +1,64 @@
+#include "output/comparison_summary.h"
+
+#include <algorithm>
+#include <cstring>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+using Counts = ComparisonSummary::Counts;
+using Json = nlohmann::ordered_json;
+
+constexpr std::size_t column_width = 12;
+
+const char* name_of_column(std::size_t verdict) { return name_of(static_cast<Verdict>(verdict)); }
+
+bool has_any(const Counts& counts) {
+    return std::any_of(counts.begin(), counts.end(), [](unsigned long count) { return count > 0; });
+}
+
+void append_cell(std::string& row, const std::string& text) {
+    row.append(column_width - std::min(column_width - 1, text.size()), ' ').append(text);
+}
+
+void append_row(std::string& table, std::size_t width, std::string label, const Counts& counts) {
+    label.resize(std::max(width, label.size()), ' ');
+    for (const unsigned long count : counts) append_cell(label, std::to_string(count));
+    table.append(label).append("\n");
+}
+
+Json json_of(const Counts& counts) {
+    Json json;
+    for (std::size_t i = 0; i < counts.size(); ++i) json[name_of_column(i)] = counts[i];
+    return json;
+}
+
+}  // namespace
+
+std::string summary_as_text(const ComparisonSummary& summary, std::span<const Field> compared) {
+    std::size_t width = 0;
+    for (std::size_t i = 0; i < summary.fields.size(); ++i) {
+        if (has_any(summary.fields[i])) width = std::max(width, std::strlen(compared[i].label));
+    }
+    std::string table(width, ' ');
+    for (std::size_t i = 0; i < summary.entries.size(); ++i) append_cell(table, name_of_column(i));
+    table += '\n';
+    append_row(table, width, "Entries", summary.entries);
+    for (std::size_t i = 0; i < summary.fields.size(); ++i) {
+        if (has_any(summary.fields[i])) {
+            append_row(table, width, compared[i].label, summary.fields[i]);
+        }
+    }
+    return table;
+}
+
+std::string summary_as_json(const ComparisonSummary& summary, std::span<const Field> compared) {
+    Json json{{"entries", json_of(summary.entries)}, {"fields", Json::array()}};
+    for (std::size_t i = 0; i < summary.fields.size(); ++i) {
+        if (!has_any(summary.fields[i])) continue;
+        Json field{{"label", compared[i].label}, {"group", compared[i].group}};
+        field.update(json_of(summary.fields[i]));
+        json["fields"].push_back(std::move(field));
+    }
+    return json.dump(1) + '\n';
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "comparison/Finding.h"
+#include "markup/DisplayedText.h"
+
+/// Says in plain English in what two texts of a field differ.
+class FindingSentences {
+public:
+    /// Refers to both.
+    FindingSentences(const DisplayedText& left, const DisplayedText& right)
+        : left_(left), right_(right) {}
+
+    /// One clause: "H 40 against 39". What it quotes is text as it is shown.
+    std::string clause(const Finding& finding) const;
+    /// The clauses of the first few findings, those that count before those that do not, and how
+    /// many there are besides.
+    std::string reasons(const std::vector<Finding>& findings) const;
+
+private:
+    const DisplayedText &left_, &right_;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <vector>
+
+#include "host/THandle.h"
+#include "markup/RichTextGenerator.h"
+#include "text/TextItem.h"
+#include "text/TextItemStyle.h"
+
+/// The styles of an item, in the order in which they were laid on it.
+std::vector<THandle<TextItemStyle>> styles_of(const TextItem& item);
+
+/// Whether a generator writes a character otherwise when `create` has laid a style on it.
+bool shows_style(RichTextGenerator& generator, void (*create)(TextItem& item));
