@@ -6,6 +6,7 @@
 #include <tuple>
 #include <utility>
 
+#include "comparison/folding.h"
 #include "entries/cif_text.h"
 #include "tasks/composition.h"
 
@@ -93,7 +94,7 @@ EntryPairing::Rest EntryPairing::finish() {
     const auto block_alone = [](const Waiting& waiting) {
         return waiting.entry.identifier.empty() ? waiting.block : std::string();
     };
-    const auto name = [](const Waiting& waiting) { return in_lower_case(waiting.entry.name); };
+    const auto name = [](const Waiting& waiting) { return folded(waiting.entry.name, {}); };
     const auto any = [](const Waiting& /*waiting*/) { return std::string("any"); };
     pair_by(block_with_number, block_alone, PairingReason::block);
     pair_by(block_alone, block_with_number, PairingReason::block);
