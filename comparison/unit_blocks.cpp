@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 
 namespace {
 
@@ -66,22 +67,46 @@ std::size_t size_of(const Block& block) {
     return std::max(block.left_to - block.left_from, block.right_to - block.right_from);
 }
 
-/// Joins blocks between which less stands than either has: a reader sees one change there.
-Blocks joined(const Blocks& blocks) {
+/// One block for two of one side, where what stands between them can as well stand before or behind
+/// both; `from` and `to` are the ends of a block on that side.
+std::optional<Block> met(const Keys& keys, std::size_t Block::*from, std::size_t Block::*to,
+                         const Block& first, const Block& second) {
+    const auto at = [&](std::size_t place) {
+        return keys.begin() + static_cast<std::ptrdiff_t>(place);
+    };
+    const std::size_t between = second.*from - first.*to;
+    Block block = first;
+    block.*to = second.*to - between;
+    if (std::equal(at(first.*to), at(second.*from), at(second.*to - between))) return block;
+    block = second;
+    block.*from = first.*from + between;
+    if (std::equal(at(first.*to), at(second.*from), at(first.*from))) return block;
+    return {};
+}
+
+/// Replaces neighbours by what `join` makes of them, as far as it makes one block of two.
+template <class Join>
+Blocks joined(const Blocks& blocks, Join join) {
     Blocks result;
     for (const Block& next : blocks) {
-        Block block = next;
+        std::optional<Block> block = next;
         while (!result.empty()) {
-            const Block& last = result.back();
-            const std::size_t between = block.left_from - last.left_to;
-            if (between > size_of(last) || between > size_of(block)) break;
-            block = {last.left_from, block.left_to, last.right_from, block.right_to,
-                     last.is_coarse || block.is_coarse};
+            const std::optional<Block> one = join(result.back(), *block);
+            if (!one) break;
+            block = one;
             result.pop_back();
         }
-        result.push_back(block);
+        result.push_back(*block);
     }
     return result;
+}
+
+/// One block for two between which less stands than either has: a reader sees one change there.
+std::optional<Block> without_crumbs(const Block& first, const Block& second) {
+    const std::size_t between = second.left_from - first.left_to;
+    if (between > size_of(first) || between > size_of(second)) return {};
+    return Block{first.left_from, second.left_to, first.right_from, second.right_to,
+                 first.is_coarse || second.is_coarse};
 }
 
 /// How well a block of one side would stand there: 2 where words begin and end.
@@ -144,7 +169,16 @@ std::vector<EditScript::Block> unit_blocks(const TextUnits& left, const TextUnit
     const bool is_coarse = std::any_of(blocks.begin(), blocks.end(),
                                        [](const Block& block) { return block.is_coarse; });
     if (is_coarse) blocks = blocks_of_words(left, right, left_keys, right_keys);
-    blocks = joined(blocks);
+    blocks = joined(blocks, [&](const Block& first, const Block& second) -> std::optional<Block> {
+        const auto has_left = [](const Block& block) { return block.left_from < block.left_to; };
+        const auto has_right = [](const Block& block) { return block.right_from < block.right_to; };
+        if (!has_right(first) && !has_right(second)) {
+            return met(left_keys, &Block::left_from, &Block::left_to, first, second);
+        }
+        if (has_left(first) || has_left(second)) return {};
+        return met(right_keys, &Block::right_from, &Block::right_to, first, second);
+    });
+    blocks = joined(blocks, without_crumbs);
     shift(blocks, left, right);
     return blocks;
 }
