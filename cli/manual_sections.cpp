@@ -4,8 +4,8 @@ namespace {
 
 constexpr ManualSection::Entry statuses[] = {
     {"0",
-     "all went well, doubts about what was read aside; in search something matched, in compare all "
-     "is the same"},
+     "all went well, doubts about what was read aside; in search something matched, in compare "
+     "nothing differs that counts"},
     {"1",
      "something was reported, and the rest done; in search nothing matched, in compare something "
      "differs"},
@@ -45,6 +45,8 @@ constexpr ManualSection::Entry examples[] = {
      "    lmrtext show -0 --files-from - --fields 'cell lengths,cell angles' -o cells.csv"},
     {"What has changed in a folder, small changes of numbers aside",
      "lmrtext compare --tolerance 0.01 before/ after/"},
+    {"Two structures of one file, as a page",
+     "lmrtext compare -o page.html both.cif:I both.cif:II"},
     {"The names of a list in which a part of a name occurs",
      "lmrtext search --how substring --term glucopyranoside --matching names.txt.gz"},
 };

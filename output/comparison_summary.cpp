@@ -10,6 +10,7 @@ using Counts = ComparisonSummary::Counts;
 using Json = nlohmann::ordered_json;
 
 constexpr std::size_t column_width = 12;
+constexpr char all_entries[] = "Entries";
 
 const char* name_of_column(std::size_t verdict) { return name_of(static_cast<Verdict>(verdict)); }
 
@@ -36,14 +37,14 @@ Json json_of(const Counts& counts) {
 }  // namespace
 
 std::string summary_as_text(const ComparisonSummary& summary, std::span<const Field> compared) {
-    std::size_t width = 0;
+    std::size_t width = std::strlen(all_entries);
     for (std::size_t i = 0; i < summary.fields.size(); ++i) {
         if (has_any(summary.fields[i])) width = std::max(width, std::strlen(compared[i].label));
     }
     std::string table(width, ' ');
     for (std::size_t i = 0; i < summary.entries.size(); ++i) append_cell(table, name_of_column(i));
     table += '\n';
-    append_row(table, width, "Entries", summary.entries);
+    append_row(table, width, all_entries, summary.entries);
     for (std::size_t i = 0; i < summary.fields.size(); ++i) {
         if (has_any(summary.fields[i])) {
             append_row(table, width, compared[i].label, summary.fields[i]);

@@ -34,11 +34,53 @@ TEST_F(Program, ShowsAndComparesFiles) {
     EXPECT_EQ(run("show -o entry.CSV" + some).status, 0);
     EXPECT_THAT(contents(folder_ / "entry.CSV"), StartsWith("File,Block,\"Z, Z'\",Author(s)\r\n"));
     EXPECT_EQ(contents(folder_ / "entry.doc"), contents(folder_ / "entry.CSV"));
-    EXPECT_EQ(run("compare --to html5" + some + " " + data + "/2204347.cif").status, 0);
-    EXPECT_EQ(run("compare" + some + " " + data + "/1008935.cif").status, 1);
-    EXPECT_EQ(run("compare" + some + " none.cif").status, 2);
     EXPECT_THAT(run("fields --view default").out,
                 StartsWith("Identifier\tPublication\nAuthor(s)\tPublication\n"));
+}
+
+TEST_F(Program, ComparesWhatIsNamedAndPairsTheRest) {
+    const std::string entry = "_exptl_crystal_colour red\n_chemical_name_common ",
+                      page = "page.html";
+    file("a.cif", "data_I\n" + entry + "urea\ndata_II\n" + entry + "thiourea\n");
+    file("b.cif", "data_II\n" + entry + "Thiourea\ndata_III\n" + entry + "urea\n");
+    file("a.cif:odd", "data_I\n" + entry + "urea\n");
+    const struct {
+        const char* arguments;
+        int status;
+        std::string out;
+    } cases[] = {
+        {"a.cif a.cif", 0, ""},
+        {"a.cif:I a.cif:odd", 0, ""},
+        {"a.cif:II b.cif:ii", 0, ""},
+        {"--ignore insertion a.cif:I a.cif:II", 0, ""},
+        {"--exact a.cif:II b.cif:data_II", 1,
+         "a.cif data_II and b.cif data_II (as named)\n< Synonym: [-t-]hiourea\n"
+         "> Synonym: {+T+}hiourea\n  why: 't' against 'T' in case\n"},
+        {"a.cif b.cif", 1, "a.cif data_I: only left\nb.cif data_III: only right\n"},
+        {"--all --fields Color a.cif:I b.cif:III", 0,
+         "a.cif data_I and b.cif data_III (as named)\n= Color: red\n"},
+        {"--summary --fields Color a.cif:I b.cif:III", 0,
+         "              equal  equivalent   different   only-left  only-right\n"
+         "Entries           1           0           0           0           0\n"
+         "Color             1           0           0           0           0\n"},
+        {"a.cif none.cif", 2, ""},
+        {"- -", 2, ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.arguments);
+        const Result done = run(std::string("compare ") + c.arguments);
+        EXPECT_EQ(done.status, c.status) << done.err;
+        EXPECT_EQ(done.out, c.out);
+    }
+    EXPECT_EQ(run("compare a.cif:IIV b.cif").err,
+              "lmrtext: a.cif: no such block: 'IIV'; did you mean 'II'?\n");
+    EXPECT_EQ(run("compare -o page.html a.cif:I a.cif:II").status, 1);
+    EXPECT_THAT(contents(folder_ / page), StartsWith("<!DOCTYPE html>\n"));
+    EXPECT_EQ(run("compare -o page.html a.cif:I none.cif").status, 2);
+    EXPECT_THAT(contents(folder_ / page), HasSubstr(">thio</span>"));
+    EXPECT_THAT(run("compare --ignore acent a.cif b.cif").err,
+                HasSubstr("no such reason: 'acent'; did you mean 'accent'?"));
+    EXPECT_THAT(run("fields --policies").out, HasSubstr("\nFormula\tformula\t"));
 }
 
 TEST_F(Program, SaysInSentencesWhatIsWrong) {

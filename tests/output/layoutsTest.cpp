@@ -27,24 +27,17 @@ std::string shown(const std::string& cif, const char* output, const std::string&
     return head + layout->entry("f", "b", fields.fields) + layout->foot();
 }
 
-struct Compared {
-    std::string text;
-    bool same;
-};
-
-Compared compared(const std::string& left, const std::string& right, const char* target,
-                  const std::string& labels, const char* tolerance = "0") {
+std::string compared(const std::string& left, const std::string& right, const char* output,
+                     const std::string& labels, bool all = false) {
     const EntryReader left_reader(left), right_reader(right);
-    SearchSettings settings;
-    settings.tolerance = tolerance;
-    const EntryComparison comparison(left_reader[0], right_reader[0], fields_named(labels),
-                                     settings);
+    const std::vector<Field> fields = fields_named(labels);
+    const EntryComparison comparison({"l", left_reader[0], fields}, {"r", right_reader[0], fields},
+                                     fields, {}, all);
     EXPECT_TRUE(comparison.problems.empty());
-    const auto layout = make_comparison_layout(*row_named(rich_text_targets(), target));
-    return {layout->head("Both") +
-                layout->comparison({"l\u202E", "a"}, {"r", "b"}, comparison.fields) +
-                layout->foot(),
-            comparison.same};
+    const auto layout = make_comparison_layout(*row_named(compare_outputs(), output));
+    return layout->head("Both") +
+           layout->comparison({"l\u202E", "a"}, {"r", "b"}, PairingReason::name, comparison) +
+           layout->separator() + layout->only({"r", "c"}, Verdict::only_right) + layout->foot();
 }
 
 const std::string cif =
@@ -138,27 +131,79 @@ TEST(JsonLayout, HoldsRunsAndNothingThatActs) {
     EXPECT_THAT(json_text, HasSubstr("\"\\u202E\\u007F\\u009B<\\/script>\\u003C!--\\u2028\""));
 }
 
-TEST(ComparisonLayout, ShowsBothSides) {
-    const std::string other =
-        "data_a\n_chemical_name_common acetonitrile\n_diffrn_ambient_temperature 293.2(2)\n";
-    const std::string labels = "Synonym,Temperature (K),Color,Habit";
-    const Compared lines = compared(cif, other, "qt", labels, "0.5");
-    EXPECT_FALSE(lines.same);
-    EXPECT_THAT(lines.text, EndsWith("and r: data_a and data_b\n"
-                                     "< Synonym: <b><font color=blue>aceton</font></b>e\n"
-                                     "> Synonym: <b><font color=blue>aceton</font></b>itrile\n"
-                                     "= Temperature (K): <b><font color=green4>293</font></b>(<b>"
-                                     "<font color=green4>2</font></b>)\n"
-                                     "= Temperature (K): <b><font color=green4>293.2</font></b>(<b>"
-                                     "<font color=green4>2</font></b>)\n"
-                                     "< Color: red\n> Color: \n"));
-    EXPECT_TRUE(compared(cif, other, "qt", "Temperature (K)", "0.5").same);
-    EXPECT_FALSE(compared(cif, other, "qt", "Temperature (K)").same);
-    EXPECT_EQ(compared(cif, cif, "unicode", "Color").text,
-              "l<U+202E> and r: data_a and data_b\n= Color: red\n");
-    const std::string page = compared(cif, other, "html5", labels).text;
-    EXPECT_THAT(page, HasSubstr("<h2><bdi>data_a</bdi> and <bdi>data_b</bdi> "
-                                "<small><bdi>l&lt;U+202E&gt;</bdi> and <bdi>r</bdi></small></h2>"));
-    EXPECT_THAT(page, EndsWith("<div class=\"pair different\"><p>Color</p><p>red</p><p></p></div>\n"
-                               "</section>\n</body>\n</html>\n"));
+const std::string other =
+    "data_b\n_chemical_name_common acetane\n_diffrn_ambient_temperature 293.2(2)\n"
+    "_exptl_crystal_description block\n";
+const std::string labels = "Synonym,Temperature (K),Color,Habit";
+
+TEST(ComparisonLayout, ShowsBothSidesAndWhy) {
+    EXPECT_EQ(compared(cif, other, "unicode", labels, true),
+              "l<U+202E> data_a and r data_b (same compound name)\n"
+              "< Synonym: acet[-o-]ne\n> Synonym: acet{+a+}ne\n  why: 'o' against 'a'\n"
+              "~ Temperature (K): [-293(2)-]\n~ Temperature (K): {+293.2(2)+}\n"
+              "  why: equivalent: 293(2) against 293.2(2), 0.1 \u03C3 apart\n"
+              "< Color (only left): red\n> Habit (only right): block\n"
+              "r data_c: only right\n");
+    EXPECT_THAT(compared(cif, cif, "unicode", "Color", true),
+                HasSubstr(")\n= Color: red\nr data_c"));
+    EXPECT_THAT(compared(cif, other, "latex", "Synonym"),
+                EndsWith("acet\\textbf{\\textcolor[rgb]{0,0.545,0}{a}}ne\n"
+                         "\\item[{  why}] 'o' against 'a'\n\\end{description}\n"
+                         "r data\\_c: only right\n\n"));
+    const std::string page = compared(cif, other, "html5", "Synonym,Color");
+    EXPECT_THAT(page,
+                HasSubstr("<h2><bdi>data_a</bdi> and <bdi>data_b</bdi> <small><bdi>l&lt;U+202E"
+                          "&gt;</bdi> and <bdi>r</bdi>, same compound name</small></h2>"));
+    EXPECT_THAT(page, HasSubstr("<div class=\"pair different\"><p>Synonym</p><p>acet<b><span style="
+                                "\"color:red\">o</span></b>ne</p>"));
+    EXPECT_THAT(page,
+                EndsWith("<p>Color</p><p>red</p><p></p><p class=\"why\">only left</p></div>\n"
+                         "</section>\n<section>\n<h2><bdi>data_c</bdi> <small><bdi>r</bdi>, only "
+                         "right</small></h2>\n</section>\n</body>\n</html>\n"));
+}
+
+TEST(ComparisonLayout, TellsAllInJson) {
+    const auto json = nlohmann::json::parse(compared(cif, other, "json", labels));
+    const auto& pair = json.at(0);
+    EXPECT_EQ(pair.at("left").at("block"), "a");
+    EXPECT_EQ(pair.at("pairing"), "name");
+    EXPECT_EQ(pair.at("verdict"), "different");
+    const auto& synonym = pair.at("fields").at(0);
+    EXPECT_EQ(synonym.at("right").at("displayed"), "acetane");
+    EXPECT_EQ(synonym.at("findings").at(0),
+              nlohmann::json::parse(R"({"kind": "text", "reason": "replacement",
+                  "verdict": "different", "left": {"from": 4, "to": 5},
+                  "right": {"from": 4, "to": 5}, "sentence": "'o' against 'a'"})"));
+    const auto& temperature = pair.at("fields").at(1).at("findings").at(0);
+    EXPECT_EQ(temperature.at("verdict"), "equivalent");
+    EXPECT_EQ(temperature.at("right_number"), 293.2);
+    EXPECT_EQ(temperature.at("limit"), 3);
+    EXPECT_TRUE(pair.at("fields").at(2).at("right").is_null());
+    EXPECT_TRUE(json.at(1).at("left").is_null());
+    EXPECT_EQ(json.at(1).at("verdict"), "only-right");
+}
+
+TEST(ComparisonLayout, CountsInASummary) {
+    const std::vector<Field> fields = fields_named("Synonym,Color,Space Group,Melting Point");
+    const EntryReader left_reader(cif), right_reader(other);
+    const EntryTexts left("l", left_reader[0], fields), right("r", right_reader[0], fields);
+    ComparisonSummary summary;
+    summary.add(left, right, {left, right, fields, {}, false});
+    summary.add(left, left, {left, left, fields, {}, false});
+    summary.add_only(Verdict::only_right);
+    const auto told = [&](const char* output) {
+        return make_comparison_layout(*row_named(compare_outputs(), output))
+            ->summary(summary, fields);
+    };
+    EXPECT_EQ(told("unicode"),
+              "                  equal  equivalent   different   only-left  only-right\n"
+              "Entries               1           0           1           0           1\n"
+              "Synonym               1           0           1           0           0\n"
+              "Color                 1           0           0           1           0\n"
+              "Space Group           1           0           0           1           0\n");
+    const auto json = nlohmann::json::parse(told("json"));
+    EXPECT_EQ(json.at("entries").at("only-right"), 1);
+    EXPECT_EQ(json.at("fields").at(1).at("label"), "Color");
+    EXPECT_EQ(json.at("fields").at(1).at("only-left"), 1);
+    EXPECT_THAT(told("html5"), HasSubstr("<pre>\n"));
 }
