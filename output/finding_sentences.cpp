@@ -1,7 +1,7 @@
 #include "output/finding_sentences.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <iterator>
 #include <string_view>
@@ -86,14 +86,23 @@ std::string excerpt(std::string_view text) {
 
 std::string quoted(std::string_view text) { return '\'' + excerpt(text) + '\''; }
 
-std::string printed(double number, const char* format) {
+constexpr int all_digits = 10;
+
+/// With so many digits at most.
+std::string printed(double number, int digits) {
     char text[40];
-    std::snprintf(text, sizeof text, format, number);
-    return text;
+    const auto end =
+        std::to_chars(text, std::end(text), number, std::chars_format::general, digits).ptr;
+    return {text, end};
 }
 
-std::string count_of(const std::optional<double>& number, const char* format = "%.10g") {
-    return number && *number != 0 ? printed(*number, format) : "none";
+std::string count_of(const std::optional<double>& number) {
+    return number && *number != 0 ? printed(*number, all_digits) : "none";
+}
+
+/// "+1".
+std::string charge_of(const std::optional<double>& number) {
+    return (number && *number > 0 ? "+" : "") + count_of(number);
 }
 
 /// "2nd".
@@ -110,13 +119,13 @@ std::string limit_of(const Finding& finding) {
     std::string text;
     const bool is_within = finding.reason == Reason::number_within_limit;
     if (finding.sigmas) {
-        text = ", " + printed(*finding.sigmas, "%.2g") + " \u03C3 apart";
+        text = ", " + printed(*finding.sigmas, 2) + " \u03C3 apart";
     } else if (finding.left_number && finding.right_number) {
         const double apart = std::abs(*finding.left_number - *finding.right_number);
-        text = ", " + printed(apart, "%.4g") + " apart";
+        text = ", " + printed(apart, 4) + " apart";
     }
     if (finding.limit && *finding.limit > 0 && !(is_within && finding.sigmas)) {
-        text.append(is_within ? ", within " : ", beyond ").append(printed(*finding.limit, "%.4g"));
+        text.append(is_within ? ", within " : ", beyond ").append(printed(*finding.limit, 4));
         if (finding.sigmas) text += " \u03C3";
     }
     return text;
@@ -150,8 +159,8 @@ std::string value_of(std::string_view name, const Finding& finding, std::string_
     if (name == "s") return or_none(left.empty() ? right : left);
     if (name == "m") return count_of(finding.left_number);
     if (name == "n") return count_of(finding.right_number);
-    if (name == "+m") return count_of(finding.left_number, "%+.10g");
-    if (name == "+n") return count_of(finding.right_number, "%+.10g");
+    if (name == "+m") return charge_of(finding.left_number);
+    if (name == "+n") return charge_of(finding.right_number);
     if (name == "mth") return place_of(finding.left_number);
     if (name == "nth") return place_of(finding.right_number);
     return limit_of(finding);
