@@ -51,18 +51,20 @@ void Comparison::compare_paired() {
                       left_.stream().places() + right_.stream().places());
     const bool in_folders = left_.is_folder() || right_.is_folder();
     EntryPairing pairing;
-    for (bool goes_on = true; goes_on;) {
-        goes_on = false;
-        // The right one first: a left entry then finds another that stands in the same place.
-        for (const auto side : {EntryPairing::right, EntryPairing::left}) {
-            ComparedSide& from = side == EntryPairing::left ? left_ : right_;
-            std::optional<EntryTexts> entry = from.next(options_.wanted);
-            if (!entry) continue;
-            goes_on = true;
-            const std::optional<EntryPair> pair = pairing.add(
-                side, std::move(*entry), in_folders ? from.file_in_folder() : std::string());
-            if (pair) compare(*pair);
-        }
+    const auto add = [&](EntryPairing::Side side, std::optional<EntryTexts>& entry) {
+        if (!entry) return;
+        const ComparedSide& from = side == EntryPairing::left ? left_ : right_;
+        const std::optional<EntryPair> pair = pairing.add(
+            side, std::move(*entry), in_folders ? from.file_in_folder() : std::string());
+        if (pair) compare(*pair);
+    };
+    while (true) {
+        std::optional<EntryTexts> left = left_.next(options_.wanted);
+        std::optional<EntryTexts> right = right_.next(options_.wanted);
+        if (!left && !right) break;
+        // So the left one finds another that stands in the same place.
+        add(EntryPairing::right, right);
+        add(EntryPairing::left, left);
         progress.update(left_.stream().count(),
                         left_.stream().places_read() + right_.stream().places_read());
     }

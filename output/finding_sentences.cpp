@@ -102,7 +102,9 @@ std::string count_of(const std::optional<double>& number) {
 
 /// "+1".
 std::string charge_of(const std::optional<double>& number) {
-    return (number && *number > 0 ? "+" : "") + count_of(number);
+    std::string text = number && *number > 0 ? "+" : "";
+    text += count_of(number);
+    return text;
 }
 
 /// "2nd".
