@@ -1,5 +1,6 @@
 #include "comparison/ComparisonKind.h"
 
+#include "comparison/compare_authors.h"
 #include "comparison/compare_formulae.h"
 #include "comparison/compare_numbers.h"
 #include "comparison/compare_plain_texts.h"
@@ -23,7 +24,7 @@ std::span<const ComparisonKind> comparison_kinds() {
          reasons_of(Reason::author_form, Reason::letter_case, Reason::first_letter_case,
                     Reason::accent, Reason::dash, Reason::apostrophe, Reason::blank,
                     Reason::coding),
-         compare_plain_texts},
+         compare_authors},
         {"reference", "journal, volume, year and pages",
          reasons_of(Reason::journal_form, Reason::letter_case, Reason::first_letter_case,
                     Reason::accent, Reason::dash, Reason::apostrophe, Reason::blank,

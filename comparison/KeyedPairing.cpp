@@ -33,3 +33,14 @@ void KeyedPairing::pair(const Keys& left, const Keys& right) {
         if (order >= 0) ++r;
     }
 }
+
+std::vector<unsigned int> places_among(const std::vector<StringSlice>& ranges,
+                                       const KeyedPairing::Partners& partners) {
+    std::vector<unsigned int> places;
+    unsigned int place = ranges.empty() ? 0 : ranges.front().from();
+    for (const auto& partner : partners) {
+        if (partner) place = ranges[*partner].to();
+        places.push_back(place);
+    }
+    return places;
+}

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "text/StringSlice.h"
+
 /// Pairs things of two sides by one key after the other, the best first.
 class KeyedPairing {
 public:
@@ -27,3 +29,8 @@ public:
 private:
     Partners partners_of_left_, partners_of_right_;
 };
+
+/// Where each thing of one side would stand among the ranges of the other: behind the partner of
+/// the last before it that has one, or in front of all.
+std::vector<unsigned int> places_among(const std::vector<StringSlice>& ranges,
+                                       const KeyedPairing::Partners& partners);

@@ -39,17 +39,10 @@ bool is_sum(const Formula& formula) {
     return formula.moieties.size() == 1 && formula.moieties[0].multiplier.range.empty();
 }
 
-/// Where on its side the partner of a moiety that the other side alone has would stand: behind that
-/// of the one before.
-std::vector<unsigned int> places_for(const KeyedPairing::Partners& partners,
-                                     const Formula& partners_formula) {
-    std::vector<unsigned int> places;
-    unsigned int place = partners_formula.moieties.front().range.from();
-    for (const auto& partner : partners) {
-        if (partner) place = partners_formula.moieties[*partner].range.to();
-        places.push_back(place);
-    }
-    return places;
+std::vector<StringSlice> ranges_of(const Formula& formula) {
+    std::vector<StringSlice> ranges;
+    for (const Moiety& moiety : formula.moieties) ranges.push_back(moiety.range);
+    return ranges;
 }
 
 /// The ranges with all the moieties that have another place.
@@ -78,8 +71,8 @@ bool is_in_order(const KeyedPairing::Partners& partners) {
 void compare_moieties(const Formula& left, const Formula& right, const KeyedPairing& pairing,
                       MoietyComparison& comparison) {
     const KeyedPairing::Partners& partners = pairing.partners_of_left();
-    const std::vector<unsigned int> right_places = places_for(partners, right);
-    const std::vector<unsigned int> left_places = places_for(pairing.partners_of_right(), left);
+    const auto right_places = places_among(ranges_of(right), partners);
+    const auto left_places = places_among(ranges_of(left), pairing.partners_of_right());
     for (std::size_t i = 0; i < partners.size(); ++i) {
         if (partners[i]) {
             comparison.compare(left.moieties[i], right.moieties[*partners[i]]);
@@ -118,7 +111,7 @@ std::string without_blanks(std::string_view text) {
 }
 
 /// Formulae that say the same in other texts: from the first character that differs to the last.
-Finding coding_between(std::string_view left, std::string_view right) {
+Finding difference_of_equals(std::string_view left, std::string_view right) {
     const auto front = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
     const unsigned int from =
         start_of_character(left, to_position(static_cast<std::size_t>(front.first - left.begin())));
@@ -127,7 +120,8 @@ Finding coding_between(std::string_view left, std::string_view right) {
         std::mismatch(rest.rbegin(), rest.rend(), other_rest.rbegin(), other_rest.rend());
     auto tail = static_cast<std::size_t>(back.first - rest.rbegin());
     while (tail > 0 && is_continuation_byte(rest[rest.size() - tail])) --tail;
-    return {Reason::coding,
+    const bool has_other_blanks = without_blanks(left) == without_blanks(right);
+    return {has_other_blanks ? Reason::blank : Reason::coding,
             {from, to_position(left.size() - tail)},
             {from, to_position(right.size() - tail)}};
 }
@@ -160,8 +154,5 @@ std::vector<Finding> compare_formulae(const ComparedText& left, const ComparedTe
     compare_moieties(*left_formula, *right_formula, pairing, comparison);
     const std::vector<Finding> findings = found_by(comparison, policy);
     if (!findings.empty()) return findings;
-    if (without_blanks(left.shown()) == without_blanks(right.shown())) {
-        return compare_plain_texts(left, right, policy);
-    }
-    return {coding_between(left.shown(), right.shown())};
+    return {difference_of_equals(left.shown(), right.shown())};
 }
