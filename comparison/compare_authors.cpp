@@ -82,8 +82,8 @@ Reason reason_for(const Author& left, const Author& right) {
     const auto same = [](const std::string& a, const std::string& b) {
         return !a.empty() && a == b;
     };
-    const bool has_same_words =
-        same(left.all_words, right.all_words) || same(left.last_word, right.last_word);
+    const bool has_same_words = same(left.all_words, right.all_words) ||
+                                (left.core != right.core && same(left.last_word, right.last_word));
     const bool are_fewer = left.given.size() < right.given.size();
     const auto& fewer = are_fewer ? left.given : right.given;
     const auto& more = are_fewer ? right.given : left.given;
@@ -97,17 +97,22 @@ Reason reason_for(const Author& left, const Author& right) {
 }
 
 /// Which authors keep their places, of those on the left that have partners.
-std::vector<bool> kept(const Authors& left, const Authors& right,
-                       const KeyedPairing::Partners& partners) {
-    std::vector<std::size_t> authors, places;
+std::vector<bool> kept(const Authors& left, const Authors& right, const KeyedPairing& pairing) {
+    std::vector<std::size_t> places(right.size());  // among those that have partners
+    std::size_t place = 0;
+    for (std::size_t i = 0; i < right.size(); ++i) {
+        if (pairing.partners_of_right()[i]) places[i] = place++;
+    }
+    std::vector<std::size_t> authors, places_in_turn;
     std::vector<std::string_view> names;
     for (std::size_t i = 0; i < left.size(); ++i) {
-        if (!partners[i]) continue;
+        const auto partner = pairing.partners_of_left()[i];
+        if (!partner) continue;
         authors.push_back(i);
-        places.push_back(*partners[i]);
-        names.push_back(std::min(left[i].text, right[*partners[i]].text));
+        places_in_turn.push_back(places[*partner]);
+        names.push_back(std::min(left[i].text, right[*partner].text));
     }
-    const std::vector<bool> run = longest_ascending_run(places, names);
+    const std::vector<bool> run = longest_ascending_run(places_in_turn, names);
     std::vector<bool> result(left.size());
     for (std::size_t i = 0; i < authors.size(); ++i) result[authors[i]] = run[i];
     return result;
@@ -140,7 +145,7 @@ std::vector<Finding> compare_lists(const Authors& left, const Authors& right,
     const KeyedPairing::Partners& partners = pairing.partners_of_left();
     const auto right_places = places_among(ranges_of(right), partners);
     const auto left_places = places_among(ranges_of(left), pairing.partners_of_right());
-    const std::vector<bool> keep = kept(left, right, partners);
+    const std::vector<bool> keep = kept(left, right, pairing);
     std::vector<Finding> findings;
     for (std::size_t i = 0; i < left.size(); ++i) {
         std::optional<Finding> moved;

@@ -1,6 +1,7 @@
 #include "comparison/longest_run.h"
 
 #include <algorithm>
+#include <tuple>
 
 std::vector<bool> longest_ascending_run(const std::vector<std::size_t>& places,
                                         const std::vector<std::string_view>& names) {
@@ -16,13 +17,19 @@ std::vector<bool> longest_ascending_run(const std::vector<std::size_t>& places,
             level->push_back(i);
         }
     }
+    const auto is_better = [&](std::size_t a, std::size_t b) {
+        const auto distance = [&](std::size_t i) {
+            return places[i] < i ? i - places[i] : places[i] - i;
+        };
+        return std::tuple(distance(a), names[a]) < std::tuple(distance(b), names[b]);
+    };
     std::vector<bool> run(places.size());
     std::size_t next = places.size();  // of the run
     for (auto level = levels.rbegin(); level != levels.rend(); ++level) {
         std::size_t best = places.size();
         for (const std::size_t i : *level) {
             const bool fits = next == places.size() || (i < next && places[i] < places[next]);
-            if (fits && (best == places.size() || names[i] < names[best])) best = i;
+            if (fits && (best == places.size() || is_better(i, best))) best = i;
         }
         run[best] = true;
         next = best;
