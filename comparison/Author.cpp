@@ -125,14 +125,15 @@ Author read_author(std::string_view text, const StringSlice& range) {
     return author;
 }
 
-/// What stands behind the comma of a name: "A. B." or "Jr".
+bool is_initial(const NamePiece& piece) { return stands_for_name(piece.text, piece.has_dot); }
+
+/// Whether it stands behind the comma of a surname: "A. B.", "Anne B" or "Jr".
 bool continues_name(std::string_view name, std::string_view next) {
     const NamePieces pieces = split_name(next);
+    if (pieces.empty()) return false;
     if (pieces.size() == 1 && name_suffix(pieces[0].text)) return true;
-    return name.find('.') == std::string_view::npos && next.find('.') != std::string_view::npos &&
-           std::all_of(pieces.begin(), pieces.end(), [](const NamePiece& piece) {
-               return stands_for_name(piece.text, piece.has_dot);
-           });
+    const NamePieces before = split_name(name);
+    return is_initial(pieces.back()) && std::none_of(before.begin(), before.end(), is_initial);
 }
 
 /// The range without blanks around it.
@@ -170,11 +171,16 @@ std::string Author::initials(std::size_t most) const {
 }
 
 std::vector<Author> read_authors(std::string_view text) {
-    std::vector<StringSlice> names;
-    for (const StringSlice& range : split_list(text)) {
-        const auto at = [text](const StringSlice& slice) {
-            return text.substr(slice.from(), slice.length());
-        };
+    const auto at = [text](const StringSlice& slice) {
+        return text.substr(slice.from(), slice.length());
+    };
+    std::vector<StringSlice> ranges = split_list(text), names;
+    // "Smith, Anne", rather than two of whom no more is known.
+    if (ranges.size() == 2 && text[ranges[0].to()] == ',' &&
+        split_name(at(ranges[0])).size() == 1) {
+        ranges = {ranges[0].combine(ranges[1])};
+    }
+    for (const StringSlice& range : ranges) {
         if (!names.empty() && continues_name(at(names.back()), at(range))) {
             names.back() = names.back().combine(range);
         } else {

@@ -82,8 +82,9 @@ Reason reason_for(const Author& left, const Author& right) {
     const auto same = [](const std::string& a, const std::string& b) {
         return !a.empty() && a == b;
     };
-    const bool has_same_words = same(left.all_words, right.all_words) ||
-                                (left.core != right.core && same(left.last_word, right.last_word));
+    const bool has_same_words =
+        same(left.all_words, right.all_words) ||
+        (left.surname != right.surname && same(left.last_word, right.last_word));
     const bool are_fewer = left.given.size() < right.given.size();
     const auto& fewer = are_fewer ? left.given : right.given;
     const auto& more = are_fewer ? right.given : left.given;

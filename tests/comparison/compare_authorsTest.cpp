@@ -13,6 +13,8 @@ TEST(CompareAuthors, PairsPeopleByTheirNames) {
          "author-form A.B.Smith [0,9)/[0,12); author-form L.Li [11,15)/[14,20)"},
         {"A.B.Smith, C.King", "Smith, A. B., King, C.",
          "author-form A.B.Smith [0,9)/[0,12); author-form C.King [11,17)/[14,22)"},
+        {"A.Smith", "Smith, Anne", "author-form A.Smith [0,7)/[0,11)"},
+        {"A.L.Bail", "A.le Bail", "author-form A.L.Bail [0,8)/[0,9)"},
         {"L.-H.Yin", "L.H.Yin", "author-form L.-H.Yin [0,8)/[0,7)"},
         {"C.N\u00E4ther", "C.Naether", "author-form C.Naether [0,9)/[0,9)"},
         {"C.N\u00E4ther", "C.Nather", "author-form C.Nather [0,9)/[0,8)"},
