@@ -4,6 +4,7 @@
 #include "comparison/compare_formulae.h"
 #include "comparison/compare_numbers.h"
 #include "comparison/compare_plain_texts.h"
+#include "comparison/compare_references.h"
 #include "comparison/compare_space_groups.h"
 
 std::span<const ComparisonKind> comparison_kinds() {
@@ -29,7 +30,7 @@ std::span<const ComparisonKind> comparison_kinds() {
          reasons_of(Reason::journal_form, Reason::letter_case, Reason::first_letter_case,
                     Reason::accent, Reason::dash, Reason::apostrophe, Reason::blank,
                     Reason::coding),
-         compare_plain_texts},
+         compare_references},
         {"space-group", "space groups", reasons_of(Reason::coding), compare_space_groups},
     };
     return rows;
