@@ -18,6 +18,11 @@ constexpr std::string_view small_words[] = {
 constexpr std::string_view section_words[] = {
     "abt", "abteilung", "part", "pt", "sec", "sect", "section", "ser", "serie", "series", "teil"};
 
+// Abbreviations, and words that begin with them but have other ones.
+constexpr struct {
+    std::string_view abbreviation, other_word;
+} other_words[] = {{"org", "organom"}, {"phys", "physiol"}};
+
 struct Word {
     std::string_view text;
     std::string_view before;  ///< What stands between it and the last word.
@@ -77,7 +82,7 @@ bool is_label(const Words& words, std::size_t index) {
 /// "Section C" and the "A" of "Chemistry - A European Journal".
 bool is_left_out(const Words& words, std::size_t index) {
     const Word& word = words[index];
-    if (is_one_of(small_words, word.text)) return true;
+    if (is_one_of(small_words, word.text)) return word.behind != '.';  // "Cryst. Growth Des."
     if (index + 1 == words.size()) return false;
     if (word.text == "l" || word.text == "d") return word.behind == '\'';
     if (is_one_of(section_words, word.text)) return is_label(words, index + 1);
@@ -121,6 +126,11 @@ bool abbreviates(const Word& shorter, const Word& longer) {
     const bool has_dot = shorter.behind == '.';
     const bool leaves_more = size + fewest_left_out <= longer.text.size();
     if (!has_dot && (!leaves_more || size > longest_without_dot)) return false;
+    for (const auto& row : other_words) {
+        if (shorter.text == row.abbreviation && longer.text.starts_with(row.other_word)) {
+            return false;
+        }
+    }
     return longer.text.starts_with(shorter.text) ||
            (leaves_more && is_contraction(shorter.text, longer.text));
 }

@@ -40,6 +40,8 @@ TEST(CompareReferences, KnowsAbbreviationsOfJournals) {
         {"Chemistry - A European Journal", "Chem. Eur. J.", true},
         {"Bull. Chem. Soc. Jpn.", "Bulletin of the Chemical Society of Japan", true},
         {"Journal of Alloys Compd.", "Journal of Alloys and Compounds", true},
+        {"Cryst. Growth Des.", "Crystal Growth & Design", true},
+        {"J. Org. Chem.", "Journal of Organometallic Chemistry", false},
         {"CrystEngComm", "Cryst. Eng. Comm.", true},
         {"Acta Crystallogr.,Sect.C:Cryst.Struct.Commun.", "Acta Crystallographica C", true},
         {"Physical Review B - Condensed Matter", "Phys. Rev. B", true},
