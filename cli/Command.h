@@ -41,6 +41,7 @@ private:
 
 std::unique_ptr<Command> make_convert_command();
 std::unique_ptr<Command> make_show_command();
+std::unique_ptr<Command> make_find_command();
 std::unique_ptr<Command> make_fields_command();
 std::unique_ptr<Command> make_search_command();
 std::unique_ptr<Command> make_compare_command();

@@ -16,6 +16,7 @@ struct ProcessedEntries {
     std::string output;
     std::vector<Problem> problems;  ///< With the name of the file.
     unsigned long count = 0;        ///< Of entries.
+    unsigned long matched = 0;      ///< Of these, where something is looked for.
 };
 
 /// Makes something of entries of a file, several of one or of several at the same time.

@@ -10,8 +10,9 @@
 #include "cli/options.h"
 #include "cli/output_file.h"
 #include "cli/report.h"
+#include "cli/terms.h"
 #include "output/layouts.h"
-#include "tasks/EntryFields.h"
+#include "tasks/EntryFinder.h"
 #include "tasks/Losses.h"
 
 namespace {
@@ -23,6 +24,7 @@ public:
             report("show needs a FILE or --files-from (lmrtext show --help says more)");
             return exit_trouble;
         }
+        if (term_) finder_.emplace(fields_.list(), terms_of({*term_}, {}), Folding());
         if (path_ == "-") path_.clear();
         if (!to_) to_ = output_for(show_outputs(), path_);
         if (!to_) return exit_trouble;
@@ -39,7 +41,8 @@ private:
     void add_options(CLI::App& command, Choices& choices) override {
         add_field_options(command, choices, fields_);
         command.add_option("--find", term_,
-                           "Highlight this in every field, compared as suits the field");
+                           "Highlight this term in every field and tell what is found as what; "
+                           "lmrtext find --help tells of terms");
         add_row_option(command, choices, "--to", to_, show_outputs(),
                        "What to write; unless given, as the ending of the file says, ansi on a "
                        "terminal and unicode elsewhere");
@@ -57,7 +60,7 @@ private:
         const std::unique_ptr<EntryLayout> layout =
             make_entry_layout(*to_, !path_.empty(), wanted, positions_.chosen());
         for (const CifEntry& entry : entries) {
-            EntryFields fields(entry, wanted, term_);
+            EntryFields fields(entry, wanted, finder_ ? &*finder_ : nullptr);
             done.problems.insert(done.problems.end(), entry.problems.begin(), entry.problems.end());
             for (Problem& problem : fields.problems) {
                 problem.file = file;
@@ -103,8 +106,9 @@ private:
     const Output* to_ = nullptr;
     std::string path_;  // of the file to write; empty: standard output
     ChosenFields fields_;
-    std::string term_;           // searched in every field in the field's own way; empty: no search
-    ChosenPositions positions_;  // in JSON
+    std::optional<std::string> term_;
+    std::optional<EntryFinder> finder_;  // of the term
+    ChosenPositions positions_;          // in JSON
     unsigned int jobs_ = 1;
     bool progress_ = true;
     Places places_;

@@ -25,9 +25,9 @@ using Commands = std::vector<std::unique_ptr<Command>>;
 /// In the order in which help and manual tell of them.
 Commands all_commands() {
     Commands commands;
-    for (const auto make : {make_convert_command, make_show_command, make_fields_command,
-                            make_search_command, make_compare_command, make_targets_command,
-                            make_manual_command, make_completion_command}) {
+    for (const auto make : {make_convert_command, make_show_command, make_find_command,
+                            make_fields_command, make_search_command, make_compare_command,
+                            make_targets_command, make_manual_command, make_completion_command}) {
         commands.push_back(make());
     }
     return commands;

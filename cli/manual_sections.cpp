@@ -4,12 +4,12 @@ namespace {
 
 constexpr ManualSection::Entry statuses[] = {
     {"0",
-     "all went well, doubts about what was read aside; in search something matched, in compare "
-     "nothing differs that counts"},
+     "all went well, doubts about what was read aside; in search and find something matched, in "
+     "compare nothing differs that counts"},
     {"1",
-     "something was reported, and the rest done; in search nothing matched, in compare something "
-     "differs"},
-    {"2", "wrong usage; in search and compare also what was reported"},
+     "something was reported, and the rest done; in search and find nothing matched, in compare "
+     "something differs"},
+    {"2", "wrong usage; in search, find and compare also what was reported"},
 };
 
 constexpr ManualSection::Entry variables[] = {
@@ -19,7 +19,8 @@ constexpr ManualSection::Entry variables[] = {
 
 constexpr ManualSection::Entry files[] = {
     {"*.cif, *.cif.gz",
-     "what show and compare read of a folder: files with such names, in any case, in the order of "
+     "what show, find and compare read of a folder: files with such names, in any case, in the "
+     "order of "
      "their names, but no hidden ones; with --recursive then those of the folders in it. Links are "
      "followed; of a folder that is named each file is read once, however many links lead to it"},
     {"*.gz",
@@ -43,6 +44,8 @@ constexpr ManualSection::Entry examples[] = {
     {"A table of cells for a spreadsheet, of the files that another program finds",
      "find . -name '*.cif.gz' -print0 |\n"
      "    lmrtext show -0 --files-from - --fields 'cell lengths,cell angles' -o cells.csv"},
+    {"The files in which an author has worked with a cell near this one",
+     "lmrtext find author:cisarova --and cell:22.7,22.7,13.5 --list --recursive structures/"},
     {"What has changed in a folder, small changes of numbers aside",
      "lmrtext compare --tolerance 0.01 before/ after/"},
     {"Two structures of one file, as a page",

@@ -87,10 +87,11 @@ void add_batch_options(CLI::App& command, TextBatch& batch) {
 
 std::vector<Field> ChosenFields::list() const { return named.empty() ? view->fields() : named; }
 
-void add_field_options(CLI::App& command, Choices& choices, ChosenFields& fields) {
-    fields.view = row_named(views(), "default");
+void add_field_options(CLI::App& command, Choices& choices, ChosenFields& fields,
+                       const char* view) {
+    fields.view = row_named(views(), view);
     add_row_option(command, choices, "--view", fields.view, views(),
-                   "Which fields; default unless given");
+                   std::string("Which fields; ") + view + " unless given");
     command
         .add_option_function<std::string>(
             "--fields",

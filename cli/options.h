@@ -81,8 +81,9 @@ struct ChosenFields {
     std::vector<Field> list() const;
 };
 
-/// Adds the options that choose fields.
-void add_field_options(CLI::App& command, Choices& choices, ChosenFields& fields);
+/// Adds the options that choose fields; unless given, those of that view.
+void add_field_options(CLI::App& command, Choices& choices, ChosenFields& fields,
+                       const char* view = "default");
 
 void add_tolerance_option(CLI::App& command, SearchSettings& settings);
 

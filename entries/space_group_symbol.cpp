@@ -127,6 +127,10 @@ bool allows(const SpaceGroupSetting& setting, const gemmi::SpaceGroup& group) {
     return has_axis && (setting.origin_is_open || own.ext == group.ext);
 }
 
+int number_of(const SpaceGroupSetting& setting) {
+    return setting.group ? setting.group->number : 0;
+}
+
 std::string name_of(const SpaceGroupSetting& setting) {
     if (setting.axis_is_open) return without_axes(*setting.group);
     return setting.origin_is_open ? setting.group->hm : setting.group->xhm();

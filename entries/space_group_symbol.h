@@ -22,5 +22,8 @@ SpaceGroupSetting find_space_group(std::string_view symbol, double alpha, double
 /// Whether the two are of one number, and what is left open of the first allows the second.
 bool allows(const SpaceGroupSetting& setting, const gemmi::SpaceGroup& group);
 
+/// Of the group, from 1 to 230; 0 where there is none.
+int number_of(const SpaceGroupSetting& setting);
+
 /// The symbol with what it says of the origin or the axes, and of no more.
 std::string name_of(const SpaceGroupSetting& setting);

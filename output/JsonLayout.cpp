@@ -11,6 +11,7 @@
 #include "markup/internal/controls.h"
 #include "output/comparison_summary.h"
 #include "output/finding_sentences.h"
+#include "output/match_reason.h"
 #include "text/Position.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
@@ -77,6 +78,18 @@ private:
     PositionTeller teller_;
     bool tells_;  // of runs; of what differs always
 };
+
+/// What was found in a field, and where.
+Json matches_of(const EntryField& field, const Text& text) {
+    Json matches = Json::array();
+    for (const FieldMatch& match : field.matches) {
+        Json json{{"term", match.term}};
+        json.update(json_of(text.told(match.place)));
+        json["reason"] = reason_of(match);
+        matches.push_back(std::move(json));
+    }
+    return matches;
+}
 
 const char* verdict_of(const Finding& finding) {
     return name_of(finding.is_equivalent ? Verdict::equivalent : Verdict::different);
@@ -168,7 +181,9 @@ std::string JsonLayout::entry(const std::string& file, const std::string& block,
     for (const EntryField& field : fields) {
         Json& added =
             json["fields"].emplace_back(Json{{"label", field.label}, {"group", field.group}});
-        Text(field.item, positions_).write_to(added, generator_);
+        const Text text(field.item, positions_);
+        text.write_to(added, generator_);
+        if (!field.matches.empty()) added["matches"] = matches_of(field, text);
     }
     return written(json);
 }

@@ -5,6 +5,7 @@
 #include "finders/InputTextStyleFinder.h"
 #include "markup/DisplayedText.h"
 #include "output/finding_sentences.h"
+#include "output/match_reason.h"
 #include "text/TextItem.h"
 
 namespace {
@@ -28,6 +29,9 @@ std::string LineLayout::entry(const std::string& file, const std::string& block,
     std::string lines = title(file + ": data_" + block);
     for (const EntryField& field : fields) {
         append_row(lines, target_.layout.indent, field.label, field.item.mark_up_text(*generator_));
+        if (field.matches.empty()) continue;
+        const std::string indent = target_.layout.indent + std::string("    ");
+        append_row(lines, indent.c_str(), "found", written(reason_of(field.matches)));
     }
     return lines + target_.layout.foot;
 }

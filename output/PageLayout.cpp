@@ -5,6 +5,7 @@
 #include "markup/DisplayedText.h"
 #include "output/comparison_summary.h"
 #include "output/finding_sentences.h"
+#include "output/match_reason.h"
 #include "text/TextItem.h"
 
 namespace {
@@ -69,6 +70,7 @@ std::string PageLayout::head(const std::string& title) {
            ".pair .why { grid-column: 2 / 4; color: #666; font-size: 0.9em; }\n"
            ".different { background: #fff3e0; }\n"
            ".equivalent { background: #eef4fb; }\n"
+           ".found { margin: 0; font-size: 0.8em; color: #666; }\n"
            "bdi, dt, dd, .pair p { unicode-bidi: isolate; }\n"
            "sub, sup { line-height: 0; }\n"
            "</style>\n"
@@ -87,8 +89,12 @@ std::string PageLayout::entry(const std::string& file, const std::string& block,
     for (const EntryField& field : fields) {
         if (field.group != group) section += "<h3>" + escaped(field.group) + "</h3>\n";
         group = field.group;
-        section += "<dl><dt>" + escaped(field.label) + "</dt>\n<dd>" +
-                   field.item.mark_up_text(generator_) + "</dd></dl>\n";
+        section +=
+            "<dl><dt>" + escaped(field.label) + "</dt>\n<dd>" + field.item.mark_up_text(generator_);
+        if (!field.matches.empty()) {
+            section += "<p class=\"found\">found: " + escaped(reason_of(field.matches)) + "</p>";
+        }
+        section += "</dd></dl>\n";
     }
     return section + section_foot;
 }

@@ -1,30 +1,34 @@
 #include "tasks/EntryFields.h"
 
-#include <exception>
+#include <optional>
+#include <utility>
 
-#include "tasks/Highlighting.h"
-
-namespace {
-
-THandle<InputTextStyleFinder> finder_of(const FieldText& text, const std::string& term) {
-    if (term.empty()) return text.source->make_finder();
-    return Highlighting(*text.source, text.search->make_search({}), term).finder();
-}
-
-}  // namespace
+#include "tasks/EntryFinder.h"
 
 EntryFields::EntryFields(const CifEntry& entry, std::span<const Field> wanted,
-                         const std::string& term) {
+                         const EntryFinder* finder) {
     for (const Field& field : wanted) {
         const FieldText text = text_of(entry, field);
         if (text.text.empty()) continue;
         try {
-            fields.push_back({field.label, field.group, {finder_of(text, term), text.text}});
+            std::optional<EntryField> found;
+            if (finder) found = finder->matches_in(entry, field);
+            if (found) {
+                fields.push_back(std::move(*found));
+            } else {
+                fields.push_back(
+                    {field.label, field.group, {text.source->make_finder(), text.text}});
+            }
         } catch (const std::exception& error) {
-            Problem& problem = problems.emplace_back();
-            problem.block = std::string(entry.block.name());
-            problem.item = field.label;
-            problem.what = error.what();
+            problems.push_back(problem_of(entry, field, error));
         }
     }
+}
+
+Problem problem_of(const CifEntry& entry, const Field& field, const std::exception& error) {
+    Problem problem;
+    problem.block = std::string(entry.block.name());
+    problem.item = field.label;
+    problem.what = error.what();
+    return problem;
 }

@@ -41,34 +41,39 @@ void note_doubts_of_codes(const InputTextStyleFinder& finder, std::vector<Proble
     append_doubts_of(dynamic_cast<const CifTextStyleFinder&>(finder), problems);
 }
 
+bool may_hold_any(std::string_view /*text*/) { return true; }
+
+bool may_hold_tags(std::string_view text) { return text.find('<') != std::string_view::npos; }
+
 constexpr Source source_rows[] = {
     {"tevo-name",
      "a chemical name in the database's own mark-up: Greek letters spelled out, !2$ below and $2! "
      "above the line",
-     make<TevoChemicalNameStyleFinder>, nullptr, false},
+     make<TevoChemicalNameStyleFinder>, nullptr, false, may_hold_any},
     {"cif-name", "a chemical name in the text conventions of CIF files: \\a, ~2~, ^2^",
-     make<CifChemicalNameStyleFinder>, note_unknown_letters, false},
+     make<CifChemicalNameStyleFinder>, note_unknown_letters, false, CodedText::may_hold_codes},
     {"cif-text",
      "a text of a CIF file with all its codes: \\a, \\'e, \\\\times, ~2~, ^2^, <i>, &lt;",
-     make<CifTextStyleFinder>, note_doubts_of_codes, true},
+     make<CifTextStyleFinder>, note_doubts_of_codes, true, CodedText::may_hold_codes},
     {"unicode",
      "a text pasted from a page or a paper: Greek letters, raised and lowered characters",
-     make<UnicodeTextStyleFinder>, nullptr, true},
+     make<UnicodeTextStyleFinder>, nullptr, true, may_hold_any},
     {"formula", "a chemical formula: C6 H12 N1 O2 1+", make<TevoChemicalFormulaStyleFinder>,
-     nullptr, false},
+     nullptr, false, nullptr},
     {"cif-formula",
      "a chemical formula as CIF files write it: Na1.7 (P O2)4, C18 H18 N4 2+, 2(B F4 1-)",
-     make<CifFormulaStyleFinder>, nullptr, false},
+     make<CifFormulaStyleFinder>, nullptr, false, nullptr},
     {"spacegroup", "a space-group symbol: P2<sub>1</sub>/c, P<bar>1</bar>",
-     make<SpaceGroupStyleFinder>, nullptr, false},
+     make<SpaceGroupStyleFinder>, nullptr, false, may_hold_tags},
     {"cell-lengths", "cell lengths behind labels: a 5.1 b 7.25(1) c 9",
-     make<CombinedCellLengthsStyleFinder>, nullptr, false},
+     make<CombinedCellLengthsStyleFinder>, nullptr, false, nullptr},
     {"cell-angles", "cell angles behind labels: a 90 b 100.5(3) g 90", make<CellAngleStyleFinder>,
-     nullptr, false},
-    {"z", "formula units behind labels: Z: 4 Z': 1", make<Z_ZPrimeStyleFinder>, nullptr, false},
+     nullptr, false, nullptr},
+    {"z", "formula units behind labels: Z: 4 Z': 1", make<Z_ZPrimeStyleFinder>, nullptr, false,
+     nullptr},
     {"reference", "a literature reference: <j>Acta</j><v>57</v><y>2001</y><p>1</p>",
-     make<TevoPublicationStyleFinder>, nullptr, false},
-    {"plain", "text without mark-up", make<InputTextStyleFinder>, nullptr, false},
+     make<TevoPublicationStyleFinder>, nullptr, false, may_hold_tags},
+    {"plain", "text without mark-up", make<InputTextStyleFinder>, nullptr, false, nullptr},
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "entries/Problem.h"
@@ -16,6 +17,9 @@ struct Source {
     void (*note_doubts)(const InputTextStyleFinder& finder, std::vector<Problem>& problems);
     bool is_coded;  ///< Whether a reader sees much else than stands in the text: it is searched as
                     ///< it is shown.
+    /// Whether a reader may see else than stands in a text, ones in formulae and labels of cells
+    /// aside; null: never.
+    bool (*may_hold_codes)(std::string_view text);
 };
 
 std::span<const Source> sources();

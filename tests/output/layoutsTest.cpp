@@ -7,6 +7,8 @@
 #include "entries/EntryReader.h"
 #include "finders/InputTextStyleFinder.h"
 #include "output/TableLayout.h"
+#include "tasks/EntryFinder.h"
+#include "tasks/TermKind.h"
 #include "tasks/View.h"
 #include "tasks/row_named.h"
 
@@ -19,7 +21,10 @@ namespace {
 std::string shown(const std::string& cif, const char* output, const std::string& labels,
                   const std::string& term = "", bool own_file = false) {
     const EntryReader reader(cif);
-    const EntryFields fields(reader[0], fields_named(labels), term);
+    EntryFinder::Terms terms;
+    if (!term.empty()) terms.push_back(make_term(term, {}));
+    const EntryFinder finder(fields_named(labels), std::move(terms), {});
+    const EntryFields fields(reader[0], fields_named(labels), term.empty() ? nullptr : &finder);
     EXPECT_TRUE(fields.problems.empty());
     const auto layout =
         make_entry_layout(*row_named(show_outputs(), output), own_file, fields_named(labels));
@@ -58,6 +63,7 @@ TEST(EntryLayout, SetsTitlesAndRowsAsTheTargetWantsThem) {
               "\\item[{R-Factor (\\%)}] 3\n\\end{description}\n");
     EXPECT_EQ(shown(cif, "html5", "Synonym,Color", "aceton"),
               "f: data_b\n    Synonym: <b><span style=\"color:blue\">aceton</span></b>e\n"
+              "        found: 'aceton'\n"
               "    Color: red\n");
     const std::string page = shown(cif, "html5", "Color,Synonym", "", true);
     EXPECT_THAT(page, StartsWith("<!DOCTYPE html>\n"));

@@ -1,0 +1,134 @@
+#include "tasks/PlainTerm.h"
+
+#include <algorithm>
+
+#include "comparison/folding.h"
+#include "markup/Utf8.h"
+#include "tasks/row_named.h"
+#include "text/Position.h"
+
+namespace {
+
+bool is_of_word(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+
+std::string trimmed(std::string text) {
+    text.erase(0, std::min(text.find_first_not_of(' '), text.size()));
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
+}
+
+bool is_greek(char32_t code) { return code >= U'Ͱ' && code <= U'Ͽ'; }
+
+bool begins_with_greek(std::string_view text) {
+    return !text.empty() && is_greek(first_character(text).code);
+}
+
+bool ends_with_greek(std::string_view text) {
+    if (text.empty()) return false;
+    return begins_with_greek(text.substr(start_of_character(text, length_of(text) - 1)));
+}
+
+/// Whether the texts of the field are formulae.
+bool is_of_formulae(const Field& field) {
+    static const ComparisonKind* const kind = row_named(comparison_kinds(), "formula");
+    return field.comparison == kind;
+}
+
+/// Whether labels stand in the field's texts besides numbers.
+bool is_of_cells(const Field& field) {
+    static const Source* const kinds[] = {row_named(sources(), "cell-lengths"),
+                                          row_named(sources(), "cell-angles"),
+                                          row_named(sources(), "z")};
+    return std::find(std::begin(kinds), std::end(kinds), field.source) != std::end(kinds);
+}
+
+bool is_of_group(const Field& field) { return field.id == LMRFieldNames::space_group; }
+
+}  // namespace
+
+PlainTerm::PlainTerm(const std::string& written, const std::string& text,
+                     const TermSettings& settings, std::vector<Field> own_fields)
+    : Term(written, std::move(own_fields)),
+      text_(trimmed(text)),
+      folded_(trimmed(folded(text_, settings.folding))),
+      whole_words_(settings.whole_words),
+      begins_with_greek_(settings.folding.greek && begins_with_greek(text_)),
+      ends_with_greek_(settings.folding.greek && ends_with_greek(text_)),
+      number_(whole_number(folded_)) {
+    if (number_) return;
+    if (is_plain_formula(text_)) elements_ = elements_in(text_);
+    group_ = find_space_group(text_, 0, 0);
+    if (!elements_.empty() || group_.group) whole_words_ = true;
+}
+
+PlainTerm::~PlainTerm() = default;
+
+bool PlainTerm::may_stand_in(const Field& field) const {
+    return Term::may_stand_in(field) && (number_ || !is_of_cells(field));
+}
+
+void PlainTerm::find(const SearchedText& text, std::vector<StringSlice>& ranges) const {
+    if (!elements_.empty() && is_of_formulae(text.field())) {
+        const std::vector<StringSlice> places = places_of(elements_, text.shown());
+        ranges.insert(ranges.end(), places.begin(), places.end());
+    } else if (group_.group && is_of_group(text.field())) {
+        if (is_group_of(text.entry())) ranges.emplace_back(0, length_of(text.shown()));
+    } else if (number_) {
+        find_numbers(text.folded(), ranges);
+    } else {
+        find_words(text, ranges);
+    }
+}
+
+bool PlainTerm::is_group_of(const CifEntry& entry) const {
+    const SpaceGroupSetting own =
+        find_space_group(entry.entry->crystal_info->spacegroup.symbol, 0, 0);
+    return own.group && allows(group_, *own.group);
+}
+
+void PlainTerm::find_numbers(const FoldedText& text, std::vector<StringSlice>& ranges) const {
+    for (const WrittenNumber& number : numbers_in(text.text())) {
+        if (!number_->may_stand_for(number)) continue;
+        const StringSlice& place = number.place;
+        const unsigned int from = place.from() - (number_->is_negative ? 1 : 0);
+        const auto in_text = text.whole_characters({from, place.to()});
+        if (in_text) ranges.push_back(*in_text);
+    }
+}
+
+void PlainTerm::find_words(const SearchedText& text, std::vector<StringSlice>& ranges) const {
+    const FoldedText& whole = text.folded();
+    std::size_t at = whole.text().find(folded_);
+    while (at != std::string::npos) {
+        const StringSlice range(to_position(at), to_position(at + folded_.size()));
+        std::size_t next = at + 1;
+        if (whole.is_boundary(range.from()) && whole.is_boundary(range.to())) {
+            const StringSlice shown = whole.in_text(range);
+            if (stands_alone(text, range, shown)) {
+                ranges.push_back(shown);
+                next = range.to();
+            }
+        }
+        at = whole.text().find(folded_, next);
+    }
+}
+
+/// Whether what a range is beside is no part of the same word, as far as this matters.
+bool PlainTerm::stands_alone(const SearchedText& text, const StringSlice& folded,
+                             const StringSlice& shown) const {
+    const std::string& all = text.folded().text();
+    const std::string_view match =
+        std::string_view(text.shown()).substr(shown.from(), shown.length());
+    // The name of a letter is no part of a longer word, but the letter is.
+    const bool needs_begin = whole_words_ || (begins_with_greek_ && !begins_with_greek(match));
+    const bool needs_end = whole_words_ || (ends_with_greek_ && !ends_with_greek(match));
+    if (needs_begin && folded.from() > 0 && is_of_word(folded_.front()) &&
+        is_of_word(all[folded.from() - 1])) {
+        return false;
+    }
+    return !(needs_end && folded.to() < all.size() && is_of_word(folded_.back()) &&
+             is_of_word(all[folded.to()]));
+}

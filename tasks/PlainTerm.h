@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "entries/space_group_symbol.h"
+#include "tasks/Term.h"
+#include "tasks/elements_in_text.h"
+#include "tasks/numbers_in_text.h"
+
+/// A word, a part of one or several words, as they are folded. A number is one wherever it stands;
+/// a formula stands for elements of formulae and a space group's symbol for the group, and both
+/// for whole words elsewhere.
+class PlainTerm : public Term {
+public:
+    /// Looks for `text`, of which something is left when it is folded and its blanks are taken off
+    /// its ends.
+    PlainTerm(const std::string& written, const std::string& text, const TermSettings& settings,
+              std::vector<Field> own_fields = {});
+    ~PlainTerm() override;
+
+    /// Numbers alone stand in the fields of cells, beside labels that are none of their text.
+    bool may_stand_in(const Field& field) const override;
+    void find(const SearchedText& text, std::vector<StringSlice>& ranges) const override;
+
+private:
+    void find_numbers(const FoldedText& text, std::vector<StringSlice>& ranges) const;
+    void find_words(const SearchedText& text, std::vector<StringSlice>& ranges) const;
+    bool stands_alone(const SearchedText& text, const StringSlice& folded,
+                      const StringSlice& shown) const;
+    bool is_group_of(const CifEntry& entry) const;
+
+    std::string text_;    // without blanks around it
+    std::string folded_;  // what is looked for
+    bool whole_words_;
+    bool begins_with_greek_, ends_with_greek_;
+    std::optional<WrittenNumber> number_;   // in folded_
+    std::vector<WrittenElement> elements_;  // in text_; none: it is no formula
+    SpaceGroupSetting group_;               // null: it is none
+};

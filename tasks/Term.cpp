@@ -1,0 +1,13 @@
+#include "tasks/Term.h"
+
+#include <algorithm>
+
+Term::~Term() = default;
+
+bool Term::may_stand_in(const Field& field) const {
+    return own_fields_.empty() ||
+           std::any_of(own_fields_.begin(), own_fields_.end(),
+                       [&](const Field& own) { return own.label == field.label; });
+}
+
+bool Term::may_be_of(const CifEntry& /*entry*/) const { return true; }
