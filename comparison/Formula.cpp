@@ -42,7 +42,7 @@ void MoietyReader::take_element(Moiety& moiety) {
     scanner_.take_character();
     if (is_small(scanner_.next())) scanner_.take_character();
     const std::string_view symbol = scanner_.text().substr(from, scanner_.position() - from);
-    const bool may_be_ion = moiety.tokens.empty() || moiety.tokens.back().kind == Token::open;
+    const bool may_be_ion = moiety.tokens.empty() || moiety.tokens.back().kind == Token::opening;
     // The number of "Cu2+" is of the charge, that of "N H4+" is not.
     const Count count =
         may_be_ion ? scanner_.take_count_without_charge() : scanner_.take_count(false);
@@ -57,7 +57,7 @@ bool MoietyReader::take_closing_bracket(Moiety& moiety) {
     open_.pop_back();
     scanner_.take_character();
     const Count count = scanner_.take_count_without_charge();
-    moiety.tokens.push_back({Token::close, {}, scanner_.range_from(from), count});
+    moiety.tokens.push_back({Token::closing, {}, scanner_.range_from(from), count});
     return true;
 }
 
@@ -69,7 +69,7 @@ bool MoietyReader::take_part(Moiety& moiety) {
     } else if (is_opening(scanner_.next())) {
         open_.push_back(moiety.tokens.size());
         scanner_.take_character();
-        moiety.tokens.push_back({Token::open, {}, scanner_.range_from(from)});
+        moiety.tokens.push_back({Token::opening, {}, scanner_.range_from(from)});
     } else if (const std::optional<Count> charge = scanner_.take_charge()) {
         if (moiety.tokens.empty()) return false;
         moiety.charges.push_back(*charge);
@@ -84,7 +84,7 @@ bool MoietyReader::take_part(Moiety& moiety) {
 /// Drops the brackets around all of a moiety, whose count is a multiplier.
 void drop_outer_brackets(Moiety& moiety) {
     std::vector<Token>& tokens = moiety.tokens;
-    const bool is_enclosed = tokens.front().kind == Token::open &&
+    const bool is_enclosed = tokens.front().kind == Token::opening &&
                              tokens.back().range.from() == tokens.front().range.from();
     if (!is_enclosed || tokens.size() == 2) return;
     const Count& behind = tokens.back().count;
@@ -100,7 +100,7 @@ void drop_outer_brackets(Moiety& moiety) {
 bool add_totals(std::vector<Token>& tokens) {
     std::vector<Count> factors(1);
     for (auto token = tokens.rbegin(); token != tokens.rend(); ++token) {
-        if (token->kind == Token::open) {
+        if (token->kind == Token::opening) {
             factors.pop_back();
             continue;
         }
@@ -108,7 +108,7 @@ bool add_totals(std::vector<Token>& tokens) {
         product.value *= factors.back().value;
         product.is_known &= factors.back().is_known;
         if (!std::isfinite(product.value)) return false;
-        if (token->kind == Token::close) factors.push_back(product);
+        if (token->kind == Token::closing) factors.push_back(product);
         token->total = product.value;
         token->total_is_known = product.is_known;
     }

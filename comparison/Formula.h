@@ -19,7 +19,7 @@ struct Formula {
 
     /// An element or a bracket.
     struct Token {
-        enum Kind { element, open, close };
+        enum Kind { element, opening, closing };
         Kind kind;
         std::string_view symbol;  ///< "Cl"; empty for a bracket.
         StringSlice range;        ///< With the count; from the opening bracket to a closing one.
