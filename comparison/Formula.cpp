@@ -70,6 +70,8 @@ bool MoietyReader::take_part(Moiety& moiety) {
         open_.push_back(moiety.tokens.size());
         scanner_.take_character();
         moiety.tokens.push_back({Token::opening, {}, scanner_.range_from(from)});
+    } else if (!open_.empty() && scanner_.next() == ',') {  // "(Tl0.64,K0.36)"
+        scanner_.take_character();
     } else if (const std::optional<Count> charge = scanner_.take_charge()) {
         if (moiety.tokens.empty()) return false;
         moiety.charges.push_back(*charge);

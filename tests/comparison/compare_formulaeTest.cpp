@@ -30,6 +30,7 @@ TEST(CompareFormulae, FindsElementsMoietiesAndTheirOrder) {
         {"(C2 H4)n", "(C2 H4)x", "multiplier C2 H4 [7,8)/[7,8)"},
         {"Fe (C N)6 4-", "Fe (C N)6 3-", "charge Fe (C N)6 -4/-3 [10,12)/[10,12)"},
         {"K3 (Fe (C N)6)", "K3 (Fe (C N)5)", "multiplier 6/5 [12,13)/[12,13)"},
+        {"(Tl0.6,K0.4)Se", "(Tl0.6,K0.5)Se", "element K 0.4/0.5 [7,11)/[7,11)"},
         {"CuSO4.5H2O", "Cu S O4, 4(H2 O)", "multiplier H2 O 5/4 [6,7)/[9,10)"},
     };
     for (const auto& c : cases) EXPECT_EQ(found("formula", c.left, c.right), c.findings);
