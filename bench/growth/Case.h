@@ -36,3 +36,5 @@ inline std::string numbered(const std::string& unit, unsigned int times, unsigne
 std::vector<Case> style_cases();
 /// Those that search and read texts.
 std::vector<Case> text_cases();
+/// Those that compare texts.
+std::vector<Case> comparison_cases();

@@ -31,4 +31,5 @@ int main() {
     }
     for (const Case& c : style_cases()) run(c);
     for (const Case& c : text_cases()) run(c);
+    for (const Case& c : comparison_cases()) run(c);
 }

@@ -1,0 +1,68 @@
+#include <algorithm>
+#include <memory>
+
+#include "bench/growth/Case.h"
+#include "comparison/TextComparison.h"
+#include "finders/InputTextStyleFinder.h"
+
+namespace {
+
+using MakeText = std::function<std::string(unsigned int)>;
+
+Case compared(const std::string& kind, const std::string& name, unsigned int size,
+              const MakeText& make_left, const MakeText& make_right) {
+    const auto kinds = comparison_kinds();
+    const auto row = std::find_if(kinds.begin(), kinds.end(), [&](const ComparisonKind& candidate) {
+        return candidate.name == kind;
+    });
+    return {"compare " + name, size, [=](unsigned int n) -> Operation {
+                const auto item = [n](const MakeText& make) {
+                    return std::make_shared<TextItem>(make_handle<InputTextStyleFinder>(), make(n));
+                };
+                return [row, left = item(make_left), right = item(make_right)] {
+                    TextComparison(ComparedText(*left), ComparedText(*right), *row,
+                                   {row->equivalent});
+                };
+            }};
+}
+
+auto units(const std::string& unit, const std::string& end = "") {
+    return [=](unsigned int n) { return repeated(unit, n) + end; };
+}
+
+/// Names of letters, from the first of n on or from the last.
+MakeText authors(bool from_last) {
+    return [from_last](unsigned int n) {
+        std::string text;
+        for (unsigned int i = 0; i < n; ++i) {
+            text += "A.S";
+            for (unsigned int rest = from_last ? n - 1 - i : i; rest > 0; rest /= 20) {
+                text += static_cast<char>('a' + rest % 20);
+            }
+            text += "e, ";
+        }
+        return text;
+    };
+}
+
+}  // namespace
+
+std::vector<Case> comparison_cases() {
+    return {
+        compared("formula", "elements", 2000, units("Cl2 Br "), units("Br Cl3 ")),
+        compared(
+            "formula", "moieties", 500, [](unsigned int n) { return numbered("C#,", n); },
+            [](unsigned int n) { return numbered("H2 C#,", n); }),
+        compared(
+            "formula", "nested brackets", 2000,
+            [](unsigned int n) { return repeated("(", n) + "C" + repeated(")", n); },
+            [](unsigned int n) { return repeated("(", n) + "H" + repeated(")", n); }),
+        compared("authors", "authors reversed", 500, authors(false), authors(true)),
+        compared("authors", "equal authors", 500, units("A.Smith, "), units("B.Smith, ")),
+        compared("authors", "initials", 2000, units("A.", "Smith"), units("A.B.", "Smith")),
+        compared("reference", "words of a journal", 2000, units("Journal ", "(1, 2001), 2"),
+                 units("J. ", "(1, 2001), 2")),
+        compared("reference", "parentheses", 4000, units("(", "(1, 2001), 2"),
+                 units("(", ") (1, 2001), 2")),
+    };
+}
