@@ -66,8 +66,19 @@ bool EntryFinder::may_be_in(const CifEntry& entry) const {
 
 std::optional<EntryFinder::FoundField> EntryFinder::found_in(const CifEntry& entry,
                                                              const SearchedField& searched) const {
-    const SearchedText text(entry, searched.field, folding_);
-    if (text.shown().empty()) return std::nullopt;
+    const auto may_be_found = [&](auto may_find) {
+        return std::any_of(searched.terms.begin(), searched.terms.end(),
+                           [&](std::size_t i) { return may_find(*terms_[i]); });
+    };
+    const Field& field = searched.field;
+    if (!may_be_found([&](const Term& term) { return term.may_stand_in(entry, field); })) {
+        return std::nullopt;
+    }
+    const SearchedText text(entry, field, folding_);
+    const std::string* const skeleton = text.skeleton();
+    const bool may_stand =
+        !skeleton || may_be_found([&](const Term& term) { return term.may_stand_on(*skeleton); });
+    if (text.text().text.empty() || !may_stand) return std::nullopt;
     FoundField found{&searched.field, {}, false, {}, {}};
     std::vector<StringSlice> ranges;
     for (const std::size_t i : searched.terms) {

@@ -1,6 +1,8 @@
 #include "tasks/PlainTerm.h"
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 
 #include "comparison/folding.h"
 #include "markup/Utf8.h"
@@ -37,12 +39,54 @@ bool is_of_formulae(const Field& field) {
     return field.comparison == kind;
 }
 
-/// Whether labels stand in the field's texts besides numbers.
-bool is_of_cells(const Field& field) {
-    static const Source* const kinds[] = {row_named(sources(), "cell-lengths"),
-                                          row_named(sources(), "cell-angles"),
-                                          row_named(sources(), "z")};
-    return std::find(std::begin(kinds), std::end(kinds), field.source) != std::end(kinds);
+/// Whether there are numbers in the field's texts and nothing else but their labels.
+bool is_of_numbers(const Field& field) {
+    using Names = LMRFieldNames;
+    switch (field.id.value_or(Names::identifier)) {
+        case Names::cell_lengths:
+        case Names::cell_angles:
+        case Names::cell_volume:
+        case Names::reduced_cell_lengths:
+        case Names::reduced_cell_angles:
+        case Names::reduced_cell_volume:
+        case Names::temperature:
+        case Names::average_sigma:
+        case Names::r_factor:
+        case Names::z_zprime:
+        case Names::number_of_coordinates:
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// What the field says of the entry's cell or reduced cell, in numbers; none: not known.
+std::vector<double> values_in(const CifEntry& entry, const Field& field) {
+    using Names = LMRFieldNames;
+    const CrystalInfo& crystal = *entry.entry->crystal_info;
+    const auto& cell = crystal.cell;
+    const auto& reduced = crystal.reduced_cell;
+    if (field.id == Names::cell_lengths && cell)
+        return {cell->a.value, cell->b.value, cell->c.value};
+    if (field.id == Names::cell_angles && cell) {
+        return {cell->alpha.degrees.value, cell->beta.degrees.value, cell->gamma.degrees.value};
+    }
+    if (field.id == Names::reduced_cell_lengths && reduced)
+        return {reduced->a, reduced->b, reduced->c};
+    if (field.id == Names::reduced_cell_angles && reduced) {
+        return {reduced->alpha, reduced->beta, reduced->gamma};
+    }
+    return {};
+}
+
+/// Whether one of the values, written and rounded to so many decimals, may be the number; true
+/// where there are none.
+bool is_near_some(double number, std::size_t decimals, const std::vector<double>& values) {
+    constexpr double six_digits = 1e-5;  // with as many values without uncertainty are written
+    const double last_place = std::pow(10.0, -static_cast<double>(decimals));
+    return values.empty() || std::any_of(values.begin(), values.end(), [&](double value) {
+               return std::abs(value - number) <= last_place + six_digits * std::abs(value);
+           });
 }
 
 bool is_of_group(const Field& field) { return field.id == LMRFieldNames::space_group; }
@@ -58,6 +102,7 @@ PlainTerm::PlainTerm(const std::string& written, const std::string& text,
       begins_with_greek_(settings.folding.greek && begins_with_greek(text_)),
       ends_with_greek_(settings.folding.greek && ends_with_greek(text_)),
       number_(whole_number(folded_)) {
+    skeletons_ = number_ ? number_->first_digits() : std::vector{skeleton_of(folded_)};
     if (number_) return;
     if (is_plain_formula(text_)) elements_ = elements_in(text_);
     group_ = find_space_group(text_, 0, 0);
@@ -67,7 +112,19 @@ PlainTerm::PlainTerm(const std::string& written, const std::string& text,
 PlainTerm::~PlainTerm() = default;
 
 bool PlainTerm::may_stand_in(const Field& field) const {
-    return Term::may_stand_in(field) && (number_ || !is_of_cells(field));
+    return Term::may_stand_in(field) && (number_ || !is_of_numbers(field));
+}
+
+bool PlainTerm::may_stand_on(const std::string& skeleton) const {
+    return std::any_of(skeletons_.begin(), skeletons_.end(), [&](const std::string& own) {
+        return skeleton.find(own) != std::string::npos;
+    });
+}
+
+/// Numbers are compared with those of cells before these are written.
+bool PlainTerm::may_stand_in(const CifEntry& entry, const Field& field) const {
+    return !number_ ||
+           is_near_some(number_->value(), number_->decimals.size(), values_in(entry, field));
 }
 
 void PlainTerm::find(const SearchedText& text, std::vector<StringSlice>& ranges) const {

@@ -20,8 +20,10 @@ public:
               std::vector<Field> own_fields = {});
     ~PlainTerm() override;
 
-    /// Numbers alone stand in the fields of cells, beside labels that are none of their text.
+    /// Terms that are no numbers are not in fields of numbers, of which the labels are no text.
     bool may_stand_in(const Field& field) const override;
+    bool may_stand_on(const std::string& skeleton) const override;
+    bool may_stand_in(const CifEntry& entry, const Field& field) const override;
     void find(const SearchedText& text, std::vector<StringSlice>& ranges) const override;
 
 private:
@@ -31,8 +33,9 @@ private:
                       const StringSlice& shown) const;
     bool is_group_of(const CifEntry& entry) const;
 
-    std::string text_;    // without blanks around it
-    std::string folded_;  // what is looked for
+    std::string text_;                    // without blanks around it
+    std::string folded_;                  // what is looked for
+    std::vector<std::string> skeletons_;  // a text has one of them
     bool whole_words_;
     bool begins_with_greek_, ends_with_greek_;
     std::optional<WrittenNumber> number_;   // in folded_

@@ -17,9 +17,14 @@ struct Source {
     void (*note_doubts)(const InputTextStyleFinder& finder, std::vector<Problem>& problems);
     bool is_coded;  ///< Whether a reader sees much else than stands in the text: it is searched as
                     ///< it is shown.
-    /// Whether a reader may see else than stands in a text, ones in formulae and labels of cells
-    /// aside; null: never.
-    bool (*may_hold_codes)(std::string_view text);
+    /// What may be shown else than it stands in a text: ones in formulae and labels of cells aside.
+    enum class Codes {
+        none,     ///< Nothing.
+        marks,    ///< Marks of styles, and tags between < and >; letters and digits are shown as
+                  ///< they stand, but names of Greek letters may be shown as these.
+        letters,  ///< Letters too.
+    };
+    Codes (*codes_in)(std::string_view text);
 };
 
 std::span<const Source> sources();

@@ -11,3 +11,7 @@ bool Term::may_stand_in(const Field& field) const {
 }
 
 bool Term::may_be_of(const CifEntry& /*entry*/) const { return true; }
+
+bool Term::may_stand_on(const std::string& /*skeleton*/) const { return true; }
+
+bool Term::may_stand_in(const CifEntry& /*entry*/, const Field& /*field*/) const { return true; }

@@ -30,6 +30,10 @@ public:
     virtual bool may_stand_in(const Field& field) const;
     /// Whether the entry may have it: what can be told without its texts.
     virtual bool may_be_of(const CifEntry& entry) const;
+    /// Whether a text with that skeleton may hold it, as SearchedText::skeleton() has them.
+    virtual bool may_stand_on(const std::string& skeleton) const;
+    /// Whether a field of the entry may hold it: what can be told soon, and without its text.
+    virtual bool may_stand_in(const CifEntry& entry, const Field& field) const;
     /// Appends the ranges of the shown text that are it, ascending and disjoint. O(n) for n
     /// characters.
     virtual void find(const SearchedText& text, std::vector<StringSlice>& ranges) const = 0;

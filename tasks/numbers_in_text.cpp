@@ -85,6 +85,18 @@ bool WrittenNumber::may_stand_for(const WrittenNumber& other) const {
     return without_leading_zeros(digits) == without_leading_zeros(rounded(other, own.size()));
 }
 
+std::vector<std::string> WrittenNumber::first_digits() const {
+    std::string all(whole);
+    all += decimals;
+    std::string less = all;  // what is rounded up to it begins with one less
+    for (std::size_t i = less.size(); i-- > 0;) {
+        if (less[i]-- > '0') break;
+        less[i] = '9';
+    }
+    all.resize(whole.size() + decimals.find_last_not_of('0') + 1);
+    return {std::string(without_leading_zeros(all)), std::string(without_leading_zeros(less))};
+}
+
 std::vector<WrittenNumber> numbers_in(std::string_view text) {
     std::vector<WrittenNumber> numbers;
     for (std::size_t i = 0; i < text.size(); ++i) {

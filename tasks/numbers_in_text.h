@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,6 +22,9 @@ struct WrittenNumber {
     /// 11.141(2). Of numbers with uncertainties these count too. Short whole numbers, 2, are no
     /// rounded ones, and signs count where this one has one.
     bool may_stand_for(const WrittenNumber& other) const;
+    /// What the digits of each number that it may stand for begin with, zeros at the front aside;
+    /// of these each has one.
+    std::vector<std::string> first_digits() const;
 };
 
 /// All numbers of a text, from its front to its end; none begins within another. Its dashes are
