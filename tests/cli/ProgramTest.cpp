@@ -25,7 +25,8 @@ TEST_F(Program, ShowsAndComparesFiles) {
     const std::string some = " --fields \"z, z', author(s)\" " + data + "/2204347.cif";
     EXPECT_THAT(run("show --find Liao --to qt" + some).out,
                 EndsWith("data_2204347\n    Z, Z': <b>Z</b>: 3 <b>Z'</b>: 0.0833333\n"
-                         "    Author(s): W.<b><font color=blue>Liao</font></b>, R.Dronskowski\n"));
+                         "    Author(s): W.<b><font color=blue>Liao</font></b>, R.Dronskowski\n    "
+                         "    found: 'Liao'\n"));
     EXPECT_EQ(run("show -o entry.md" + some).err, "");
     EXPECT_THAT(contents(folder_ / "entry.md"), StartsWith("## "));
     EXPECT_EQ(run("show -o entry.json" + some).status, 0);
