@@ -25,8 +25,8 @@ TEST_F(Program, ShowsAndComparesFiles) {
     const std::string some = " --fields \"z, z', author(s)\" " + data + "/2204347.cif";
     EXPECT_THAT(run("show --find Liao --to qt" + some).out,
                 EndsWith("data_2204347\n    Z, Z': <b>Z</b>: 3 <b>Z'</b>: 0.0833333\n"
-                         "    Author(s): W.<b><font color=blue>Liao</font></b>, R.Dronskowski\n    "
-                         "    found: 'Liao'\n"));
+                         "    Author(s): W.<b><font color=blue>Liao</font></b>, R.Dronskowski\n"
+                         "        found: 'Liao'\n"));
     EXPECT_EQ(run("show -o entry.md" + some).err, "");
     EXPECT_THAT(contents(folder_ / "entry.md"), StartsWith("## "));
     EXPECT_EQ(run("show -o entry.json" + some).status, 0);
@@ -82,6 +82,32 @@ TEST_F(Program, ComparesWhatIsNamedAndPairsTheRest) {
     EXPECT_THAT(run("compare --ignore acent a.cif b.cif").err,
                 HasSubstr("no such reason: 'acent'; did you mean 'accent'?"));
     EXPECT_THAT(run("fields --policies").out, HasSubstr("\nFormula\tformula\t"));
+}
+
+TEST_F(Program, FindsEntries) {
+    const std::string all = " --no-progress " + data;
+    const Result done = run("find 'LIAO' --and year:2004 --and c1" + all);
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.err, "");
+    EXPECT_THAT(
+        done.out,
+        MatchesRegex(".*/2204347.cif: data_2204347\n"
+                     "    Formula: [^\n]*\n        found: 'c1' is C1\n"
+                     "    Literature Reference: [^\n]*\n        found: 'year:2004' is 2004\n"
+                     "    Author.s.: W.Liao, R.Dronskowski\n        found: 'LIAO' is Liao\n"));
+    EXPECT_EQ(run("find --count liao --jobs 2" + all).out, "1\n");
+    EXPECT_EQ(run("find --count liao --no-fold" + all).out, "0\n");
+    EXPECT_THAT(run("find --list group:P-1 " + all).out, MatchesRegex(".*/2014129.cif\n"));
+    EXPECT_THAT(run("find --to json --units utf16 liao" + all).out,
+                HasSubstr("{\n     \"term\": \"liao\",\n     \"from\": 2,\n     \"to\": 6,\n"
+                          "     \"reason\": \"'liao' is Liao\"\n    }"));
+    EXPECT_EQ(run("find nowhere" + all).status, 1);
+    EXPECT_EQ(run("find liao none.cif" + all).status, 2);
+    EXPECT_EQ(run("find liao").status, 2);
+    EXPECT_EQ(run("find year:now" + all).err,
+              "lmrtext: 'year:now' is no term; expected year:YEAR or FROM-TO\n");
+    EXPECT_EQ(run("find yaer:2004" + all).err,
+              "lmrtext: note: 'yaer:2004' is looked for as it is; did you mean 'year:'?\n");
 }
 
 TEST_F(Program, SaysInSentencesWhatIsWrong) {
