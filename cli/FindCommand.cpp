@@ -68,7 +68,6 @@ private:
         CLI::Option* const term = command.add_option("TERM", term_, help_text(kinds))->required();
         choices[term] = std::move(kinds);
         command.add_option("--and", others_, "Another term, which the entry must have too")
-            ->expected(1)
             ->allow_extra_args(false);
         add_field_options(command, choices, fields_, "internal");
         add_folding_options(command);
