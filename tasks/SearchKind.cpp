@@ -31,11 +31,10 @@ THandle<TextSearch> make_numeric_search(const SearchSettings& settings) {
     return make_handle<NumericComparison>(read_whole<double>(settings.tolerance).value());
 }
 
-template <CommonSubstringFinderAdapter::Effort effort>
 THandle<TextSearch> make_substring_search(const SearchSettings& settings) {
     return make_handle<CommonSubstringFinderAdapter>(ChemicalNameMatchStyleFinder::normalisation(),
                                                      settings.min_match_length, std::string(),
-                                                     effort);
+                                                     CommonSubstringFinderAdapter::Effort::limited);
 }
 
 bool any(const std::string& /*term*/) { return true; }
@@ -54,27 +53,23 @@ bool has_part(const std::string& term) {
     return false;
 }
 
-using Effort = CommonSubstringFinderAdapter::Effort;
-
 constexpr SearchKind kind_rows[] = {
-    {"exact", "the text, when it equals the term", false, make<EntireTextComparison>,
-     make<EntireTextComparison>, any},
+    {"exact", "the text, when it equals the term", false, make<EntireTextComparison>, any},
     {"lines", "lines that equal a line of the term; whole when it equals the term", true,
-     make_line_search, make_line_search, any},
+     make_line_search, any},
     {"numeric",
      "each number within --tolerance of the term's number of the same place; whole when all agree",
-     false, make_numeric_search, make_numeric_search, has_digit},
+     false, make_numeric_search, has_digit},
     {"surnames", "authors of the term, or their surnames; whole when it equals the term", false,
-     make<SurnameComparison>, make<SurnameComparison>, any},
+     make<SurnameComparison>, any},
     {"publication",
      "<j> journal, <y> year, <v> volume and <p> page that equal the term's; whole when all four "
      "agree",
-     false, make<CombinedPublicationComparisonSearch>, make<CombinedPublicationComparisonSearch>,
-     has_part},
+     false, make<CombinedPublicationComparisonSearch>, has_part},
     {"substring",
      "runs of --min-length characters or more that also stand in the term, blanks and punctuation "
      "aside; whole when it equals the term",
-     false, make_substring_search<Effort::limited>, make_substring_search<Effort::linear>, any},
+     false, make_substring_search, any},
 };
 
 }  // namespace

@@ -21,8 +21,6 @@ struct SearchKind {
     const char* help;
     bool keeps_lines;  ///< Line ends are no blanks to it, however texts are folded.
     THandle<TextSearch> (*make_search)(const SearchSettings& settings);
-    /// For whole texts as terms: the same search, or one like it that costs less.
-    THandle<TextSearch> (*make_comparison)(const SearchSettings& settings);
     /// Whether the term holds what the search looks for; otherwise all texts or none would match.
     bool (*takes)(const std::string& term);
 };
