@@ -4,12 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "finders/InputTextStyleFinder.h"
+#include "tasks/BracketedText.h"
 #include "tasks/styles_of.h"
-#include "text/ColorStyle.h"
-#include "text/GreekStyle.h"
 #include "text/Position.h"
-#include "text/ReplacementTextStyle.h"
 
 namespace {
 
@@ -161,76 +158,6 @@ private:
     std::vector<unsigned int> colored_from_;
 };
 
-/// Makes an item with brackets in its text: a style that covers the place of one goes on through
-/// it, what ends there ends before it and what begins there begins behind it.
-class BracketMarker {
-public:
-    BracketMarker(const std::string& text, const Marks& marks, DifferenceMarks::Side side) {
-        unsigned int done = 0;
-        const auto insert = [&](unsigned int position, std::string_view bracket) {
-            text_.append(text, done, position - done).append(bracket);
-            done = position;
-            places_.push_back(position);
-        };
-        for (const Mark& mark : marks) {
-            insert(mark.range.from(), opening[side]);
-            insert(mark.range.to(), closing[side]);
-        }
-        text_.append(text, done);
-    }
-
-    TextItem item(const Styles& styles) const {
-        TextItem item(make_handle<InputTextStyleFinder>(), text_);
-        for (const auto& style : styles) {
-            const unsigned int from = begin_of(style->from());
-            lay(*style, from, style->slice().empty() ? from : end_of(style->to()), item);
-        }
-        return item;
-    }
-
-private:
-    unsigned int begin_of(unsigned int position) const {
-        return moved(position, std::upper_bound(places_.begin(), places_.end(), position));
-    }
-    unsigned int end_of(unsigned int position) const {
-        return moved(position, std::lower_bound(places_.begin(), places_.end(), position));
-    }
-    unsigned int moved(unsigned int position,
-                       std::vector<unsigned int>::const_iterator next) const {
-        return position + bracket_size * static_cast<unsigned int>(next - places_.begin());
-    }
-
-    static void lay(const TextItemStyle& style, unsigned int from, unsigned int to,
-                    TextItem& item) {
-        switch (style.kind()) {
-            case Kind::bold:
-                return item.create_bold(from, to);
-            case Kind::italic:
-                return item.create_italic(from, to);
-            case Kind::overstrike:
-                return item.create_overstrike(from, to);
-            case Kind::invisible:
-                return item.create_invisible(from, to);
-            case Kind::subscript:
-                return item.create_subscript(from, to);
-            case Kind::superscript:
-                return item.create_superscript(from, to);
-            case Kind::greek:
-                return item.create_greek(from, to, dynamic_cast<const GreekStyle&>(style).symbol());
-            case Kind::replacement_text:
-                return item.create_replacement_text(
-                    from, to, dynamic_cast<const ReplacementTextStyle&>(style).replacement_text());
-            case Kind::color:
-            case Kind::other:
-                return;  // no field has them, and no such target shows them
-        }
-    }
-
-    static constexpr unsigned int bracket_size = 2;
-    std::string text_;
-    std::vector<unsigned int> places_;  // of brackets, in the text without them
-};
-
 }  // namespace
 
 DifferenceMarks::DifferenceMarks(const RichTextTarget& target) {
@@ -245,7 +172,11 @@ TextItem DifferenceMarks::marked(const TextItem& item, const std::vector<Finding
     const Styles styles = styles_of(item);
     const Marks marks = marks_of(item, styles, findings,
                                  side == left ? &Finding::left : &Finding::right, !has_styles_);
-    if (!has_styles_) return BracketMarker(item.characters(), marks, side).item(styles);
+    if (!has_styles_) {
+        std::vector<StringSlice> ranges;
+        for (const Mark& mark : marks) ranges.push_back(mark.range);
+        return BracketedText(item.characters(), ranges, opening[side], closing[side]).item(styles);
+    }
     const StyleMarker marker(styles);
     const TextItem::ColorName different = side == left ? TextItem::red : TextItem::green4;
     TextItem result = item;
