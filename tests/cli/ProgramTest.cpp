@@ -86,15 +86,16 @@ TEST_F(Program, ComparesWhatIsNamedAndPairsTheRest) {
 
 TEST_F(Program, FindsEntries) {
     const std::string all = " --no-progress " + data;
-    const Result done = run("find 'LIAO' --and year:2004 --and c1" + all);
+    const Result done = run("find 'LIAO' --and year:2004 --and C1" + all);
     EXPECT_EQ(done.status, 0);
     EXPECT_EQ(done.err, "");
     EXPECT_THAT(
         done.out,
         MatchesRegex(".*/2204347.cif: data_2204347\n"
-                     "    Formula: [^\n]*\n        found: 'c1' is C1\n"
+                     "    Formula: [^\n]*\n        found: 'C1' is C\n"
                      "    Literature Reference: [^\n]*\n        found: 'year:2004' is 2004\n"
-                     "    Author.s.: W.Liao, R.Dronskowski\n        found: 'LIAO' is Liao\n"));
+                     "    Author.s.: W.Liao, R.Dronskowski\n        found: 'LIAO' is Liao\n"
+                     "    Moiety Formula: [^\n]*\n        found: 'C1' is C\n"));
     EXPECT_EQ(run("find --count liao --jobs 2" + all).out, "1\n");
     EXPECT_EQ(run("find --count liao --no-fold" + all).out, "0\n");
     EXPECT_THAT(run("find --list group:P-1 " + all).out, MatchesRegex(".*/2014129.cif\n"));
