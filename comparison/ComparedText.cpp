@@ -1,7 +1,9 @@
 #include "comparison/ComparedText.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "markup/Utf8.h"
 #include "text/Position.h"
 #include "text/TextAtom.h"
 
@@ -33,4 +35,25 @@ void ComparedText::add_script(const Script& script) {
 std::string_view ComparedText::written(const StringSlice& shown) const {
     const StringSlice place = in_item(shown);
     return std::string_view(item_.characters()).substr(place.from(), place.length());
+}
+
+std::string ComparedText::shown_with_bars(const StringSlice& in_item) const {
+    constexpr std::string_view overline = "\u0305";
+    const StringSlice place = displayed_.shown(in_item, DisplayedText::bytes);
+    std::string text;
+    unsigned int from = place.from();
+    const auto copy_up_to = [&](unsigned int end) {
+        text += shown().substr(from, end - from);
+        from = end;
+    };
+    for (const Script& script : scripts_) {
+        if (!script.is_barred || !script.place.overlaps(place)) continue;
+        copy_up_to(std::max(from, script.place.from()));
+        for (const unsigned int end = std::min(place.to(), script.place.to()); from < end;) {
+            copy_up_to(from + to_position(end_of_character(shown().substr(from, end - from))));
+            text += overline;
+        }
+    }
+    copy_up_to(place.to());
+    return text;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -36,6 +37,8 @@ public:
     }
     /// What stands in the item's text for that range of the shown one.
     std::string_view written(const StringSlice& shown) const;
+    /// What is shown for a range of the item's text, with overlines on what is barred.
+    std::string shown_with_bars(const StringSlice& in_item) const;
 
 private:
     void add_script(const Script& script);

@@ -120,7 +120,7 @@ void judge(Finding& finding, const WrittenNumber& left, const WrittenNumber& rig
     const double half_unit =
         are_counts ? printed * larger : 0.5 * std::max(left.last_place, right.last_place);
     bool is_within = difference <= half_unit * (1 + rounding) && combined == 0;
-    finding.limit = combined > 0 ? policy.sigmas : half_unit;
+    if (combined > 0 || !are_counts) finding.limit = combined > 0 ? policy.sigmas : half_unit;
     if (combined > 0 && std::isfinite(difference / combined)) {
         finding.sigmas = difference / combined;
         is_within = *finding.sigmas <= policy.sigmas * (1 + rounding);

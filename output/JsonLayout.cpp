@@ -69,7 +69,6 @@ public:
         json["markup"] = item_.mark_up_text(generator);
         json["atoms"] = atoms_of(item_, tells_ ? &teller_ : nullptr);
     }
-    const DisplayedText& displayed() const { return displayed_; }
     StringSlice told(const StringSlice& range) const { return teller_.told(range); }
 
 private:
@@ -96,7 +95,8 @@ const char* verdict_of(const Finding& finding) {
 }
 
 /// One finding, with what it has.
-Json json_of(const Finding& finding, const Text& left, const Text& right) {
+Json json_of(const Finding& finding, const Text& left, const Text& right,
+             const FindingSentences& sentences) {
     const FindingReason& reason = reason_of(finding);
     Json json{{"kind", name_of(reason.kind)},
               {"reason", reason.name},
@@ -114,7 +114,7 @@ Json json_of(const Finding& finding, const Text& left, const Text& right) {
         if (number) json[name] = *number;
     }
     if (finding.is_coarse) json["coarse"] = true;
-    json["sentence"] = FindingSentences(left.displayed(), right.displayed()).clause(finding);
+    json["sentence"] = sentences.clause(finding);
     return json;
 }
 
@@ -126,8 +126,11 @@ Json json_of(const ComparedField& field, const std::optional<TextPositions>& pos
               {"left", nullptr},      {"right", nullptr},     {"findings", Json::array()}};
     if (field.left) left.emplace(*field.left, positions).write_to(json["left"], generator);
     if (field.right) right.emplace(*field.right, positions).write_to(json["right"], generator);
+    if (field.findings.empty()) return json;
+    const ComparedText left_side(*field.left), right_side(*field.right);
+    const FindingSentences sentences(left_side, right_side);
     for (const Finding& finding : field.findings) {
-        json["findings"].push_back(json_of(finding, *left, *right));
+        json["findings"].push_back(json_of(finding, *left, *right, sentences));
     }
     return json;
 }

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "finders/InputTextStyleFinder.h"
-#include "markup/DisplayedText.h"
 #include "output/finding_sentences.h"
 #include "output/match_reason.h"
 #include "text/TextItem.h"
@@ -59,7 +58,7 @@ std::string LineLayout::comparison(const Side& left, const Side& right, PairingR
 /// The two texts of a field, and why they differ.
 void LineLayout::append_differences(std::string& lines, const ComparedField& field) const {
     const bool is_equivalent = field.verdict == Verdict::equivalent;
-    const DisplayedText left(*field.left), right(*field.right);
+    const ComparedText left(*field.left), right(*field.right);
     append_row(lines, is_equivalent ? "~ " : "< ", field.label,
                marks_.marked(*field.left, field.findings, DifferenceMarks::left)
                    .mark_up_text(*generator_));

@@ -2,7 +2,6 @@
 
 #include <string_view>
 
-#include "markup/DisplayedText.h"
 #include "output/comparison_summary.h"
 #include "output/finding_sentences.h"
 #include "output/match_reason.h"
@@ -29,7 +28,7 @@ constexpr char section_foot[] = "</section>\n";
 std::string reasons_of(const ComparedField& field) {
     if (!field.left || !field.right) return words_of(field.verdict);
     if (field.findings.empty()) return {};
-    const DisplayedText left(*field.left), right(*field.right);
+    const ComparedText left(*field.left), right(*field.right);
     return FindingSentences(left, right).reasons(field.findings);
 }
 

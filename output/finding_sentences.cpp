@@ -1,5 +1,6 @@
 #include "output/finding_sentences.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -121,7 +122,10 @@ std::string limit_of(const Finding& finding) {
     std::string text;
     const bool is_within = finding.reason == Reason::number_within_limit;
     if (finding.sigmas) {
-        text = ", " + printed(*finding.sigmas, 2) + " \u03C3 apart";
+        // Of many, none is worth a decimal.
+        const int digits = *finding.sigmas < 100 ? 2 : all_digits;
+        const double sigmas = *finding.sigmas < 100 ? *finding.sigmas : std::round(*finding.sigmas);
+        text = ", " + printed(sigmas, digits) + " \u03C3 apart";
     } else if (finding.left_number && finding.right_number) {
         const double apart = std::abs(*finding.left_number - *finding.right_number);
         text = ", " + printed(apart, 4) + " apart";
@@ -175,6 +179,13 @@ bool tells_of_one_side(const Finding& finding) {
            finding.left.empty() != finding.right.empty();
 }
 
+/// Without the commas and blanks of a list in which it stands.
+std::string_view without_list_signs(std::string_view text) {
+    constexpr std::string_view signs = " ,;";
+    text.remove_prefix(std::min(text.find_first_not_of(signs), text.size()));
+    return text.substr(0, text.find_last_not_of(signs) + 1);
+}
+
 bool is_blank(std::string_view text) {
     return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
@@ -190,15 +201,18 @@ std::string one_sided(std::string_view noun, std::string_view text, const char* 
 }  // namespace
 
 std::string FindingSentences::clause(const Finding& finding) const {
-    const auto shown = [](const DisplayedText& text, const StringSlice& range) {
-        const StringSlice place = text.shown(range, DisplayedText::bytes);
-        return std::string_view(text.text()).substr(place.from(), place.length());
-    };
-    const std::string_view left = shown(left_, finding.left), right = shown(right_, finding.right);
+    const std::string left_text = left_.shown_with_bars(finding.left);
+    const std::string right_text = right_.shown_with_bars(finding.right);
+    std::string_view left = left_text, right = right_text;
+    if (reason_of(finding).kind == Finding::Kind::number) {
+        left = without_list_signs(left);
+        right = without_list_signs(right);
+    }
     const Row& row = rows[static_cast<std::size_t>(finding.reason)];
     const std::string_view pattern = row.clause;
     std::string clause;
-    if (reason_of(finding).kind == Finding::Kind::number && !finding.subject.empty()) {
+    if (finding.left_number && finding.right_number && !finding.subject.empty() &&
+        reason_of(finding).kind == Finding::Kind::number) {
         clause = finding.subject + ": ";
     }
     if (!tells_of_one_side(finding)) {

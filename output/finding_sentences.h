@@ -3,14 +3,14 @@
 #include <string>
 #include <vector>
 
+#include "comparison/ComparedText.h"
 #include "comparison/Finding.h"
-#include "markup/DisplayedText.h"
 
 /// Says in plain English in what two texts of a field differ.
 class FindingSentences {
 public:
     /// Refers to both.
-    FindingSentences(const DisplayedText& left, const DisplayedText& right)
+    FindingSentences(const ComparedText& left, const ComparedText& right)
         : left_(left), right_(right) {}
 
     /// One clause: "H 40 against 39". What it quotes is text as it is shown.
@@ -20,5 +20,5 @@ public:
     std::string reasons(const std::vector<Finding>& findings) const;
 
 private:
-    const DisplayedText &left_, &right_;
+    const ComparedText &left_, &right_;
 };

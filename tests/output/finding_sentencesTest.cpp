@@ -3,15 +3,14 @@
 #include <gmock/gmock.h>
 
 #include "finders/InputTextStyleFinder.h"
+#include "finders/SpaceGroupStyleFinder.h"
 #include "text/Position.h"
 
 using Reason = Finding::Reason;
 
 namespace {
 
-DisplayedText plain(const std::string& text) {
-    return DisplayedText(TextItem(make_handle<InputTextStyleFinder>(), text));
-}
+TextItem plain(const std::string& text) { return {make_handle<InputTextStyleFinder>(), text}; }
 
 /// Of a finding that is about all of both texts.
 Finding whole(Reason reason, const std::string& left, const std::string& right) {
@@ -49,6 +48,9 @@ TEST(FindingSentences, SayWhatDiffersInOneClause) {
          .5},
         {Reason::number_beyond_limit, "5(1)", "10(1)",
          "5(1) against 10(1), 3.5 σ apart, beyond 3 σ", "", 5, 10, 3.54, 3},
+        {Reason::number_beyond_limit, "5(1)", "900(1)", "5(1) against 900(1), 633 σ apart", "", 5,
+         900, 632.9},
+        {Reason::number_missing, ", 0.3 mm", "", "0.3 mm left out", "", .3},
         {Reason::element, "H40", "H39", "H 40 against 39", "H", 40, 39},
         {Reason::element, "Cl", "", "Cl 1 against none", "Cl", 1, 0},
         {Reason::charge, "", "", "charge of C6 H6 +1 against -2", "C6 H6", 1, -2},
@@ -61,7 +63,8 @@ TEST(FindingSentences, SayWhatDiffersInOneClause) {
          "'xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx…' left out"},
     };
     for (const auto& c : cases) {
-        const DisplayedText left = plain(c.left), right = plain(c.right);
+        const TextItem left_item = plain(c.left), right_item = plain(c.right);
+        const ComparedText left(left_item), right(right_item);
         Finding finding = whole(c.reason, c.left, c.right);
         finding.subject = c.subject;
         finding.left_number = c.left_number;
@@ -72,8 +75,17 @@ TEST(FindingSentences, SayWhatDiffersInOneClause) {
     }
 }
 
+TEST(FindingSentences, ShowBars) {
+    const TextItem left(make_handle<SpaceGroupStyleFinder>(), "P<bar>3</bar>m1");
+    const TextItem right = plain("P1");
+    const ComparedText left_side(left), right_side(right);
+    const Finding finding{Reason::group, {0, length_of(left.characters())}, {0, 2}};
+    EXPECT_EQ(FindingSentences(left_side, right_side).clause(finding), "P3\u0305m1 against P1");
+}
+
 TEST(FindingSentences, NameTheFirstFewAndWhatCountsBeforeTheRest) {
-    const DisplayedText text = plain("abcdef");
+    const TextItem item = plain("abcdef");
+    const ComparedText text(item);
     std::vector<Finding> findings;
     for (unsigned int i = 0; i < 3; ++i) {
         findings.push_back({Reason::deletion, {i, i + 1}, {i, i}});

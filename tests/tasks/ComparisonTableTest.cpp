@@ -1,13 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <array>
 #include <fstream>
+#include <iostream>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "comparison/TextComparison.h"
-#include "markup/DisplayedText.h"
+#include "markup/RichTextGenerator.h"
+#include "markup/RichTextTarget.h"
+#include "tasks/DifferenceMarks.h"
 #include "tasks/EntryComparison.h"
 #include "tasks/View.h"
 #include "tasks/row_named.h"
@@ -35,24 +38,13 @@ std::vector<Row> rows_of(const std::string& path) {
     return rows;
 }
 
-/// The text as it is shown, with signs around what differs.
+/// As plain text has it.
 std::string marked(const TextItem& item, const std::vector<Finding>& findings,
-                   const StringSlice Finding::*side, const char* before, const char* behind) {
-    std::vector<StringSlice> ranges;
-    for (const Finding& finding : findings) {
-        if (!(finding.*side).empty()) ranges.push_back(finding.*side);
-    }
-    std::sort(ranges.begin(), ranges.end());
-    const DisplayedText displayed(item);
-    std::string result;
-    unsigned int end = 0;
-    for (const StringSlice& range : ranges) {
-        const StringSlice shown = displayed.shown(range, DisplayedText::bytes);
-        result.append(displayed.text(), end, shown.from() - end).append(before);
-        result.append(displayed.text(), shown.from(), shown.length()).append(behind);
-        end = shown.to();
-    }
-    return result.append(displayed.text(), end, std::string::npos);
+                   DifferenceMarks::Side side) {
+    const RichTextTarget& target = rich_text_target_for(RichTextTarget::Use::plain_terminal);
+    return DifferenceMarks(target)
+        .marked(item, findings, side)
+        .mark_up_text(*target.make_generator());
 }
 
 Row compared(const Row& row) {
@@ -69,18 +61,33 @@ Row compared(const Row& row) {
         if (!result.reasons.empty()) result.reasons += ", ";
         result.reasons += reason_of(finding).name;
     }
-    result.left_marked = marked(left, comparison.findings, &Finding::left, "[-", "-]");
-    result.right_marked = marked(right, comparison.findings, &Finding::right, "{+", "+}");
+    result.left_marked = marked(left, comparison.findings, DifferenceMarks::left);
+    result.right_marked = marked(right, comparison.findings, DifferenceMarks::right);
     return result;
+}
+
+/// The page's part that shows the table, a table for each field.
+std::string as_page(const std::vector<Row>& rows) {
+    std::string page, field;
+    for (const Row& row : rows) {
+        if (row.field != field) {
+            page.append("\n### ").append(row.field).append("\n\n");
+            page += "| left | right | verdict | reasons |\n| --- | --- | --- | --- |\n";
+            field = row.field;
+        }
+        page.append("| `").append(row.left_marked).append("` | `").append(row.right_marked);
+        page.append("` | ").append(row.verdict).append(" | ").append(row.reasons).append(" |\n");
+    }
+    return page;
 }
 
 }  // namespace
 
 // Each was read by eye: a row that changes is a judgement that changes.
-TEST(ComparisonTable, Holds) {
+TEST(ComparisonTable, HoldsAndIsTheOneOfThePage) {
     const std::vector<Row> rows = rows_of(COMPARISONS);
     EXPECT_GE(rows.size(), 80U);
-    std::ostringstream anew;
+    std::string anew;
     for (const Row& row : rows) {
         const Row now = compared(row);
         EXPECT_EQ(now.verdict, row.verdict) << row.left << " / " << row.right;
@@ -88,10 +95,13 @@ TEST(ComparisonTable, Holds) {
         EXPECT_EQ(now.left_marked, row.left_marked);
         EXPECT_EQ(now.right_marked, row.right_marked);
         for (const std::string& column : {now.field, now.source, now.left, now.right, now.verdict,
-                                          now.reasons, now.left_marked}) {
-            anew << column << '\t';
+                                          now.reasons, now.left_marked, now.right_marked}) {
+            anew.append(column) += '\t';
         }
-        anew << now.right_marked << '\n';
+        anew.back() = '\n';
     }
-    if (HasFailure()) std::cout << "The table as it would be:\n" << anew.str();
+    std::ifstream file(COMPARISON_PAGE);
+    const std::string page{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_TRUE(page.ends_with(as_page(rows))) << "It should end with:\n" << as_page(rows);
+    if (HasFailure()) std::cout << "The table as it would be:\n" << anew;
 }
