@@ -21,8 +21,10 @@ public:
                 std::vector<StringSlice>& b_matches, unsigned int min_match_length) const;
 
     /// The b side of all matches, merged where they overlap and not where they only touch, in
-    /// ascending order. Throws and costs what search() does, in the memory of a and b; throws
-    /// std::length_error when it would compare more characters than `most_compared`.
+    /// ascending order. Most matches are not looked at: O(|a| + |b|) on the average for usual
+    /// texts, and where a repeats one period; what search() costs for others that are full of
+    /// repetitions. Throws what search() throws, and std::length_error when it would compare more
+    /// characters than `most_compared`.
     std::vector<StringSlice> matched_stretches(
         const std::string& a, const std::string& b, unsigned int min_match_length,
         std::uint64_t most_compared = std::numeric_limits<std::uint64_t>::max()) const;

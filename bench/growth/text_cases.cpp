@@ -105,6 +105,10 @@ std::vector<Case> text_cases() {
     return {
         searched("substrings, one letter", 4000, substrings, units("a"), units("a", "b")),
         searched("substrings, one period", 2000, substrings, units("ab"), units("ab", "c")),
+        searched("substrings, two periods", 4000, substrings, units("ab"), units("abc")),
+        searched("substrings, two periods apart", 4000, substrings, units("abbaaa"),
+                 units("abaaa")),
+        searched("substrings, letters", 4000, substrings, numbers("x#"), numbers("#x", 3)),
         searched("substrings, none alike", 2000, substrings, numbers("x#"), units("abcd")),
         searched("common runs, two periods", 4000, common_runs, units("ab"), units("abc")),
         searched("common runs, letters", 2000, common_runs, numbers("x#"), numbers("#x", 3)),

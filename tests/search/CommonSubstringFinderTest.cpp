@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "search/CommonSubstringFinderAdapter.h"
@@ -45,17 +46,50 @@ TEST(CommonSubstringFinder, EqualsTheSlowSearchOnAllShortStrings) {
     }
 }
 
+/// A text of `period` letters again and again, whose every so manieth one may be another.
+static std::string repetition(Random& random, unsigned int length, unsigned int period,
+                              unsigned int letters) {
+    std::string text;
+    const unsigned int slips = random() % 2 == 0 ? 0 : 1 + length / 4;
+    while (text.size() < length) {
+        const bool any = text.size() < period || (slips > 0 && random() % slips == 0);
+        text += any ? "a\0\x80\xFF"[random() % letters] : text[text.size() - period];
+    }
+    return text;
+}
+
 TEST(CommonSubstringFinder, EqualsTheSlowSearchOnLongStrings) {
     Random random(1);
-    for (unsigned int round = 0; round < 60; ++round) {
+    for (unsigned int round = 0; round < 400; ++round) {
+        const unsigned int letters = 1 + random() % 4;
         std::string strings[2];
         for (std::string& s : strings) {
-            const unsigned int period = 1 + random() % (round % 2 == 0 ? 9 : 150);
-            for (unsigned int n = random() % 200; s.size() < n;) {
-                s += s.size() < period ? "a\0\x80\xFF"[random() % 4] : s[s.size() - period];
-            }
+            s = repetition(random, random() % 200, 1 + random() % (round % 2 == 0 ? 9 : 150),
+                           letters);
         }
         compare_slowly(strings[0], strings[1], 1 + random() % 9);
+        if (HasFatalFailure()) return;
+    }
+}
+
+// Long enough for matches to be found otherwise than by going through all.
+TEST(CommonSubstringFinder, MergesAllThatTheSearchFinds) {
+    Random random(2);
+    for (unsigned int round = 0; round < 50; ++round) {
+        const unsigned int letters = 2 + random() % 3;
+        const unsigned int longest_period = round % 3 == 0 ? 10 : 2000;
+        const auto text = [&] {
+            return repetition(random, 1500, 1 + random() % longest_period, letters);
+        };
+        const std::string a = text();
+        const std::string b = round % 4 == 0 ? a.substr(random() % 50) + text() : text();
+        const unsigned int min_length = 1 + random() % 6;
+        const CommonSubstringFinder finder;
+        std::vector<StringSlice> in_a, in_b;
+        finder.search(a, b, in_a, in_b, min_length);
+        std::vector<StringSlice> merged = StringSliceReducer(in_b.begin(), in_b.end()).slices();
+        std::sort(merged.begin(), merged.end());
+        ASSERT_EQ(finder.matched_stretches(a, b, min_length), merged) << round;
     }
 }
 
@@ -78,18 +112,21 @@ TEST(CommonSubstringFinderAdapter, MarksWhatIsCommonOnceNormalised) {
 
 TEST(CommonSubstringFinderAdapter, SpendsOnRepetitionsWhatItMay) {
     using Effort = CommonSubstringFinderAdapter::Effort;
-    std::string term, text;
-    for (int n = 0; n < 20000; ++n) {
-        term += "ab";
-        text += "abc";
-    }
-    const auto found = [&](Effort effort) {
+    const auto found = [&](const std::string& term, const std::string& text, Effort effort) {
         std::vector<StringSlice> slices;
         CommonSubstringFinderAdapter({0, ""}, 2, term, effort).search(text, slices);
         return slices.size();
     };
-    EXPECT_EQ(found(Effort::linear), 20000U);
-    EXPECT_THROW(found(Effort::limited), std::length_error);
+    std::string ab, abc, runs;
+    Random random(1);
+    for (unsigned int n = 0; n < 20000; ++n) {
+        ab += "ab";
+        abc += "abc";
+        runs.append(1 + random() % 3, 'a').append("b");
+    }
+    EXPECT_EQ(found(ab, abc, Effort::limited), 20000U);
+    EXPECT_EQ(found(ab, abc, Effort::linear), 20000U);
+    EXPECT_THROW(found(runs, ab, Effort::limited), std::length_error);
     std::vector<StringSlice> slices;
     CommonSubstringFinderAdapter({0, ""}, 3, "abab", Effort::linear).search("ababab", slices);
     EXPECT_EQ(slices, (std::vector<StringSlice>{{0, 6}}));  // the matches alone: {0, 4}
