@@ -3,7 +3,12 @@
 
 #include "bench/growth/Case.h"
 #include "comparison/TextComparison.h"
+#include "entries/EntryReader.h"
+#include "finders/CifTextStyleFinder.h"
 #include "finders/InputTextStyleFinder.h"
+#include "tasks/DifferenceMarks.h"
+#include "tasks/EntryPairing.h"
+#include "tasks/row_named.h"
 
 namespace {
 
@@ -45,6 +50,49 @@ MakeText authors(bool from_last) {
     };
 }
 
+/// Every other character marked, within and beside styles.
+Case marked(const char* target) {
+    return {std::string("marks in ") + target, 500, [target](unsigned int size) -> Operation {
+                const RichTextTarget& row = *row_named(rich_text_targets(), target);
+                const auto item = std::make_shared<TextItem>(make_handle<CifTextStyleFinder>(),
+                                                             repeated("<i>ab</i>~2~", size));
+                std::vector<Finding> findings;
+                for (unsigned int i = 0; i < 6 * size; ++i) {
+                    const StringSlice range(2 * i, 2 * i + 1);
+                    findings.push_back({Finding::Reason::replacement, range, range});
+                }
+                return [&row, item, findings] {
+                    DifferenceMarks(row).marked(*item, findings, DifferenceMarks::left);
+                };
+            }};
+}
+
+/// Entries of one composition in nearly one cell, on two sides without a common identifier.
+Case paired() {
+    return {"pairs of near cells", 200, [](unsigned int size) -> Operation {
+                const auto entries = std::make_shared<std::vector<EntryTexts>>();
+                for (unsigned int i = 0; i < 2 * size; ++i) {
+                    const std::string cif =
+                        "data_x _chemical_formula_sum C _cell_length_a 5." +
+                        std::to_string(100000 + i) +
+                        " _cell_length_b 6 _cell_length_c 7 _cell_angle_alpha 90 "
+                        "_cell_angle_beta 90 _cell_angle_gamma 90 "
+                        "_symmetry_space_group_name_H-M P1 ";
+                    entries->emplace_back("f" + std::to_string(i), EntryReader(cif)[0],
+                                          std::span<const Field>());
+                }
+                return [entries] {
+                    EntryPairing pairing;
+                    for (std::size_t i = 0; i < entries->size(); ++i) {
+                        EntryTexts& entry = (*entries)[i];
+                        pairing.add(i % 2 == 0 ? EntryPairing::left : EntryPairing::right, entry,
+                                    entry.file);
+                    }
+                    pairing.finish();
+                };
+            }};
+}
+
 }  // namespace
 
 std::vector<Case> comparison_cases() {
@@ -64,5 +112,8 @@ std::vector<Case> comparison_cases() {
                  units("J. ", "(1, 2001), 2")),
         compared("reference", "parentheses", 4000, units("(", "(1, 2001), 2"),
                  units("(", ") (1, 2001), 2")),
+        marked("unicode"),
+        marked("html5"),
+        paired(),
     };
 }
