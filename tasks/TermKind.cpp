@@ -1,7 +1,6 @@
 #include "tasks/TermKind.h"
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -10,6 +9,7 @@
 #include "entries/space_group_symbol.h"
 #include "tasks/AskedCell.h"
 #include "tasks/FieldTerm.h"
+#include "tasks/NumberRange.h"
 #include "tasks/PlainTerm.h"
 #include "tasks/View.h"
 #include "tasks/nearest_word.h"
@@ -130,32 +130,6 @@ Made make_cell(const TermKind& kind, const std::string& written, const std::stri
     };
     return std::make_unique<FieldTerm>(written, fields_of(kind), find, may_be_of);
 }
-
-/// From a number to a number; one alone is that number, however many digits a text has of it.
-struct NumberRange {
-    double from = 0, to = std::numeric_limits<double>::infinity();
-    std::string alone;  // empty: a range
-
-    static std::optional<NumberRange> read(const std::string& value) {
-        const std::size_t dash = value.find('-');
-        NumberRange range;
-        if (dash == std::string::npos) {
-            range.alone = value;
-            if (!whole_number(range.alone)) return std::nullopt;
-            return range;
-        }
-        const std::string from = value.substr(0, dash), to = value.substr(dash + 1);
-        if (!from.empty()) range.from = read_whole<double>(from).value_or(-1);
-        if (!to.empty()) range.to = read_whole<double>(to).value_or(-1);
-        const bool is_range = range.from >= 0 && range.from <= range.to && value.size() > 1;
-        return is_range ? std::optional(range) : std::nullopt;
-    }
-
-    bool contains(const WrittenNumber& number) const {
-        if (!alone.empty()) return whole_number(alone)->may_stand_for(number);
-        return from <= number.value() && number.value() <= to;
-    }
-};
 
 /// The first number of a text.
 Made make_number(const TermKind& kind, const std::string& written, const std::string& value,
