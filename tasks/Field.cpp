@@ -102,13 +102,6 @@ std::string FieldText::shown() const {
 
 FieldText text_of(const CifEntry& entry, const Field& field) {
     const EntryText* const text = entry.text(field.label);
-    if (!text) {
-        return {field.id ? FieldTextSupplier(*field.id).text(entry.entry) : "", field.source,
-                field.search, true};
-    }
-    const Source* const source = row_named(sources(), text->source);
-    // To the search of publications all texts without their tags are equal.
-    const bool lacks_tags = field.id == Names::literature_reference && source != field.source;
-    return {text->text, source, lacks_tags ? row_named(search_kinds(), "exact") : field.search,
-            false};
+    if (text) return {text->text, row_named(sources(), text->source), false};
+    return {field.id ? FieldTextSupplier(*field.id).text(entry.entry) : "", field.source, true};
 }

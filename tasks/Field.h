@@ -27,10 +27,9 @@ const Field& field_of(LMRFieldNames::TextID id);
 
 /// What an entry has of a field.
 struct FieldText {
-    std::string text;          ///< Empty: nothing.
-    const Source* source;      ///< The kind of text that it is.
-    const SearchKind* search;  ///< How it is searched.
-    bool is_of_records;        ///< Made of the entry's records, and not as the file has it.
+    std::string text;      ///< Empty: nothing.
+    const Source* source;  ///< The kind of text that it is.
+    bool is_of_records;    ///< Made of the entry's records, and not as the file has it.
 
     /// As a reader sees it where there are codes in it, else as it is.
     std::string shown() const;
