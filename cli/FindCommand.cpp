@@ -86,8 +86,14 @@ private:
     }
 
     void add_folding_options(CLI::App& command) {
+        const auto fold = [this]() -> Folding& {
+            const bool umlauts = settings_.folding.umlauts;
+            settings_.folding = {};
+            settings_.folding.umlauts = umlauts;
+            return settings_.folding;
+        };
         command.add_flag_callback(
-            "--fold", [this] { settings_.folding = Folding(); },
+            "--fold", [fold] { fold(); },
             "Take capitals, accents, dashes, primes, blanks, Greek letters or their names, raised "
             "and other forms of characters for the same, as is done unless --no-fold is given");
         command.add_flag_callback(
@@ -96,7 +102,7 @@ private:
                 settings_.folding = {false, false, false, false, false, false, false, false};
             },
             "Take characters as they are");
-        add_umlauts_option(command, [this]() -> Folding& { return settings_.folding; });
+        add_umlauts_option(command, fold);
     }
 
     /// Adds fields that some term looks into without being asked to.
