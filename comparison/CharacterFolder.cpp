@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <vector>
 
 #include "comparison/unicode.h"
 #include "markup/Utf8.h"
@@ -48,12 +49,23 @@ std::size_t size_of_blanks(std::string_view text) {
     return size;
 }
 
-/// Appends what comes nearest to a character, or itself where nothing does.
-void append_in_ascii(char32_t code, std::string& result) {
+/// What comes nearest to a Latin or a Greek letter, or itself where nothing does.
+std::string in_ascii(char32_t code) {
     std::string character;
     append_utf8(character, code);
-    const std::string folded = folded_to_ascii(character);
-    result += folded == "?" ? character : folded;
+    std::string folded = folded_to_ascii(character);
+    return folded == "?" ? character : folded;
+}
+
+/// Appends that; most letters have been looked up before.
+void append_in_ascii(char32_t code, std::string& result) {
+    constexpr char32_t end_of_greek = 0x400;
+    static const std::vector<std::string> known = [] {
+        std::vector<std::string> all;
+        for (char32_t letter = 0; letter < end_of_greek; ++letter) all.push_back(in_ascii(letter));
+        return all;
+    }();
+    result += code < end_of_greek ? known[code] : in_ascii(code);
 }
 
 bool begins_with_mark(std::string_view text) {
@@ -70,16 +82,19 @@ CharacterFolder::CharacterFolder(const Folding& folding)
                                    (folding.apostrophes ? 2U : 0U) + (folding.blanks ? 4U : 0U)]) {}
 
 std::size_t CharacterFolder::append_plain(std::string_view text, std::string& result) const {
-    const auto folded = [this](char c) { return plain_bytes_[static_cast<unsigned char>(c)]; };
+    // Kept at hand: what is written might be anywhere.
+    const char* const bytes = plain_bytes_.data();
+    const char blank = folding_.blanks ? ' ' : '\0';
+    const auto folded = [bytes](char c) { return bytes[static_cast<unsigned char>(c)]; };
     std::size_t size = 0;
     for (char before = 0; size < text.size(); ++size) {
         const char now = folded(text[size]);
-        if (now == 0 || (now == ' ' && before == ' ' && folding_.blanks)) break;
+        if (now == 0 || (now == blank && before == blank)) break;
         before = now;
     }
     if (size == 0) return 0;
     if (size < text.size()) {  // the last one may be no character by itself
-        const bool may_be_one_of_blanks = folding_.blanks && folded(text[size - 1]) == ' ';
+        const bool may_be_one_of_blanks = folded(text[size - 1]) == blank;
         if (may_be_one_of_blanks || begins_with_mark(text.substr(size))) --size;
     }
     const std::size_t before = result.size();
