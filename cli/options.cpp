@@ -94,7 +94,7 @@ void add_field_options(CLI::App& command, Choices& choices, ChosenFields& fields
                    std::string("Which fields; ") + view + " unless given");
     command
         .add_option_function<std::string>(
-            "--fields",
+            "--fields,--field",
             [&fields](const std::string& labels) {
                 fields.named = known_fields(fields_named, labels);
             },

@@ -78,8 +78,8 @@ Case paired() {
                         " _cell_length_b 6 _cell_length_c 7 _cell_angle_alpha 90 "
                         "_cell_angle_beta 90 _cell_angle_gamma 90 "
                         "_symmetry_space_group_name_H-M P1 ";
-                    entries->emplace_back("f" + std::to_string(i), EntryReader(cif)[0],
-                                          std::span<const Field>());
+                    entries->emplace_back(std::string(1, 'f').append(std::to_string(i)),
+                                          EntryReader(cif)[0], std::span<const Field>());
                 }
                 return [entries] {
                     EntryPairing pairing;
