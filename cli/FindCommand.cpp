@@ -72,11 +72,13 @@ private:
         add_field_options(command, choices, fields_, "internal");
         add_folding_options(command);
         command.add_flag("--whole", settings_.whole_words, "Only whole words match");
-        command.add_flag_callback(
+        CLI::Option* const count = command.add_flag_callback(
             "--count", [this] { form_ = Form::count; }, "Write only how many entries match");
-        command.add_flag_callback(
-            "--list", [this] { form_ = Form::files; },
-            "Write only the names of the files with entries that match, one a line");
+        command
+            .add_flag_callback(
+                "--list", [this] { form_ = Form::files; },
+                "Write only the names of the files with entries that match, one a line")
+            ->excludes(count);
         add_row_option(command, choices, "--to", to_, show_outputs(),
                        "What to write; unless given, ansi on a terminal and unicode elsewhere");
         add_position_options(command, choices, positions_);

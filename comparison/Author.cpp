@@ -188,6 +188,7 @@ std::vector<Author> read_authors(std::string_view text) {
         }
     }
     std::vector<Author> authors;
+    authors.reserve(names.size());
     for (const StringSlice& name : names) authors.push_back(read_author(text, name));
     return authors;
 }

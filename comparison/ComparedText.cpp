@@ -46,10 +46,14 @@ std::string ComparedText::shown_with_bars(const StringSlice& in_item) const {
         text += shown().substr(from, end - from);
         from = end;
     };
-    for (const Script& script : scripts_) {
-        if (!script.is_barred || !script.place.overlaps(place)) continue;
-        copy_up_to(std::max(from, script.place.from()));
-        for (const unsigned int end = std::min(place.to(), script.place.to()); from < end;) {
+    auto script = std::partition_point(
+        scripts_.begin(), scripts_.end(),
+        [&](const Script& candidate) { return candidate.place.to() <= place.from(); });
+    for (; script != scripts_.end() && script->place.from() < place.to(); ++script) {
+        if (!script->is_barred) continue;
+        copy_up_to(std::max(from, script->place.from()));
+        const unsigned int end = std::min(place.to(), script->place.to());
+        while (from < end) {
             copy_up_to(from + to_position(end_of_character(shown().substr(from, end - from))));
             text += overline;
         }

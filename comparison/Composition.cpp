@@ -22,7 +22,7 @@ Composition::Composition(const Formula& formula) {
 void Composition::add(const Formula::Moiety& moiety, const Formula::Count& multiplier) {
     std::string_view before;
     for (const Formula::Token& token : moiety.tokens) {
-        if (token.kind == Formula::Token::element) {
+        if (token.kind == Formula::Token::element && token.total != 0) {
             elements.push_back({token.symbol, token.total * multiplier.value,
                                 token.total_is_known && multiplier.is_known, token.range, before});
         }

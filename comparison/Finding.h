@@ -47,8 +47,9 @@ struct Finding {
         charge,               ///< Other charges of a moiety; the numbers are the charges.
         multiplier,           ///< Other numbers of a moiety; the numbers are these.
         author_form,          ///< The same name, written otherwise: accents, order, given names.
+        author_particles,     ///< The same name with another particle, or a part of the surname.
         author_initials,      ///< The same surname with more initials or fewer.
-        author_contradicted,  ///< The same surname with other initials.
+        author_contradicted,  ///< The same surname with other initials, or another suffix.
         author_moved,         ///< The same author; the numbers are the places, from 1.
         author_added,         ///< An author whom the right side alone has; its number is the place.
         author_missing,       ///< An author whom the left side alone has; its number is the place.

@@ -101,18 +101,19 @@ void drop_outer_brackets(Moiety& moiety) {
 /// Counts what is in brackets as often as these say; whether all numbers are finite.
 bool add_totals(std::vector<Token>& tokens) {
     std::vector<Count> factors(1);
-    for (auto token = tokens.rbegin(); token != tokens.rend(); ++token) {
-        if (token->kind == Token::opening) {
+    for (std::size_t i = tokens.size(); i-- > 0;) {
+        Token& token = tokens[i];
+        if (token.kind == Token::opening) {
             factors.pop_back();
             continue;
         }
-        Count product = token->count;
+        Count product = token.count;
         product.value *= factors.back().value;
         product.is_known &= factors.back().is_known;
         if (!std::isfinite(product.value)) return false;
-        if (token->kind == Token::closing) factors.push_back(product);
-        token->total = product.value;
-        token->total_is_known = product.is_known;
+        if (token.kind == Token::closing) factors.push_back(product);
+        token.total = product.value;
+        token.total_is_known = product.is_known;
     }
     return true;
 }

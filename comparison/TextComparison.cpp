@@ -1,7 +1,7 @@
 #include "comparison/TextComparison.h"
 
 #include <algorithm>
-#include <tuple>
+#include <array>
 #include <utility>
 
 #include "comparison/compare_plain_texts.h"
@@ -52,6 +52,10 @@ TextComparison::TextComparison(const ComparedText& left, const ComparedText& rig
         if (!finding.is_equivalent) verdict = Verdict::different;
     }
     std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
-        return std::tie(a.left, a.right) < std::tie(b.left, b.right);
+        const auto places = [](const Finding& finding) {
+            return std::array{finding.left.from(), finding.left.to(), finding.right.from(),
+                              finding.right.to()};
+        };
+        return places(a) < places(b);
     });
 }

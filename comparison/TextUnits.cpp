@@ -4,14 +4,13 @@
 #include <string_view>
 
 #include "comparison/folding.h"
+#include "comparison/unicode.h"
 #include "markup/Utf8.h"
 #include "text/Position.h"
+#include "text/internal/ascii.h"
 
 namespace {
 
-bool is_ascii_digit(char c) { return c >= '0' && c <= '9'; }
-bool is_ascii_letter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool is_ascii_blank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 bool is_ascii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 char in_lower_case(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 

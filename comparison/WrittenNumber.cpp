@@ -5,20 +5,25 @@
 #include <limits>
 #include <string>
 
+#include "comparison/unicode.h"
 #include "markup/Utf8.h"
 #include "text/Position.h"
+#include "text/internal/ascii.h"
 
 namespace {
 
 constexpr std::string_view digits = "0123456789";
 constexpr std::string_view minus = "\xE2\x88\x92";
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-
-/// Whether the byte is of a word that may be a label, "a", "Z'" or "α".
-bool is_of_label(char c) {
-    const bool is_letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-    return is_letter || c == '\'' || static_cast<unsigned char>(c) >= 0x80;
+/// The size of the letter or prime that ends at `end`, such as those of "a", "Z'" and "α"; 0 where
+/// there is none.
+std::size_t size_of_letter(std::string_view text, std::size_t end) {
+    if (end == 0) return 0;
+    const char last = text[end - 1];
+    if (static_cast<unsigned char>(last) < 0x80)
+        return is_ascii_letter(last) || last == '\'' ? 1 : 0;
+    const std::size_t from = start_of_character(text.substr(0, end), to_position(end - 1));
+    return is_letter(first_character(text.substr(from)).code) ? end - from : 0;
 }
 
 std::size_t end_of_digits(std::string_view text, std::size_t from) {
@@ -73,8 +78,8 @@ std::size_t NumberScanner::begin(std::size_t digit) const {
     if (sign > position_ && (text_[sign - 1] == '-' || text_[sign - 1] == '+')) --sign;
     if (text_.substr(position_, begin - position_).ends_with(minus)) sign = begin - minus.size();
     // Behind a word or a number it is a hyphen or a dash: "283-303".
-    const bool is_sign = sign == 0 || (!is_digit(text_[sign - 1]) &&
-                                       !is_of_label(text_[sign - 1]) && text_[sign - 1] != ')');
+    const bool is_sign = sign == 0 || (!is_ascii_digit(text_[sign - 1]) && text_[sign - 1] != ')' &&
+                                       size_of_letter(text_, sign) == 0);
     return is_sign ? sign : begin;
 }
 
@@ -85,7 +90,7 @@ WrittenNumber NumberScanner::next(std::size_t digit) {
     const bool has_point_before = digit > from && text_[digit - 1] == '.';
     if (has_point_before) {
         decimals = end - digit;
-    } else if (end + 1 < text_.size() && text_[end] == '.' && is_digit(text_[end + 1])) {
+    } else if (end + 1 < text_.size() && text_[end] == '.' && is_ascii_digit(text_[end + 1])) {
         const std::size_t point = end;
         end = end_of_digits(text_, point + 1);
         decimals = end - point - 1;
@@ -121,7 +126,7 @@ double NumberScanner::uncertainty(double last_place) {
     const std::size_t end = std::min(rest.find_first_not_of("0123456789.", 1), rest.size());
     if (end == rest.size() || rest[end] != ')' || end == 1) return 0;
     const std::string inside(rest.substr(1, end - 1));
-    if (!is_digit(inside[0])) return 0;
+    if (!is_ascii_digit(inside[0])) return 0;
     position_ += end + 1;
     // "105.2(1.2)" is in the unit of the number.
     return value_of(inside) * (inside.find('.') == std::string::npos ? last_place : 1);
@@ -134,7 +139,11 @@ StringSlice NumberScanner::label(std::size_t number) const {
         --end;
     }
     std::size_t from = end;
-    while (from > position_ && is_of_label(text_[from - 1])) --from;
+    while (from > position_) {
+        const std::size_t size = size_of_letter(text_, from);
+        if (size == 0 || size > from - position_) break;
+        from -= size;
+    }
     return {to_position(from == end ? number : from), to_position(number)};
 }
 

@@ -75,10 +75,7 @@ bool fits(const std::string& a, const std::string& b) {
 
 /// Why two names are not the same, which belong to one person as far as can be told.
 Reason reason_for(const Author& left, const Author& right) {
-    if (!left.suffix.empty() && !right.suffix.empty() && left.suffix != right.suffix) {
-        return Reason::author_contradicted;
-    }
-    const bool has_other_suffix = left.suffix != right.suffix;
+    if (left.suffix != right.suffix) return Reason::author_contradicted;
     const auto same = [](const std::string& a, const std::string& b) {
         return !a.empty() && a == b;
     };
@@ -93,8 +90,11 @@ Reason reason_for(const Author& left, const Author& right) {
         if (next < fewer.size() && fits(name, fewer[next])) ++next;
     }
     if (next < fewer.size() && !has_same_words) return Reason::author_contradicted;
-    const bool has_more = fewer.size() < more.size() && !has_same_words;
-    return has_more || has_other_suffix ? Reason::author_initials : Reason::author_form;
+    if (fewer.size() < more.size() && !has_same_words) return Reason::author_initials;
+    const bool has_same_surname =
+        left.surname == right.surname || left.with_umlauts == right.surname ||
+        left.surname == right.with_umlauts || same(left.all_words, right.all_words);
+    return has_same_surname ? Reason::author_form : Reason::author_particles;
 }
 
 /// Which authors keep their places, of those on the left that have partners.

@@ -110,20 +110,21 @@ std::string without_blanks(std::string_view text) {
     return result;
 }
 
-/// Formulae that say the same in other texts: from the first character that differs to the last.
+/// Formulae that say the same in other texts: the words from the first that differs to the last.
 Finding difference_of_equals(std::string_view left, std::string_view right) {
+    const auto is_blank = [](char c) { return c == ' '; };
     const auto front = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
-    const unsigned int from =
-        start_of_character(left, to_position(static_cast<std::size_t>(front.first - left.begin())));
+    auto from = static_cast<std::size_t>(front.first - left.begin());
+    while (from > 0 && !is_blank(left[from - 1])) --from;
     const std::string_view rest = left.substr(from), other_rest = right.substr(from);
     const auto back =
         std::mismatch(rest.rbegin(), rest.rend(), other_rest.rbegin(), other_rest.rend());
     auto tail = static_cast<std::size_t>(back.first - rest.rbegin());
-    while (tail > 0 && is_continuation_byte(rest[rest.size() - tail])) --tail;
+    while (tail > 0 && !is_blank(rest[rest.size() - tail])) --tail;
     const bool has_other_blanks = without_blanks(left) == without_blanks(right);
     return {has_other_blanks ? Reason::blank : Reason::coding,
-            {from, to_position(left.size() - tail)},
-            {from, to_position(right.size() - tail)}};
+            {to_position(from), to_position(left.size() - tail)},
+            {to_position(from), to_position(right.size() - tail)}};
 }
 
 }  // namespace
@@ -152,7 +153,7 @@ std::vector<Finding> compare_formulae(const ComparedText& left, const ComparedTe
     }
     for (std::size_t i = 3; i < left_keys.size(); ++i) pairing.pair(left_keys[i], right_keys[i]);
     compare_moieties(*left_formula, *right_formula, pairing, comparison);
-    const std::vector<Finding> findings = found_by(comparison, policy);
+    std::vector<Finding> findings = found_by(comparison, policy);
     if (!findings.empty()) return findings;
     return {difference_of_equals(left.shown(), right.shown())};
 }

@@ -10,6 +10,7 @@
 #include "comparison/folding.h"
 #include "comparison/unit_blocks.h"
 #include "text/Position.h"
+#include "text/internal/ascii.h"
 
 namespace {
 
@@ -27,16 +28,24 @@ constexpr Row rows[] = {
     {&Folding::dashes, Reason::dash},    {&Folding::apostrophes, Reason::apostrophe},
 };
 
-constexpr Folding as_written{false, false, false, false, false, false, false, false};
+bool is_capital(char c) { return c >= 'A' && c <= 'Z'; }
 
-/// Where the first word of two letters or more begins: case tells "N-butyl" from "n-butyl", and not
-/// "N-Butyl" from "N-butyl".
-std::size_t first_letter(const TextUnits& units) {
+/// Where the first word of two letters or more begins, if small letters follow its first: case
+/// tells "N-butyl" from "n-butyl" and "pH" from "PH", and not "N-Butyl" from "N-butyl".
+std::size_t first_letter(const CutText& text) {
     const auto is_pair = [](const TextUnit& unit, const TextUnit& next) {
         return unit.kind == TextUnit::Class::letter && next.kind == TextUnit::Class::letter;
     };
-    return static_cast<std::size_t>(std::adjacent_find(units.begin(), units.end(), is_pair) -
-                                    units.begin());
+    const TextUnits& units = text.units;
+    const auto first = std::adjacent_find(units.begin(), units.end(), is_pair);
+    const bool is_word = first != units.end() && !is_capital(text.shown(first[1])[0]);
+    return is_word ? static_cast<std::size_t>(first - units.begin()) : units.size();
+}
+
+/// Whether it is a Greek letter that is spelled.
+bool is_greek_name(const CutText& text, const TextUnit& unit) {
+    return unit.kind == TextUnit::Class::letter && unit.to - unit.from > 1 &&
+           is_ascii_letter(text.shown(unit)[0]);
 }
 
 /// Pairs the units of two texts, and compares each with its partner.
@@ -46,8 +55,8 @@ public:
                 std::vector<Finding>& findings)
         : left_(std::move(left)),
           right_(std::move(right)),
-          left_first_letter_(first_letter(left_.units)),
-          right_first_letter_(first_letter(right_.units)),
+          left_first_letter_(first_letter(left_)),
+          right_first_letter_(first_letter(right_)),
           policy_(policy),
           findings_(findings),
           first_(findings.size()) {}
@@ -73,8 +82,11 @@ private:
         }
     }
     std::optional<Reason> reason_of_pair(std::size_t i, std::size_t j) const;
+    Reason reason_of_texts(std::string_view left, std::string_view right, bool is_same_script,
+                           bool is_first_letter) const;
     void add_block(const Block& block);
     Reason reason_of_block(const Block& block) const;
+    bool differs_in_blanks(const Block& block) const;
     /// Adds a finding, to the last one where both say the same of characters in a row.
     void add(Reason reason, const StringSlice& left, const StringSlice& right, bool is_coarse);
 
@@ -85,33 +97,49 @@ private:
     std::size_t first_;  // of our findings
 };
 
-/// Of reasons that hold together one that counts.
 std::optional<Reason> PairedTexts::reason_of_pair(std::size_t i, std::size_t j) const {
     const TextUnit &left = left_.units[i], &right = right_.units[j];
     if (left.key >= opaque_key) return {};
     const std::string_view left_text = left_.shown(left), right_text = right_.shown(right);
-    std::optional<Reason> found;
-    const auto note = [&](Reason reason) {
-        const bool is_first = i == left_first_letter_ && j == right_first_letter_;
-        if (reason == Reason::letter_case && is_first) reason = Reason::first_letter_case;
-        if (!found || (policy_.allows(*found) && !policy_.allows(reason))) found = reason;
-    };
     const bool is_same_script = left.valign == right.valign && left.is_barred == right.is_barred;
-    if (!is_same_script) note(Reason::script);
     if (left_text == right_text) {
-        if (found || left_.text.written(left.place()) == right_.text.written(right.place()))
-            return found;
+        if (!is_same_script) return Reason::script;
+        if (left_.text.written(left.place()) == right_.text.written(right.place())) return {};
         const bool is_greek = folded(left_text, {}) != folded(left_text, {.greek = false});
         return is_greek ? Reason::greek : Reason::coding;
     }
-    if (left.kind == TextUnit::Class::blank) note(Reason::blank);
+    if (left.kind == TextUnit::Class::blank) return Reason::blank;
+    const bool is_name = is_greek_name(left_, left) && is_greek_name(right_, right) &&
+                         i < left_first_letter_ && j < right_first_letter_;
+    const bool is_first = is_name || (i == left_first_letter_ && j == right_first_letter_);
+    return reason_of_texts(left_text, right_text, is_same_script, is_first);
+}
+
+/// Why two texts differ that are folded alike: of reasons that hold together one that counts.
+Reason PairedTexts::reason_of_texts(std::string_view left, std::string_view right,
+                                    bool is_same_script, bool is_first_letter) const {
+    std::optional<Reason> found;
+    const auto note = [&](Reason reason) {
+        if (!found || (policy_.allows(*found) && !policy_.allows(reason))) found = reason;
+    };
+    if (!is_same_script) note(Reason::script);
     for (const Row& row : rows) {
         Folding others;
         others.*row.flag = false;
-        if (folded(left_text, others) == folded(right_text, others)) continue;
-        note(row.reason == Reason::script && is_same_script ? Reason::coding : row.reason);
+        if (folded(left, others) == folded(right, others)) continue;
+        if (row.reason == Reason::script) {
+            note(is_same_script ? Reason::coding : Reason::script);
+        } else if (row.reason == Reason::letter_case && is_first_letter) {
+            note(Reason::first_letter_case);
+        } else {
+            note(row.reason);
+        }
     }
-    return found ? found : Reason::coding;
+    if (found) return *found;
+    // "ß" is "ss" in other case, and without its mark.
+    Folding neither;
+    neither.accents = neither.letter_case = false;
+    return folded(left, neither) == folded(right, neither) ? Reason::coding : Reason::accent;
 }
 
 void PairedTexts::add_block(const Block& block) {
@@ -120,6 +148,7 @@ void PairedTexts::add_block(const Block& block) {
 }
 
 Reason PairedTexts::reason_of_block(const Block& block) const {
+    if (differs_in_blanks(block)) return Reason::blank;
     const auto all = [&](auto is) {
         const auto in = [&](const TextUnits& units, std::size_t from, std::size_t to) {
             return std::all_of(units.begin() + static_cast<std::ptrdiff_t>(from),
@@ -129,20 +158,45 @@ Reason PairedTexts::reason_of_block(const Block& block) const {
                in(right_.units, block.right_from, block.right_to);
     };
     const auto is_blank = [](const TextUnit& unit) { return unit.kind == TextUnit::Class::blank; };
-    const auto parts_words = [](const TextUnits& units, std::size_t from, std::size_t to) {
-        return from < to && from > 0 && to < units.size() && units[from - 1].is_of_word() &&
-               units[to].is_of_word();
-    };
-    // "ethyl acetate" is not "ethylacetate".
-    const bool counts = parts_words(left_.units, block.left_from, block.left_to) ||
-                        parts_words(right_.units, block.right_from, block.right_to);
-    if (all(is_blank) && !counts) return Reason::blank;
     const auto is_passed_over = [&](const TextUnit& unit) {
         return is_blank(unit) || unit.kind == TextUnit::Class::punctuation;
     };
     if (!all(is_blank) && all(is_passed_over)) return Reason::punctuation;
     if (block.left_from == block.left_to) return Reason::insertion;
-    return block.right_from == block.right_to ? Reason::deletion : Reason::replacement;
+    if (block.right_from == block.right_to) return Reason::deletion;
+    // "ß" and "ss", or one script and the characters of it, are no pairs of units.
+    const auto text = [](const CutText& side, std::size_t from, std::size_t to) {
+        const StringSlice place = side.place(from, to);
+        return side.text.shown().substr(place.from(), place.length());
+    };
+    const std::string_view left = text(left_, block.left_from, block.left_to);
+    const std::string_view right = text(right_, block.right_from, block.right_to);
+    const bool is_for_numbers = !all([](const TextUnit& unit) { return unit.key < opaque_key; });
+    if (is_for_numbers || folded(left, {}) != folded(right, {})) return Reason::replacement;
+    const TextUnit& first = left_.units[block.left_from];
+    const bool is_same_script = all([&](const TextUnit& unit) {
+        return unit.valign == first.valign && unit.is_barred == first.is_barred;
+    });
+    return left == right ? Reason::script : reason_of_texts(left, right, is_same_script, false);
+}
+
+/// Whether the block has the same on either side, blanks aside, and none of these parts words:
+/// "ethyl acetate" is not "ethylacetate".
+bool PairedTexts::differs_in_blanks(const Block& block) const {
+    const auto is_blank = [](const TextUnit& unit) { return unit.kind == TextUnit::Class::blank; };
+    const auto keys = [&](const TextUnits& units, std::size_t from, std::size_t to,
+                          std::vector<std::uint32_t>& result) {
+        for (std::size_t i = from; i < to; ++i) {
+            if (!is_blank(units[i])) result.push_back(units[i].key);
+            const bool parts_words = is_blank(units[i]) && i > 0 && i + 1 < units.size() &&
+                                     units[i - 1].is_of_word() && units[i + 1].is_of_word();
+            if (parts_words) return false;
+        }
+        return true;
+    };
+    std::vector<std::uint32_t> left, right;
+    return keys(left_.units, block.left_from, block.left_to, left) &&
+           keys(right_.units, block.right_from, block.right_to, right) && left == right;
 }
 
 void PairedTexts::add(Reason reason, const StringSlice& left, const StringSlice& right,
@@ -154,6 +208,7 @@ void PairedTexts::add(Reason reason, const StringSlice& left, const StringSlice&
         if (goes_on) {
             last.left = {last.left.from(), left.to()};
             last.right = {last.right.from(), right.to()};
+            last.is_coarse = last.is_coarse || is_coarse;
             return;
         }
     }

@@ -25,9 +25,9 @@ std::vector<bool> longest_ascending_run(const std::vector<std::size_t>& places,
     };
     std::vector<bool> run(places.size());
     std::size_t next = places.size();  // of the run
-    for (auto level = levels.rbegin(); level != levels.rend(); ++level) {
+    for (std::size_t level = levels.size(); level-- > 0;) {
         std::size_t best = places.size();
-        for (const std::size_t i : *level) {
+        for (const std::size_t i : levels[level]) {
             const bool fits = next == places.size() || (i < next && places[i] < places[next]);
             if (fits && (best == places.size() || is_better(i, best))) best = i;
         }

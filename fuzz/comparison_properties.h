@@ -10,9 +10,13 @@
 
 // What holds of the comparison of any two texts.
 
+inline bool begins_before(const StringSlice& a, const StringSlice& b) {
+    return a.from() != b.from() ? a.from() < b.from() : a.to() < b.to();
+}
+
 /// Whether ranges are in a text, share nothing and cut no character of it.
 inline bool are_disjoint(const std::string& text, std::vector<StringSlice> ranges) {
-    std::sort(ranges.begin(), ranges.end());
+    std::sort(ranges.begin(), ranges.end(), begins_before);
     unsigned int end = 0;
     const auto cuts = [&](unsigned int position) {
         return position > text.size() ||
@@ -42,7 +46,8 @@ inline std::string complaint_of_comparison(const TextItem& left_item, const Text
     }
     const bool is_equal = left_item.characters() == right_item.characters();
     if (there.verdict != back.verdict) return "the verdict is the same either way round";
-    if (!std::is_sorted(left_ranges.begin(), left_ranges.end())) return "ranges ascend";
+    if (!std::is_sorted(left_ranges.begin(), left_ranges.end(), begins_before))
+        return "ranges ascend";
     if (!are_disjoint(left_item.characters(), left_ranges)) return "left ranges are disjoint";
     if (!are_disjoint(right_item.characters(), right_ranges)) return "right ranges are disjoint";
     if (!std::is_permutation(mirrored.begin(), mirrored.end(), back.findings.begin(),

@@ -44,13 +44,14 @@ constexpr Row rows[] = {
     {Reason::number_added, "", "{R} added"},
     {Reason::number_missing, "", "{L} left out"},
     {Reason::element, "", "{s} {m} against {n}"},
-    {Reason::element_order, "", "elements in another order"},
+    {Reason::element_order, "", "the same in another order"},
     {Reason::moiety_against_sum, "", "moieties against a sum of the same composition"},
     {Reason::charge, "", "charge of {s} {+m} against {+n}"},
     {Reason::multiplier, "", "{m} {s} against {n}"},
     {Reason::author_form, "", "{L} is written {R}"},
+    {Reason::author_particles, "", "{L} has another surname than {R}"},
     {Reason::author_initials, "", "{L} has more or fewer initials than {R}"},
-    {Reason::author_contradicted, "", "{L} has other initials than {R}"},
+    {Reason::author_contradicted, "", "{L} has other initials or another suffix than {R}"},
     {Reason::author_moved, "", "{s} moved from {mth} to {nth} place"},
     {Reason::author_added, "", "{s} added in {nth} place"},
     {Reason::author_missing, "", "{s} left out of {mth} place"},
@@ -97,15 +98,16 @@ std::string printed(double number, int digits) {
     return {text, end};
 }
 
-std::string count_of(const std::optional<double>& number) {
+/// What the text has in place of a count says it where it is no number, as in "n(H2 O)".
+std::string count_of(const std::optional<double>& number, std::string_view text) {
+    if (!number && !text.empty()) return excerpt(text);
     return number && *number != 0 ? printed(*number, all_digits) : "none";
 }
 
 /// "+1".
-std::string charge_of(const std::optional<double>& number) {
-    std::string text = number && *number > 0 ? "+" : "";
-    text += count_of(number);
-    return text;
+std::string charge_of(const std::optional<double>& number, std::string_view text) {
+    const std::string charge = count_of(number, text);
+    return number && *number > 0 ? '+' + charge : charge;
 }
 
 /// "2nd".
@@ -128,9 +130,9 @@ std::string limit_of(const Finding& finding) {
         text = ", " + printed(sigmas, digits) + " \u03C3 apart";
     } else if (finding.left_number && finding.right_number) {
         const double apart = std::abs(*finding.left_number - *finding.right_number);
-        text = ", " + printed(apart, 4) + " apart";
+        if (std::isfinite(apart)) text = ", " + printed(apart, 4) + " apart";
     }
-    if (finding.limit && *finding.limit > 0 && !(is_within && finding.sigmas)) {
+    if (finding.limit && *finding.limit > 0 && !text.empty() && !(is_within && finding.sigmas)) {
         text.append(is_within ? ", within " : ", beyond ").append(printed(*finding.limit, 4));
         if (finding.sigmas) text += " \u03C3";
     }
@@ -163,10 +165,10 @@ std::string value_of(std::string_view name, const Finding& finding, std::string_
     if (name == "R") return or_none(right);
     if (name == "s" && !finding.subject.empty()) return excerpt(finding.subject);
     if (name == "s") return or_none(left.empty() ? right : left);
-    if (name == "m") return count_of(finding.left_number);
-    if (name == "n") return count_of(finding.right_number);
-    if (name == "+m") return charge_of(finding.left_number);
-    if (name == "+n") return charge_of(finding.right_number);
+    if (name == "m") return count_of(finding.left_number, left);
+    if (name == "n") return count_of(finding.right_number, right);
+    if (name == "+m") return charge_of(finding.left_number, left);
+    if (name == "+n") return charge_of(finding.right_number, right);
     if (name == "mth") return place_of(finding.left_number);
     if (name == "nth") return place_of(finding.right_number);
     return limit_of(finding);
@@ -208,7 +210,9 @@ std::string FindingSentences::clause(const Finding& finding) const {
         left = without_list_signs(left);
         right = without_list_signs(right);
     }
-    const Row& row = rows[static_cast<std::size_t>(finding.reason)];
+    const bool is_coding = finding.reason == Reason::greek && left == right;
+    const Reason reason = is_coding ? Reason::coding : finding.reason;
+    const Row& row = rows[static_cast<std::size_t>(reason)];
     const std::string_view pattern = row.clause;
     std::string clause;
     if (finding.left_number && finding.right_number && !finding.subject.empty() &&

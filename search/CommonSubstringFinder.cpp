@@ -69,8 +69,7 @@ std::vector<StringSlice> CommonSubstringFinder::matched_stretches(
     MatchRows rows(a, b, min_match_length, most_compared);
     const auto find_until = [&](const auto& enough) {
         while (!rows.at_end() && !enough()) {
-            // Of short texts all is compared before that could pay.
-            if (rows.compared() > least_of_rows) rows.skip_repeated();
+            rows.skip_repeated();
             rows.next([&](unsigned int /*i*/, unsigned int j, unsigned int length) {
                 stretches.add(j, j + length);
             });

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 #include "tasks/BracketedText.h"
 #include "tasks/styles_of.h"
@@ -145,7 +146,11 @@ private:
     struct Node {
         unsigned int position;
         StringSlice style;
-        friend auto operator<=>(const Node&, const Node&) = default;
+
+        bool operator<(const Node& other) const {
+            return std::tuple(position, style.from(), style.to()) <
+                   std::tuple(other.position, other.style.from(), other.style.to());
+        }
     };
 
     bool is_bold(const StringSlice& range) const {

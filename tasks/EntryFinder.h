@@ -37,7 +37,7 @@ private:
 
     void add(const Field& field);
     bool may_be_in(const CifEntry& entry) const;
-    std::optional<FoundField> found_in(const CifEntry& entry, const SearchedField& field) const;
+    std::optional<FoundField> found_in(const CifEntry& entry, const SearchedField& searched) const;
     std::vector<FoundField> found_fields(const CifEntry& entry,
                                          std::vector<Problem>& problems) const;
 

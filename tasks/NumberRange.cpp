@@ -16,7 +16,7 @@ std::optional<NumberRange> NumberRange::read(const std::string& text) {
     return is_range ? std::optional(range) : std::nullopt;
 }
 
-bool NumberRange::contains(const WrittenNumber& number) const {
+bool NumberRange::contains(const SearchedNumber& number) const {
     if (!alone_.empty()) return whole_number(alone_)->may_stand_for(number);
     return from_ <= number.value() && number.value() <= to_;
 }

@@ -12,7 +12,7 @@ public:
     /// "2001-2004", "2001-", "-2004" or "2003"; numbers have no signs.
     static std::optional<NumberRange> read(const std::string& text);
 
-    bool contains(const WrittenNumber& number) const;
+    bool contains(const SearchedNumber& number) const;
 
 private:
     double from_ = 0, to_ = std::numeric_limits<double>::infinity();

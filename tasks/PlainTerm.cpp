@@ -147,7 +147,7 @@ bool PlainTerm::is_group_of(const CifEntry& entry) const {
 }
 
 void PlainTerm::find_numbers(const FoldedText& text, std::vector<StringSlice>& ranges) const {
-    for (const WrittenNumber& number : numbers_in(text.text())) {
+    for (const SearchedNumber& number : numbers_in(text.text())) {
         if (!number_->may_stand_for(number)) continue;
         const StringSlice& place = number.place;
         const unsigned int from = place.from() - (number_->is_negative ? 1 : 0);

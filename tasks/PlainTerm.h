@@ -38,7 +38,7 @@ private:
     std::vector<std::string> skeletons_;  // a text has one of them
     bool whole_words_;
     bool begins_with_greek_, ends_with_greek_;
-    std::optional<WrittenNumber> number_;   // in folded_
+    std::optional<SearchedNumber> number_;  // in folded_
     std::vector<WrittenElement> elements_;  // in text_; none: it is no formula
     SpaceGroupSetting group_;               // null: it is none
 };

@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "comparison/journal_names.h"
 #include "entries/PersonName.h"
 #include "entries/read_whole.h"
 #include "entries/space_group_symbol.h"
@@ -60,11 +61,14 @@ Made make_journal(const TermKind& kind, const std::string& written, const std::s
                   const TermSettings& settings) {
     const auto name = std::make_shared<PlainTerm>(written, value, settings, std::vector<Field>());
     return std::make_unique<FieldTerm>(
-        written, fields_of(kind), [name](const SearchedText& text, Ranges& ranges) {
+        written, fields_of(kind), [name, value](const SearchedText& text, Ranges& ranges) {
             const std::string& journal = text.entry().entry->publication->journal;
             name->find(text, ranges);
             std::erase_if(ranges,
                           [&](const StringSlice& range) { return range.to() > journal.size(); });
+            // Or by its abbreviation.
+            if (!ranges.empty() || !may_be_one_journal(value, journal)) return;
+            if (text.shown().starts_with(journal)) ranges.emplace_back(0, length_of(journal));
         });
 }
 
@@ -116,10 +120,10 @@ Made make_cell(const TermKind& kind, const std::string& written, const std::stri
     if (!asked) return nullptr;
     const auto find = [cell = *asked](const SearchedText& text, Ranges& ranges) {
         const CrystalInfo& crystal = *text.entry().entry->crystal_info;
-        const auto id = text.field().id;
-        const bool is_angles = id == Names::cell_angles || id == Names::reduced_cell_angles;
+        const auto is = [&](Names::TextID id) { return text.field().id == id; };
+        const bool is_angles = is(Names::cell_angles) || is(Names::reduced_cell_angles);
         if (is_angles && !cell.angles) return;
-        const bool is_own = id == Names::cell_lengths || id == Names::cell_angles;
+        const bool is_own = is(Names::cell_lengths) || is(Names::cell_angles);
         if (is_own ? is_near(cell, crystal.cell) : is_near(cell, crystal.reduced_cell)) {
             add_all(text, ranges);
         }
@@ -137,7 +141,7 @@ Made make_number(const TermKind& kind, const std::string& written, const std::st
     const std::optional<NumberRange> range = NumberRange::read(value);
     if (!range) return nullptr;
     const auto find = [range = *range](const SearchedText& text, Ranges& ranges) {
-        const std::vector<WrittenNumber> numbers = numbers_in(text.shown());
+        const std::vector<SearchedNumber> numbers = numbers_in(text.shown());
         if (!numbers.empty() && range.contains(numbers[0])) ranges.push_back(numbers[0].place);
     };
     return std::make_unique<FieldTerm>(written, fields_of(kind), find);
@@ -149,12 +153,12 @@ Made make_year(const TermKind& kind, const std::string& written, const std::stri
     if (!range) return nullptr;
     const auto may_be_of = [range = *range](const CifEntry& entry) {
         const std::string& year = entry.entry->publication->year;
-        const std::optional<WrittenNumber> number = whole_number(year);
+        const std::optional<SearchedNumber> number = whole_number(year);
         return number && range.contains(*number);
     };
     const auto find = [](const SearchedText& text, Ranges& ranges) {
         const std::string& year = text.entry().entry->publication->year;
-        for (const WrittenNumber& number : numbers_in(text.shown())) {
+        for (const SearchedNumber& number : numbers_in(text.shown())) {
             if (number.whole != year || !ranges.empty()) continue;
             ranges.push_back(number.place);
         }
@@ -182,7 +186,8 @@ constexpr const char* wavelength[] = {"Wavelength"};
 
 constexpr TermKind kinds[] = {
     {"author", "NAME", "an author: cisarova, 'Smith, A. B.'", authors, make_author},
-    {"journal", "NAME", "a part of the journal's name", reference, make_journal},
+    {"journal", "NAME", "a part of the journal's name, or an abbreviation", reference,
+     make_journal},
     {"year", "YEAR or FROM-TO", "when the article appeared", reference, make_year},
     {"title", "WORDS", "a part of the article's title", title, make_words},
     {"doi", "DOI", "a part of the article's DOI", doi, make_doi},

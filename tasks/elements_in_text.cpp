@@ -54,6 +54,7 @@ std::vector<StringSlice> places_of(const std::vector<WrittenElement>& wanted,
         }
         if (places.size() == before) return {};
     }
-    std::sort(places.begin(), places.end());
+    std::sort(places.begin(), places.end(),
+              [](const StringSlice& a, const StringSlice& b) { return a.from() < b.from(); });
     return places;
 }

@@ -17,9 +17,9 @@ std::size_t end_of_digits(std::string_view text, std::size_t from) {
 }
 
 /// The number that begins at a digit, or at a point with a digit behind it.
-WrittenNumber number_at(std::string_view text, std::size_t from) {
+SearchedNumber number_at(std::string_view text, std::size_t from) {
     std::size_t to = end_of_digits(text, from);
-    WrittenNumber number{{0, 0}, text.substr(from, to - from), {}, {}};
+    SearchedNumber number{{0, 0}, text.substr(from, to - from), {}, {}};
     if (to + 1 < text.size() && text[to] == '.' && is_digit(text[to + 1])) {
         const std::size_t end = end_of_digits(text, to + 1);
         number.decimals = text.substr(to + 1, end - to - 1);
@@ -49,7 +49,7 @@ std::string_view without_leading_zeros(std::string_view digits) {
 
 /// All digits of a number with so many decimals, of which it has as many or more; halves are
 /// rounded up.
-std::string rounded(const WrittenNumber& number, std::size_t decimals) {
+std::string rounded(const SearchedNumber& number, std::size_t decimals) {
     std::string digits("0");
     digits.append(number.whole).append(number.decimals.substr(0, decimals));
     const std::string_view rest = number.decimals.substr(decimals);
@@ -63,13 +63,13 @@ std::string rounded(const WrittenNumber& number, std::size_t decimals) {
 
 }  // namespace
 
-double WrittenNumber::value() const {
+double SearchedNumber::value() const {
     std::string text("0");
     text.append(whole).append(".").append(decimals).push_back('0');
     return read_whole<double>(text).value_or(0);
 }
 
-bool WrittenNumber::may_stand_for(const WrittenNumber& other) const {
+bool SearchedNumber::may_stand_for(const SearchedNumber& other) const {
     constexpr std::size_t long_enough = 3;  // for a whole number to be a rounded one
     if (is_negative && !other.is_negative) return false;
     if (!uncertainty.empty() &&
@@ -85,7 +85,7 @@ bool WrittenNumber::may_stand_for(const WrittenNumber& other) const {
     return without_leading_zeros(digits) == without_leading_zeros(rounded(other, own.size()));
 }
 
-std::vector<std::string> WrittenNumber::first_digits() const {
+std::vector<std::string> SearchedNumber::first_digits() const {
     std::string all(whole);
     all += decimals;
     std::string less = all;  // what is rounded up to it begins with one less
@@ -97,8 +97,8 @@ std::vector<std::string> WrittenNumber::first_digits() const {
     return {std::string(without_leading_zeros(all)), std::string(without_leading_zeros(less))};
 }
 
-std::vector<WrittenNumber> numbers_in(std::string_view text) {
-    std::vector<WrittenNumber> numbers;
+std::vector<SearchedNumber> numbers_in(std::string_view text) {
+    std::vector<SearchedNumber> numbers;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool begins_with_point =
             text[i] == '.' && i + 1 < text.size() && is_digit(text[i + 1]);
@@ -114,9 +114,9 @@ std::vector<WrittenNumber> numbers_in(std::string_view text) {
     return numbers;
 }
 
-std::optional<WrittenNumber> whole_number(std::string_view text) {
+std::optional<SearchedNumber> whole_number(std::string_view text) {
     const std::size_t from = text.starts_with('-') ? 1 : 0;
-    const std::vector<WrittenNumber> numbers = numbers_in(text);
+    const std::vector<SearchedNumber> numbers = numbers_in(text);
     if (numbers.size() != 1 || numbers[0].place != StringSlice(to_position(from), length_of(text)))
         return std::nullopt;
     return numbers[0];

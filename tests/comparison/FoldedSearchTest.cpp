@@ -14,14 +14,14 @@ namespace {
 class ToldSearch : public TextSearch {
 public:
     bool search(const std::string& text, std::vector<StringSlice>& slices) const override {
-        text_ = text;
+        asked = text;
         slices = ranges;
         return false;
     }
-    void set_search_term(const std::string& term) override { text_ = term; }
+    void set_search_term(const std::string& term) override { asked = term; }
 
     std::vector<StringSlice> ranges;
-    mutable std::string text_;
+    mutable std::string asked;
 };
 
 TEST(FoldedSearch, HoldsCharactersThatItsRangeHoldsWhole) {

@@ -151,10 +151,10 @@ TEST(TextComparison, IsBounded) {
         {"text", "a\xFF", "a\xFE"},
     };
     for (const auto& [name, left, right] : cases) {
+        const std::string kind_name = name;  // lambdas cannot hold parts of a binding
         const auto kinds = comparison_kinds();
-        const auto* const kind = &*std::find_if(kinds.begin(), kinds.end(), [&](const auto& row) {
-            return std::string(row.name) == name;
-        });
+        const auto* const kind = &*std::find_if(
+            kinds.begin(), kinds.end(), [&](const auto& row) { return row.name == kind_name; });
         const TextItem left_item(finder(0), left), right_item(finder(0), right);
         const ComparedText left_side(left_item), right_side(right_item);
         const auto start = std::chrono::steady_clock::now();

@@ -10,7 +10,7 @@ TEST(CompareFormulae, FindsElementsMoietiesAndTheirOrder) {
         {"I2 Mg", "Mg I2", "order [0,5)/[0,5)"},
         {"C4 H8 Br Cl", "C4 H8 Cl Br", "order [6,11)/[6,11)"},
         {"Ca (Ti O3)", "Ca O3 Ti", "order [4,9)/[3,8)"},
-        {"C6H6O", "C6 H6 O", "blank [2,4)/[2,6)"},
+        {"C6H6O", "C6 H6 O", "blank [0,5)/[0,7)"},
         {"H O1", "H O", "coding O [2,4)/[2,3)"},
         {"Na0.5 Cl", "Na1/2 Cl", "coding Na [0,5)/[0,5)"},
         {"Ca (Ti O3)", "Ca Ti O3", "coding [3,10)/[3,8)"},

@@ -135,7 +135,7 @@ TEST(Term, RefusesWhatIsNone) {
     EXPECT_EQ(nearest_term_kind("1:1 complex"), "");
 }
 
-TEST(WrittenNumber, StandsForThoseThatRoundToIt) {
+TEST(SearchedNumber, StandsForThoseThatRoundToIt) {
     const struct {
         const char *number, *text;
         bool may_stand_for;
@@ -152,9 +152,9 @@ TEST(WrittenNumber, StandsForThoseThatRoundToIt) {
         {"1.000", "0.9996", true},
     };
     for (const auto& c : cases) {
-        const WrittenNumber number = whole_number(c.number).value();
+        const SearchedNumber number = whole_number(c.number).value();
         bool found = false;
-        for (const WrittenNumber& other : numbers_in(c.text)) {
+        for (const SearchedNumber& other : numbers_in(c.text)) {
             found = found || number.may_stand_for(other);
             if (!number.may_stand_for(other)) continue;
             bool begins = false;
