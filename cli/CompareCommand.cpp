@@ -20,6 +20,8 @@ public:
         }
         if (!options_.to) options_.to = output_for(compare_outputs(), path_);
         if (!options_.to) return exit_trouble;
+        // Programs that read it choose for themselves.
+        options_.all = options_.all || !options_.to->target;
         options_.wanted = fields_.list();
         options_.positions = positions_.chosen();
         ComparedSide left(left_, recursive_), right(right_, recursive_);
@@ -58,7 +60,8 @@ private:
             "  lmrtext compare --all 'before.cif:I' 'after.cif:I'");
         add_field_options(command, choices, fields_);
         command.add_flag("--all", options_.all,
-                         "Also what is equal, and what differs in nothing that counts");
+                         "Also what is equal, and what differs in nothing that counts; json has it "
+                         "always");
         command.add_flag("--summary", options_.only_summary,
                          "How many entries and fields differ, and nothing else");
         add_comparison_options(command, options_.settings);

@@ -79,6 +79,7 @@ TEST_F(Program, ComparesWhatIsNamedAndPairsTheRest) {
     EXPECT_THAT(contents(folder_ / page), StartsWith("<!DOCTYPE html>\n"));
     EXPECT_EQ(run("compare -o page.html a.cif:I none.cif").status, 2);
     EXPECT_THAT(contents(folder_ / page), HasSubstr(">thio</span>"));
+    EXPECT_THAT(run("compare --to json a.cif a.cif").out, HasSubstr("\"verdict\": \"equal\""));
     EXPECT_THAT(run("compare --ignore acent a.cif b.cif").err,
                 HasSubstr("no such reason: 'acent'; did you mean 'accent'?"));
     EXPECT_THAT(run("fields --policies").out, HasSubstr("\nFormula\tformula\t"));
