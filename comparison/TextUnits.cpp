@@ -45,7 +45,7 @@ TextUnit::Class class_of(std::string_view folded_text) {
     const char c = folded_text.empty() ? '\0' : folded_text[0];
     if (is_ascii_letter(c) || !is_ascii(c)) return Class::letter;
     if (is_ascii_digit(c)) return Class::digits;
-    if (is_ascii_blank(c)) return Class::blank;
+    if (is_ascii_blank(static_cast<unsigned char>(c))) return Class::blank;
     return std::string_view(".,;:!?()[]{}\"-/").find(c) != std::string_view::npos
                ? Class::punctuation
                : Class::other;
@@ -111,7 +111,8 @@ void TextCutter::add(TextUnits& units, std::string_view shown, const ComparedTex
     TextUnit unit{place.from(),     place.to(),    0, static_cast<signed char>(script.valign),
                   script.is_barred, class_of(text)};
     if (text.size() == 1 && is_ascii(text[0]) && text[0] != '"' && text[0] != '`') {
-        const char usual = is_ascii_blank(text[0]) ? ' ' : in_lower_case(text[0]);
+        const char usual =
+            is_ascii_blank(static_cast<unsigned char>(text[0])) ? ' ' : in_lower_case(text[0]);
         unit.key = static_cast<unsigned char>(usual);
     } else {
         const std::string key = folded(text, {});
