@@ -30,7 +30,8 @@ bool is_whole(Kind kind) {
 
 /// The ranges as disjoint and ascending ones: those that overlap become one.
 std::vector<StringSlice> merged(std::vector<StringSlice> ranges) {
-    std::sort(ranges.begin(), ranges.end());
+    std::sort(ranges.begin(), ranges.end(),
+              [](const StringSlice& a, const StringSlice& b) { return a.from() < b.from(); });
     std::vector<StringSlice> disjoint;
     for (const StringSlice& range : ranges) {
         if (!disjoint.empty() && disjoint.back().overlaps(range)) {
