@@ -88,7 +88,8 @@ TEST(CommonSubstringFinder, MergesAllThatTheSearchFinds) {
         std::vector<StringSlice> in_a, in_b;
         finder.search(a, b, in_a, in_b, min_length);
         std::vector<StringSlice> merged = StringSliceReducer(in_b.begin(), in_b.end()).slices();
-        std::sort(merged.begin(), merged.end());
+        std::sort(merged.begin(), merged.end(),
+                  [](const StringSlice& a, const StringSlice& b) { return a.from() < b.from(); });
         ASSERT_EQ(finder.matched_stretches(a, b, min_length), merged) << round;
     }
 }
