@@ -92,7 +92,7 @@ Marks marks_of(const TextItem& item, const Styles& styles, const std::vector<Fin
         if (!range.empty()) all.push_back({range, finding.is_equivalent});
     }
     std::sort(all.begin(), all.end(),
-              [](const Mark& a, const Mark& b) { return a.range < b.range; });
+              [](const Mark& a, const Mark& b) { return a.range.from() < b.range.from(); });
     for (const Mark& mark : all) {
         Mark* const last = disjoint.empty() ? nullptr : &disjoint.back();
         const bool touches = last && last->range.to() == mark.range.from();

@@ -89,7 +89,7 @@ TEST(CommonSubstringFinder, MergesAllThatTheSearchFinds) {
         finder.search(a, b, in_a, in_b, min_length);
         std::vector<StringSlice> merged = StringSliceReducer(in_b.begin(), in_b.end()).slices();
         std::sort(merged.begin(), merged.end(),
-                  [](const StringSlice& a, const StringSlice& b) { return a.from() < b.from(); });
+                  [](const StringSlice& x, const StringSlice& y) { return x.from() < y.from(); });
         ASSERT_EQ(finder.matched_stretches(a, b, min_length), merged) << round;
     }
 }
