@@ -44,7 +44,8 @@ void PairedNumbers::pair(PairedNumbers& left, PairedNumbers& right) {
     const auto by_label = [](const PairedNumbers& side) {
         std::map<std::string, Places> places;
         for (std::size_t i = 0; i < side.numbers_.size(); ++i) {
-            places[folded(side.label(i), {})].push_back(i);
+            const std::string_view label = side.label(i);
+            places[label.empty() ? std::string() : folded(label, {})].push_back(i);
         }
         return places;
     };
