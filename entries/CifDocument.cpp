@@ -154,13 +154,15 @@ std::size_t CifDocument::end_of_items(std::size_t block) const {
     return block + 1 < blocks() ? contents_.blocks[block + 1].first_item : contents_.items.size();
 }
 
-CifBlock CifDocument::block(std::size_t index) const {
+CifBlock::Items CifDocument::items(std::size_t index) const {
     const std::size_t first = contents_.blocks[index].first_item;
     CifBlock::Items items;
     items.reserve(end_of_items(index) - first);
     for (std::size_t i = first; i < end_of_items(index); ++i) items.push_back(&contents_.items[i]);
-    return {contents_.blocks[index].name, std::move(items)};
+    return items;
 }
+
+CifBlock CifDocument::block(std::size_t index) const { return {name_of(index), items(index)}; }
 
 CifBlock CifDocument::common_block(std::size_t first, std::size_t last) const {
     constexpr std::size_t most = 10000;
@@ -198,4 +200,14 @@ unsigned long CifDocument::line_of(const char* place) const {
     }
     const auto end = std::lower_bound(line_ends_.begin(), line_ends_.end(), place);
     return static_cast<unsigned long>(end - line_ends_.begin()) + 1;
+}
+
+unsigned long CifDocument::column_of(const char* place) const {
+    const unsigned long line = line_of(place);
+    const char* const begin = line == 1 ? bytes_.data() : line_ends_[line - 2] + 1;
+    return static_cast<unsigned long>(place - begin) + 1;
+}
+
+bool CifDocument::is_version_2() const {
+    return cif_rules::Input(without_byte_order_mark(bytes_)).is_version_2();
 }

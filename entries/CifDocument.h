@@ -122,6 +122,16 @@ public:
     /// The line, from 1, of a place in the bytes. The first question is O(n) for n bytes, each
     /// later one O(log n).
     unsigned long line_of(const char* place) const;
+    /// The byte of its line, from 1. A byte order mark counts.
+    unsigned long column_of(const char* place) const;
+
+    /// All of them.
+    std::string_view bytes() const { return bytes_; }
+    /// Whether it says that it is of version 2 of CIF.
+    bool is_version_2() const;
+    /// The items of a block, outside save frames, in the order of the file; `index` is below
+    /// blocks().
+    CifBlock::Items items(std::size_t index) const;
 
     /// What the grammar finds, in the order of the file.
     struct Contents {

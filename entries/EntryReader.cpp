@@ -69,6 +69,11 @@ void EntryReader::find_entries() {
     }
 }
 
+const CifBlock* EntryReader::common_block_of(std::size_t index) const {
+    const std::size_t common = entries_[index].common;
+    return common < common_.size() ? &common_[common].block : nullptr;
+}
+
 CifEntry EntryReader::operator[](std::size_t index) const {
     const Place& place = entries_[index];
     const Common* const common = place.common < common_.size() ? &common_[place.common] : nullptr;

@@ -24,6 +24,13 @@ public:
     /// `index` is below size().
     CifEntry operator[](std::size_t index) const;
 
+    const CifDocument& document() const { return document_; }
+    /// The block of entry `index`, and what it has in common with others, or null.
+    /// @{
+    std::size_t block_of(std::size_t index) const { return entries_[index].block; }
+    const CifBlock* common_block_of(std::size_t index) const;
+    /// @}
+
 private:
     /// Blocks that stand together, from the first to one past the last.
     struct Common {

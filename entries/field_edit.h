@@ -1,0 +1,30 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "entries/CifEdits.h"
+#include "entries/EntryReader.h"
+
+/// A field cannot be made to say what it should; what() says why, as a clause: "is computed from
+/// the cell", "expected a number, not 'x'".
+class FieldRefused : public std::invalid_argument {
+public:
+    using std::invalid_argument::invalid_argument;
+};
+
+/// How the text of a field is written in its items.
+enum class FieldWriting {
+    text,     ///< With the codes of CIF text; any kind of styled text can be converted to it.
+    own,      ///< In the field's own form: numbers with labels, names of people, a reference.
+    derived,  ///< Not at all: it is computed from others.
+};
+FieldWriting field_writing(std::string_view label);
+
+/// Makes a field of entry `index` say `text`, which is in the codes of CIF text or in the field's
+/// own form, as show tells it; empty: nothing, "?" in the file. Only items whose part of the text
+/// is another are changed; what is missing is added. Throws FieldRefused and UnwritableText, and
+/// `edits` is then as it was.
+void edit_field(const EntryReader& entries, std::size_t index, std::string_view label,
+                const std::string& text, CifEdits& edits);
