@@ -56,7 +56,7 @@ struct Builder {
         const std::size_t rows = (contents.values.size() - first) / columns;
         const bool is_full = contents.values.size() == first + rows * columns;
         for (std::size_t i = 0; i < columns && !in_frame; ++i) {
-            contents.items.emplace_back(tags[i], origin, contents.values, first + i, columns, rows);
+            contents.items.emplace_back(tags[i], origin, contents.values, first, i, columns, rows);
         }
         if (in_frame) contents.values.resize(first);
         return is_full;
@@ -210,4 +210,12 @@ unsigned long CifDocument::column_of(const char* place) const {
 
 bool CifDocument::is_version_2() const {
     return cif_rules::Input(without_byte_order_mark(bytes_)).is_version_2();
+}
+
+const char* CifDocument::end_of_heading(std::size_t index) const {
+    const Contents::Block& block = contents_.blocks[index];
+    const bool has_name = block.name.data() == block.heading;  // else "data_" or "global_"
+    if (has_name) return block.heading + block.name.size();
+    const bool is_global = block.name.empty();
+    return block.heading + (is_global ? std::string_view("global_").size() : 0);
 }

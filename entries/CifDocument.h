@@ -30,18 +30,24 @@ struct CifValue {
     /// What stands between the quotes, with lines that end with "\n"; nothing for "?" and ".", in
     /// quotes too, and for a bare ";".
     std::string text() const;
+    /// Whether it is a bare "?" or ".", or is not there.
+    bool is_none() const;
+    /// The text that it holds, to the character, with lines that end with "\n"; the parts of lines
+    /// that are folded are joined. Nothing where it is_none().
+    std::string content() const;
 };
 
 /// The values of one tag of a block: one, or one a row of a loop.
 class CifItem {
 public:
-    /// Value n of the item is number `first` + n * `stride` of `values`.
+    /// Value n of the item is number `first` + `column` + n * `stride` of `values`.
     CifItem(std::string_view tag, const char* origin, const std::vector<std::string_view>& values,
-            std::size_t first, std::size_t stride, std::size_t size)
+            std::size_t first, std::size_t column, std::size_t stride, std::size_t size)
         : tag_(tag),
           origin_(origin),
           values_(&values),
           first_(first),
+          column_(column),
           stride_(stride),
           size_(size) {}
 
@@ -50,17 +56,26 @@ public:
     /// Where the item begins: at its tag, or at the "loop_" before it.
     const char* origin() const { return origin_; }
     bool in_loop() const { return origin_ != tag_.data(); }
+    /// Which column of its loop it is, from 0, and of how many.
+    /// @{
+    std::size_t column() const { return column_; }
+    std::size_t columns() const { return stride_; }
+    /// @}
     std::size_t size() const { return size_; }
     /// Whether any of the values has a text. O(n) for n values without.
     bool has_text() const;
     /// `row` is below size().
-    CifValue operator[](std::size_t row) const { return {(*values_)[first_ + row * stride_]}; }
+    CifValue operator[](std::size_t row) const { return in_row(row, column_); }
+    /// The value of any column of its loop; `row` is below size() and `column` below columns().
+    CifValue in_row(std::size_t row, std::size_t column) const {
+        return {(*values_)[first_ + column + row * stride_]};
+    }
 
 private:
     std::string_view tag_;
     const char* origin_;
     const std::vector<std::string_view>* values_;
-    std::size_t first_, stride_, size_;
+    std::size_t first_, column_, stride_, size_;
 };
 
 /// One data block of a document, which must live on.
@@ -91,7 +106,7 @@ private:
 };
 
 /// The structure of a CIF file: blocks, items and values are places in its bytes, which the caller
-/// keeps. 16 bytes a value and 48 a tag.
+/// keeps. 16 bytes a value and 64 a tag.
 class CifDocument {
 public:
     /// A byte order mark in front is passed over. Throws CifError.
@@ -129,6 +144,8 @@ public:
     std::string_view bytes() const { return bytes_; }
     /// Whether it says that it is of version 2 of CIF.
     bool is_version_2() const;
+    /// Where the heading of a block ends; `index` is below blocks().
+    const char* end_of_heading(std::size_t index) const;
     /// The items of a block, outside save frames, in the order of the file; `index` is below
     /// blocks().
     CifBlock::Items items(std::size_t index) const;

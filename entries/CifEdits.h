@@ -5,42 +5,51 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "entries/CifDocument.h"
+#include "entries/CifRow.h"
 #include "entries/Splice.h"
+#include "entries/written_value.h"
 
 /// Changes of the values of a document, gathered one by one and written as changes of its bytes, of
-/// which nothing else becomes another. Each value that was not named stays as it is, to the byte.
+/// which nothing else becomes another. Each value that was not named stays as it is, to the byte,
+/// and so do comments.
 class CifEdits {
 public:
-    /// What is said of a value: a text, or none, which is written "?".
-    using Text = std::optional<std::string>;
-    /// A row of a loop: one that is there, with the values of some columns replaced, or a new one,
-    /// whose other columns are "?".
-    struct Row {
-        std::optional<std::size_t> old;  ///< None: a new one.
-        std::vector<std::pair<const CifItem*, Text>> values{};
-    };
-
     /// The document and its bytes must live on.
-    explicit CifEdits(const CifDocument& document) : document_(document) {}
+    explicit CifEdits(const CifDocument& document) : document_(document), bytes_(document) {}
 
-    /// Replaces value `row` of an item, which is below its size; a text that it has already
-    /// changes nothing. Throws UnwritableText, as do the others, and then nothing is changed.
-    void set(const CifItem& item, std::size_t row, const Text& text);
+    /// Replaces value `row` of an item, which is below its size; none is written "?". Of several
+    /// texts the last counts, and one that it has already changes nothing. Throws UnwritableText,
+    /// as do the others, and then nothing is changed.
+    void set(const CifItem& item, std::size_t row, const std::optional<std::string>& text);
     /// Adds an item that the block lacks behind the last of its category, else at the block's end,
-    /// in the style of its neighbours.
+    /// in the style of its neighbours. Of several texts the last counts.
     void add(std::size_t block, std::string_view tag, const std::string& text);
-    /// Makes these the rows of the loop of an item, or of an item that is in none a loop. Rows of
-    /// the loop that are not named are removed, with all their columns.
-    void set_rows(const CifItem& item, const std::vector<Row>& rows);
+    /// Makes these the rows of the loop of an item, and of an item that is in no loop one where
+    /// there are several. Each old row is named once at most; those that are not are removed, with
+    /// all their columns. Of several calls for a loop the last counts.
+    void set_rows(const CifItem& item, std::vector<CifRow> rows);
 
-    bool empty() const;
-    /// What is to be done to the bytes.
+    bool empty() const { return splices().empty(); }
+    /// What is to be done to the bytes. O(n log n) for n changes and the bytes around them.
     Splices splices() const;
 
 private:
+    struct Loop {
+        const CifItem* item;
+        std::vector<CifRow> rows;
+    };
+    struct Addition {
+        std::size_t at;
+        std::size_t block;
+        std::string tag, text;
+    };
+
     const CifDocument& document_;
+    CifBytes bytes_;
+    CifBytes::Values values_;
+    std::map<const char*, Loop> loops_;  // by their origins
+    std::vector<Addition> additions_;
 };

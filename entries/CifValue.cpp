@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "entries/CifDocument.h"
+#include "entries/cif_text.h"
 
 namespace {
 
@@ -24,18 +25,32 @@ std::string_view without_quotes(const CifValue& value) {
     }
 }
 
-/// Lines end with "\n", whatever ends those of the file.
-std::string with_plain_line_ends(std::string_view text) {
-    std::string plain;
-    plain.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\r') {
-            plain += text[i];
-        } else if (text.substr(i + 1, 1) != "\n") {
-            plain += '\n';
-        }
+/// Where the line that ends at `end` ends with a backslash, and perhaps blanks: the place of that
+/// backslash, else npos.
+std::size_t fold_of_line(std::string_view text, std::size_t begin, std::size_t end) {
+    const std::size_t last = text.substr(0, end).find_last_not_of(" \t");
+    const bool is_fold = last != std::string_view::npos && last >= begin && text[last] == '\\';
+    return is_fold ? last : std::string_view::npos;
+}
+
+/// Whether the lines of a text field are folded: the first is a lone backslash.
+bool begins_folded(std::string_view text) {
+    const std::size_t end = text.find('\n');
+    return end != std::string_view::npos && fold_of_line(text, 0, end) == 0;
+}
+
+/// Joins each line that ends with a backslash with the next.
+std::string unfolded(std::string_view text) {
+    std::string joined;
+    joined.reserve(text.size());
+    for (std::size_t begin = 0;;) {
+        const std::size_t end = text.find('\n', begin);
+        if (end == std::string_view::npos) return joined.append(text.substr(begin));
+        const std::size_t fold = fold_of_line(text, begin, end);
+        const bool goes_on = fold != std::string_view::npos;
+        joined.append(text.substr(begin, goes_on ? fold - begin : end + 1 - begin));
+        begin = end + 1;
     }
-    return plain;
 }
 
 }  // namespace
@@ -60,4 +75,13 @@ std::string CifValue::text() const {
     const bool single = text.find_first_not_of(white_space, first + 1) == std::string_view::npos;
     const bool is_none = single && (text[first] == '?' || text[first] == '.' || raw == ";");
     return is_none ? "" : with_plain_line_ends(text);
+}
+
+bool CifValue::is_none() const { return raw.empty() || raw == "?" || raw == "."; }
+
+std::string CifValue::content() const {
+    if (is_none()) return "";
+    std::string text = with_plain_line_ends(without_quotes(*this));
+    if (quoting() != CifQuoting::text_field || !begins_folded(text)) return text;
+    return unfolded(text);
 }

@@ -36,6 +36,19 @@ std::string_view without_byte_order_mark(std::string_view bytes) {
     return bytes;
 }
 
+std::string with_plain_line_ends(std::string_view text) {
+    std::string plain;
+    plain.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r') {
+            plain += text[i];
+        } else if (text.substr(i + 1, 1) != "\n") {
+            plain += '\n';
+        }
+    }
+    return plain;
+}
+
 std::string in_lower_case(std::string_view text) {
     std::string result(text);
     for (char& c : result) {

@@ -12,6 +12,9 @@
 /// The bytes of a file behind the byte order mark that some editors write.
 std::string_view without_byte_order_mark(std::string_view bytes);
 
+/// The text with lines that end with "\n", whatever ends those of the file: "\r\n", "\r" or that.
+std::string with_plain_line_ends(std::string_view text);
+
 /// In lower case, as far as ASCII goes; the case of tags does not count.
 std::string in_lower_case(std::string_view text);
 

@@ -1,0 +1,77 @@
+#include "entries/CifBytes.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view line_ends = "\r\n";
+constexpr std::string_view blanks = " \t";
+
+bool is_blank(char c) { return c == ' ' || c == '\t'; }
+
+std::string_view first_line_end(std::string_view bytes) {
+    const std::size_t at = bytes.find_first_of(line_ends);
+    if (at == std::string_view::npos) return "\n";
+    return bytes.substr(at, bytes.substr(at, 2) == "\r\n" ? 2 : 1);
+}
+
+}  // namespace
+
+CifBytes::CifBytes(const CifDocument& document)
+    : all_(document.bytes()),
+      line_end_(first_line_end(all_)),
+      is_version_2_(document.is_version_2()) {}
+
+std::size_t CifBytes::begin_of(std::string_view part) const {
+    return static_cast<std::size_t>(part.data() - all_.data());
+}
+
+/// Looks no further than lines may be long.
+ValuePlace CifBytes::place_of(std::string_view value) const {
+    const std::size_t begin = begin_of(value);
+    std::size_t first = begin;
+    while (first > 0 && begin - first <= longest_cif_line && !is_line_end(all_[first - 1])) --first;
+    const std::string_view rest = all_.substr(end_of(value), longest_cif_line);
+    return {is_version_2_, line_end_, begin - first,
+            std::min(rest.find_first_of(line_ends), rest.size())};
+}
+
+std::string_view CifBytes::indent_before(std::size_t at) const {
+    const std::size_t first = before_blanks(at);
+    const bool begins_line = first == 0 || is_line_end(all_[first - 1]);
+    return begins_line ? all_.substr(first, at - first) : std::string_view();
+}
+
+std::size_t CifBytes::behind_comment(std::size_t at) const {
+    std::size_t end = behind_blanks(at);
+    if (end < all_.size() && all_[end] == '#')
+        end = std::min(all_.find_first_of(line_ends, end), all_.size());
+    return ends_line(end) ? end : at;
+}
+
+std::size_t CifBytes::behind_blanks(std::size_t at) const {
+    return std::min(all_.find_first_not_of(blanks, at), all_.size());
+}
+
+std::size_t CifBytes::before_blanks(std::size_t at) const {
+    while (at > 0 && is_blank(all_[at - 1])) --at;
+    return at;
+}
+
+std::size_t CifBytes::behind_line_end(std::size_t at) const {
+    if (at == all_.size()) return at;
+    return at + (all_.substr(at, 2) == "\r\n" ? 2 : 1);
+}
+
+std::size_t CifBytes::before_line_end(std::size_t at) const {
+    if (at == 0) return at;
+    return at - (at > 1 && all_.substr(at - 2, 2) == "\r\n" ? 2 : 1);
+}
+
+void CifBytes::append_comments(std::size_t from, std::size_t to, std::string& comments) const {
+    while ((from = std::min(all_.find('#', from), to)) < to) {
+        const std::size_t end = std::min(all_.find_first_of(line_ends, from), to);
+        comments.append(all_.substr(from, end - from)).append(line_end_);
+        from = end;
+    }
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "entries/CifDocument.h"
+#include "entries/written_value.h"
+
+/// The bytes of a document as they are seen when some of them are to be replaced: lines, blanks and
+/// comments around values.
+class CifBytes {
+public:
+    /// What shall stand in place of values, by where they begin and their size.
+    using Values = std::map<std::pair<std::size_t, std::size_t>, std::string>;
+
+    /// The document must live on.
+    explicit CifBytes(const CifDocument& document);
+
+    const std::string_view& all() const { return all_; }
+    /// As the first line ends.
+    std::string_view line_end() const { return line_end_; }
+    bool is_version_2() const { return is_version_2_; }
+
+    /// Where a part of the bytes begins and ends.
+    /// @{
+    std::size_t begin_of(std::string_view part) const;
+    std::size_t end_of(std::string_view part) const { return begin_of(part) + part.size(); }
+    /// @}
+    ValuePlace place_of(std::string_view value) const;
+    /// The blanks from which its line begins to a position, where there is nothing else.
+    bool only_blanks_before(std::size_t at) const { return indent_before(at).data() != nullptr; }
+    std::string_view indent_before(std::size_t at) const;
+    /// Behind the blanks and the comment that follow in the line where nothing else does, else the
+    /// position itself.
+    std::size_t behind_comment(std::size_t at) const;
+    /// Behind the blanks that follow, and those before.
+    /// @{
+    std::size_t behind_blanks(std::size_t at) const;
+    std::size_t before_blanks(std::size_t at) const;
+    /// @}
+    bool ends_line(std::size_t at) const { return at == all_.size() || is_line_end(all_[at]); }
+    /// Behind the line end at a position, and before the one that ends there.
+    /// @{
+    std::size_t behind_line_end(std::size_t at) const;
+    std::size_t before_line_end(std::size_t at) const;
+    /// @}
+    /// Appends the comments among the blanks of a range, each with a line end.
+    void append_comments(std::size_t from, std::size_t to, std::string& comments) const;
+
+    static bool is_line_end(char c) { return c == '\n' || c == '\r'; }
+
+private:
+    std::string_view all_, line_end_;
+    bool is_version_2_;
+};

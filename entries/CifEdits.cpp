@@ -1,0 +1,174 @@
+#include "entries/CifEdits.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "entries/cif_text.h"
+
+namespace {
+
+/// How many of the words of two tags, from the first, are the same: "_cell_length_a" and
+/// "_cell.length_b" have two in common.
+std::size_t common_words(std::string_view left, std::string_view right) {
+    const std::string a = in_lower_case(left), b = in_lower_case(right);
+    const auto is_separator = [](char c) { return c == '_' || c == '.'; };
+    std::size_t words = 0;
+    for (std::size_t i = 1;; ++i) {
+        const bool a_ends = i >= a.size() || is_separator(a[i]);
+        const bool b_ends = i >= b.size() || is_separator(b[i]);
+        if (a_ends && b_ends) ++words;
+        const bool either_is_done = i >= a.size() || i >= b.size();
+        if (either_is_done || (a[i] != b[i] && !(a_ends && b_ends))) return words;
+    }
+}
+
+std::size_t end_of_item(const CifItem& item, const CifBytes& bytes) {
+    return bytes.end_of(item.in_row(item.size() - 1, item.columns() - 1).raw);
+}
+
+/// The item behind which one is to be added: the last of those with the most words in common, or
+/// null where the block has none.
+const CifItem* neighbour_of(std::string_view tag, const CifBlock::Items& items) {
+    const CifItem* found = nullptr;
+    std::size_t most = 0;
+    for (const CifItem* item : items) {
+        if (item->size() == 0) continue;
+        const std::size_t common = common_words(tag, item->tag());
+        if (found && common < most) continue;
+        found = item;
+        most = common;
+    }
+    return found;
+}
+
+/// How an item stands in its line.
+struct ItemStyle {
+    std::string_view indent, gap = " ";
+    std::size_t column = 0;  // of the value, behind the indent
+
+    std::string before_value(std::string_view tag) const {
+        std::string text(indent);
+        text += tag;
+        if (gap.find('\t') != std::string_view::npos) return text.append(gap);
+        return text.append(column > tag.size() ? column - tag.size() : 1, ' ');
+    }
+};
+
+/// That of the last item before a place that stands in one line, else of the first behind it.
+ItemStyle style_at(std::size_t place, const CifBlock::Items& items, const CifBytes& bytes) {
+    ItemStyle style;
+    bool found = false;
+    for (const CifItem* item : items) {
+        const std::size_t begin = bytes.begin_of(item->tag());
+        if (found && begin > place) break;
+        if (item->in_loop() || !bytes.only_blanks_before(begin)) continue;
+        const std::size_t end = bytes.end_of(item->tag());
+        const std::size_t value = bytes.begin_of((*item)[0].raw);
+        if (bytes.behind_blanks(end) != value || value == end) continue;
+        style = {bytes.indent_before(begin), bytes.all().substr(end, value - end), value - begin};
+        found = true;
+    }
+    return style;
+}
+
+/// Joins changes where one stands within another: what is added behind a row that is removed.
+Splices joined(Splices splices, std::string_view line_end) {
+    Splices result;
+    for (Splice& splice : splices) {
+        Splice* const last = result.empty() ? nullptr : &result.back();
+        if (!last || splice.from >= last->from + last->before.size()) {
+            result.push_back(std::move(splice));
+            continue;
+        }
+        std::string_view added = splice.after;
+        if (last->after.empty() && added.starts_with(line_end)) {
+            added.remove_prefix(line_end.size());
+        }
+        last->after.append(added).append(line_end);
+    }
+    return result;
+}
+
+}  // namespace
+
+void CifEdits::set(const CifItem& item, std::size_t row, const std::optional<std::string>& text) {
+    const CifValue value = item[row];
+    const std::pair key(bytes_.begin_of(value.raw), value.raw.size());
+    const bool stays =
+        text ? !value.is_none() && with_plain_line_ends(*text) == value.content() : value.is_none();
+    if (stays) {
+        values_.erase(key);
+        return;
+    }
+    std::string written =
+        text ? written_value(*text, value.quoting(), bytes_.place_of(value.raw)) : "?";
+    if (value.raw.empty()) written += bytes_.line_end();  // it was missing before the next line
+    values_[key] = std::move(written);
+}
+
+void CifEdits::add(std::size_t block, std::string_view tag, const std::string& text) {
+    const CifBlock::Items items = document_.items(block);
+    const CifItem* const neighbour = neighbour_of(tag, items);
+    const std::size_t end = neighbour ? end_of_item(*neighbour, bytes_)
+                                      : bytes_.end_of({document_.end_of_heading(block), 0});
+    const std::string line = style_at(end, items, bytes_).before_value(tag);
+    const std::string value = written_value(
+        text, CifQuoting::bare, {bytes_.is_version_2(), bytes_.line_end(), line.size(), 0});
+    std::string written(bytes_.line_end());
+    const bool in_next_line = CifBytes::is_line_end(value.front());
+    written += in_next_line ? line.substr(0, line.find_last_not_of(" \t") + 1) : line;
+    written += value;
+    const std::string name = in_lower_case(tag);
+    const auto same = std::find_if(additions_.begin(), additions_.end(), [&](const Addition& one) {
+        return one.block == block && one.tag == name;
+    });
+    if (same != additions_.end()) {
+        same->text = std::move(written);
+    } else {
+        additions_.push_back({bytes_.behind_comment(end), block, name, std::move(written)});
+    }
+}
+
+void CifEdits::set_rows(const CifItem& item, std::vector<CifRow> rows) {
+    if (rows.empty()) rows.emplace_back();
+    const CifBytes::Values before = values_;
+    try {
+        for (const CifRow& row : rows) {
+            if (!row.old) static_cast<void>(new_row(item, row, bytes_, 0));
+            for (const auto& [column, text] : row.values) {
+                if (row.old) set(*column, *row.old, text);
+            }
+        }
+        const bool is_one_value = !item.in_loop() && rows.size() == 1;
+        if (is_one_value && !rows[0].old) {
+            set(item, 0, rows[0].values.empty() ? std::nullopt : rows[0].values[0].second);
+        }
+        if (is_one_value) {
+            loops_.erase(item.origin());
+        } else {
+            loops_[item.origin()] = {&item, std::move(rows)};
+        }
+    } catch (...) {
+        values_ = before;
+        throw;
+    }
+}
+
+Splices CifEdits::splices() const {
+    Splices all;
+    CifBytes::Values values = values_;
+    for (const auto& [origin, loop] : loops_) {
+        const auto append = loop.item->in_loop() ? append_rows : append_new_loop;
+        append(*loop.item, loop.rows, bytes_, values, all);
+    }
+    for (auto& [place, written] : values) {
+        const auto& [begin, size] = place;
+        all.push_back({begin, std::string(bytes_.all().substr(begin, size)), written});
+    }
+    for (const Addition& addition : additions_) all.push_back({addition.at, "", addition.text});
+    // What is added at a place stands before what is replaced from there on.
+    std::stable_sort(all.begin(), all.end(), [](const Splice& a, const Splice& b) {
+        return a.from != b.from ? a.from < b.from : a.before.empty() && !b.before.empty();
+    });
+    return joined(std::move(all), bytes_.line_end());
+}
