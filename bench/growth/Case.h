@@ -38,3 +38,5 @@ std::vector<Case> style_cases();
 std::vector<Case> text_cases();
 /// Those that compare texts.
 std::vector<Case> comparison_cases();
+/// Those that edit files.
+std::vector<Case> edit_cases();

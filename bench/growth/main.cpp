@@ -32,4 +32,5 @@ int main() {
     for (const Case& c : style_cases()) run(c);
     for (const Case& c : text_cases()) run(c);
     for (const Case& c : comparison_cases()) run(c);
+    for (const Case& c : edit_cases()) run(c);
 }
