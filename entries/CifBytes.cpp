@@ -32,8 +32,8 @@ ValuePlace CifBytes::place_of(std::string_view value) const {
     std::size_t first = begin;
     while (first > 0 && begin - first <= longest_cif_line && !is_line_end(all_[first - 1])) --first;
     const std::string_view rest = all_.substr(end_of(value), longest_cif_line);
-    return {is_version_2_, line_end_, begin - first,
-            std::min(rest.find_first_of(line_ends), rest.size())};
+    const std::size_t behind = std::min({rest.find('\n'), rest.find('\r'), rest.size()});
+    return {is_version_2_, line_end_, begin - first, behind};
 }
 
 std::string_view CifBytes::indent_before(std::size_t at) const {

@@ -67,7 +67,7 @@ Case written(const char* name, unsigned int size, const char* unit) {
 std::vector<Case> edit_cases() {
     return {
         edited("values", 1000, lines, "a# b\n", set_all),
-        edited("values of one line", 1000, "data_a loop_ _n ", "# ", set_all),
+        edited("values of one line", 2000, "data_a loop_ _n ", "# ", set_all),
         edited("rows reversed", 1000, lines, "a# b # of #\n", reverse_rows),
         edited("rows of one line reversed", 1000, "data_a loop_ _n ", "# ", reverse_rows),
         edited("rows replaced", 1000, lines, "a# 'b'\n", replace_rows),
