@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "entries/Problem.h"
@@ -20,10 +21,21 @@ struct CheckCode {
 std::span<const CheckCode> check_codes();
 /// Null where there is none.
 const CheckCode* check_code(std::string_view code);
+/// An example or a near miss as a whole file.
+std::string file_of_example(const char* example);
+
+/// Codes that belong together.
+struct CheckSubject {
+    const char* name;  ///< "Symmetry".
+    std::span<const CheckCode> (*codes)();
+};
+std::span<const CheckSubject> check_subjects();
 
 // Those of each subject.
 
 std::span<const CheckCode> file_codes();
+/// Of values that reading asks for.
+std::span<const CheckCode> reading_codes();
 std::span<const CheckCode> text_codes();
 std::span<const CheckCode> publication_codes();
 std::span<const CheckCode> formula_codes();

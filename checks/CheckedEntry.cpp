@@ -56,8 +56,10 @@ CheckFinding& CheckedEntry::add(std::string_view code, const char* place, std::s
     CheckFinding& finding = findings_.emplace_back(CheckFinding{row, {}});
     Problem& problem = finding.problem;
     problem.level = row->level;
+    problem.code = row->code;
     problem.line = document_.line_of(place);
     problem.column = document_.column_of(place);
+    problem.offset = static_cast<std::size_t>(place - document_.bytes().data());
     problem.block = std::string(document_.name_of(document_.block_at(place)));
     problem.what = row->summary;
     problem.found = std::move(found);

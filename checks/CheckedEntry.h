@@ -65,10 +65,12 @@ private:
 
 // The checks of each subject, which the codes of the same subject tell of.
 
-void check_text(CheckedEntry& entry);
 void check_publication(CheckedEntry& entry);
 void check_formula(CheckedEntry& entry);
 void check_cell(CheckedEntry& entry);
 void check_symmetry(CheckedEntry& entry);
 /// Of the whole file, once.
+/// @{
 void check_file(const CifDocument& document, CheckFindings& findings);
+void check_text(const CifDocument& document, CheckFindings& findings);
+/// @}

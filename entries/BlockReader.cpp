@@ -5,6 +5,7 @@
 
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
+#include "entries/place_in_value.h"
 
 namespace {
 
@@ -51,7 +52,7 @@ BlockReader::Value BlockReader::first_value(Tags tags) {
         const CifItem* const found = item(tag);
         for (std::size_t row = 0; found && !value && row < found->size(); ++row) {
             value.text = (*found)[row].text();
-            if (!value.text.empty()) value.item = found;
+            if (!value.text.empty()) value = {found, std::move(value.text), row};
         }
     }
     return value;
@@ -79,9 +80,10 @@ void BlockReader::note_doubts(const Value& value, const CodedText& text) {
     std::vector<Problem> doubts;
     text.append_doubts(doubts);
     for (const Problem& doubt : doubts) {
-        Problem& problem = add_problem(*value.item, doubt.what);
+        Problem& problem = add_problem(*value.item, doubt.code, doubt.what);
         problem.level = doubt.level;
         problem.found = doubt.found;
+        problem.offset = offset_of(value, text.text().substr(0, doubt.column - 1));
     }
 }
 
@@ -90,42 +92,54 @@ std::optional<UncertainValue> BlockReader::number(Tags tags) {
     if (!value) return std::nullopt;
     const std::optional<UncertainValue> read = read_number(value.text);
     const bool is_usable = read && std::abs(read->value) < beyond_use;
-    if (!is_usable) add_unexpected(value, "a number");
+    if (!is_usable) add_unexpected(value, "not-a-number", "a number");
     return is_usable ? read : std::nullopt;
 }
 
-Problem& BlockReader::add_block_problem(const CifItem& at, std::string what) {
-    return add_block_problem(at.origin(), std::move(what));
+Problem& BlockReader::add_block_problem(const CifItem& at, const char* code, std::string what) {
+    Problem& problem = add_block_problem(at.origin(), code, std::move(what));
+    problem.offset = offset_of(at.tag().data());
+    return problem;
 }
 
-Problem& BlockReader::add_block_problem(const char* place, std::string what) {
+Problem& BlockReader::add_block_problem(const char* place, const char* code, std::string what) {
     const std::size_t block = document_.block_at(place);
     if (block != index_ && !tells_of_common_) return untold_ = {};
     Problem problem;
+    problem.code = code;
     problem.line = document_.line_of(place);
+    problem.offset = offset_of(place);
     problem.block = std::string(document_.name_of(block));
     problem.what = std::move(what);
     problems_.push_back(std::move(problem));
     return problems_.back();
 }
 
-Problem& BlockReader::add_problem(const CifItem& item, std::string what) {
-    Problem& problem = add_block_problem(item, std::move(what));
+Problem& BlockReader::add_problem(const CifItem& item, const char* code, std::string what) {
+    Problem& problem = add_block_problem(item, code, std::move(what));
     problem.item = in_lower_case(item.tag());
     return problem;
 }
 
-Problem& BlockReader::add_problem(const Value& value, std::string what) {
-    Problem& problem = add_problem(*value.item, std::move(what));
+Problem& BlockReader::add_problem(const Value& value, const char* code, std::string what) {
+    Problem& problem = add_problem(*value.item, code, std::move(what));
+    problem.offset = offset_of(value, "");
     problem.found = one_line(value.text);
     return problem;
 }
 
-Problem& BlockReader::add_unexpected(const Value& value, std::string expected) {
-    Problem& problem = add_problem(*value.item, "");
-    problem.found = one_line(value.text);
+Problem& BlockReader::add_unexpected(const Value& value, const char* code, std::string expected) {
+    Problem& problem = add_problem(value, code, "");
     problem.expected = std::move(expected);
     return problem;
+}
+
+std::size_t BlockReader::offset_of(const char* place) const {
+    return static_cast<std::size_t>(place - document_.bytes().data());
+}
+
+std::size_t BlockReader::offset_of(const Value& value, std::string_view before) const {
+    return offset_of(place_in_value((*value.item)[value.row], before));
 }
 
 void BlockReader::note_repetitions() {
@@ -138,6 +152,6 @@ void BlockReader::note_repetitions(const CifBlock& block) {
     for (const CifItem* repeated : block.repetitions()) {
         const CifItem* const first = block.find(repeated->tag());
         if (!std::binary_search(asked_for_.begin(), asked_for_.end(), first)) continue;
-        add_problem(*repeated, "given again; the first value counts");
+        add_problem(*repeated, "item-twice", "given again; the first value counts");
     }
 }

@@ -27,6 +27,7 @@ public:
     struct Value {
         const CifItem* item = nullptr;  // null: there is none
         std::string text;
+        std::size_t row = 0;
 
         explicit operator bool() const { return item != nullptr; }
     };
@@ -61,16 +62,16 @@ public:
     std::optional<UncertainValue> number(Tags tags);
 
     /// Adds a problem of the block that shows at a place of the file or at an item, or of the item
-    /// itself.
+    /// itself. `code` is what checks call it.
     /// @{
-    Problem& add_block_problem(const char* place, std::string what);
-    Problem& add_block_problem(const CifItem& at, std::string what);
-    Problem& add_problem(const CifItem& item, std::string what);
+    Problem& add_block_problem(const char* place, const char* code, std::string what);
+    Problem& add_block_problem(const CifItem& at, const char* code, std::string what);
+    Problem& add_problem(const CifItem& item, const char* code, std::string what);
     /// @}
     /// Likewise of a value, which belongs to what is wrong, or is not what was expected.
     /// @{
-    Problem& add_problem(const Value& value, std::string what);
-    Problem& add_unexpected(const Value& value, std::string expected);
+    Problem& add_problem(const Value& value, const char* code, std::string what);
+    Problem& add_unexpected(const Value& value, const char* code, std::string expected);
     /// @}
     /// Adds the doubts about the codes of a value.
     void note_doubts(const Value& value, const CodedText& text);
@@ -84,6 +85,9 @@ public:
 private:
     const CifItem* find(std::string_view tag) const;
     void note_repetitions(const CifBlock& block);
+    std::size_t offset_of(const char* place) const;
+    /// Of what stands behind `before` in the text of a value on one line.
+    std::size_t offset_of(const Value& value, std::string_view before) const;
 
     const CifDocument& document_;
     std::size_t index_;

@@ -9,6 +9,14 @@ namespace {
 
 namespace pegtl = tao::pegtl;
 
+constexpr char rows_not_full[] = "Wrong number of values in the loop";
+
+/// What checks call what the grammar finds.
+const char* code_of(const std::string& message) {
+    if (message == rows_not_full) return "loop-not-full";
+    return message.rfind("unterminated", 0) == 0 ? "not-terminated" : "not-cif";
+}
+
 /// Takes what the grammar finds, in the order of the file.
 struct Builder {
     CifDocument::Contents& contents;
@@ -42,11 +50,13 @@ struct Builder {
         if (value == ";") {
             contents.doubts.push_back({value.data(),
                                        "';' alone begins a text field only at the "
-                                       "beginning of a line"});
+                                       "beginning of a line",
+                                       "lone-semicolon"});
         } else if (line > 0 && line + 1 < value.size()) {
             contents.doubts.push_back({value.data() + line,
                                        "';' at the beginning of a line of a "
-                                       "text field"});
+                                       "text field",
+                                       "semicolon-in-field"});
         }
     }
 
@@ -106,7 +116,7 @@ struct Action<cif_rules::loop> {
     template <class Match>
     static void apply(const Match& in, Builder& builder) {
         if (builder.end_loop()) return;
-        throw pegtl::parse_error("Wrong number of values in the loop", in);
+        throw pegtl::parse_error(rows_not_full, in);
     }
 };
 
@@ -145,7 +155,9 @@ CifDocument::CifDocument(std::string_view bytes) : bytes_(bytes) {
         pegtl::parse<cif_rules::file, Action, Control>(cif_rules::Input(bytes), builder);
     } catch (const pegtl::parse_error& error) {
         const std::size_t place = error.positions().front().byte;
-        throw CifError(line_of(bytes.data() + place), std::string(error.message()));
+        const std::string message(error.message());
+        throw CifError(line_of(bytes.data() + place), message, code_of(message),
+                       column_of(bytes.data() + place));
     }
     if (contents_.blocks.empty()) throw CifError(1, "expected a data block");
 }

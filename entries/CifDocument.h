@@ -10,13 +10,19 @@
 class CifError : public std::runtime_error {
 public:
     /// `line` counts from 1.
-    CifError(unsigned long line, const std::string& reason)
-        : std::runtime_error(reason), line_(line) {}
+    CifError(unsigned long line, const std::string& reason, const char* code = "not-cif",
+             unsigned long column = 0)
+        : std::runtime_error(reason), line_(line), column_(column), code_(code) {}
 
     unsigned long line() const { return line_; }
+    /// In bytes, from 1; 0: not known.
+    unsigned long column() const { return column_; }
+    /// What checks call it.
+    const char* code() const { return code_; }
 
 private:
-    unsigned long line_;
+    unsigned long line_, column_;
+    const char* code_;
 };
 
 /// What sets a value off from what stands around it. Lists and tables are bare.
@@ -130,6 +136,7 @@ public:
     struct Doubt {
         const char* place;
         const char* what;
+        const char* code;  ///< What checks call it.
     };
     /// Those of a block, in the order of the file; `index` is below blocks().
     std::vector<Doubt> doubts(std::size_t index) const;

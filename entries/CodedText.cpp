@@ -9,16 +9,22 @@ constexpr std::size_t most_doubts = 10;
 
 using Doubt = CifTextStyleFinder::Doubt;
 
-const char* words_of(Doubt::Kind kind) {
+/// What is said of a doubt, and what checks call it.
+struct Wording {
+    const char* what;
+    const char* code;
+};
+
+Wording wording_of(Doubt::Kind kind) {
     switch (kind) {
         case Doubt::unknown_code:
-            return "unknown code";
+            return {"unknown code", "unknown-code"};
         case Doubt::unknown_reference:
-            return "reference to no character";
+            return {"reference to no character", "unknown-reference"};
         case Doubt::lone_mark:
-            return "no partner for";
+            return {"no partner for", "lone-mark"};
         default:
-            return "not UTF-8";
+            return {"not UTF-8", "not-utf8"};
     }
 }
 
@@ -61,9 +67,12 @@ void append_doubts_of(const CifTextStyleFinder& finder, std::vector<Problem>& pr
         problem.column = place.from() + 1UL;
         if (i == most_doubts) {
             problem.what = std::to_string(doubts.size() - i) + " more codes in doubt";
+            problem.code = "more-codes-in-doubt";
             return;
         }
-        problem.what = words_of(doubts[i].kind);
+        const Wording wording = wording_of(doubts[i].kind);
+        problem.what = wording.what;
+        problem.code = wording.code;
         problem.found = finder.text().substr(place.from(), place.length());
     }
 }

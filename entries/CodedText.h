@@ -17,6 +17,8 @@ public:
 
     explicit CodedText(const std::string& text);
 
+    const std::string& text() const { return finder_->text(); }
+
     /// In UTF-8, as far as Unicode has raised and lowered characters with them.
     std::string unicode() const;
     /// In the database's own mark-up; what is beyond ASCII is in UTF-8.

@@ -94,7 +94,8 @@ CifEntry EntryReader::operator[](std::size_t index) const {
     read_further_fields(block);
     const auto note_doubts = [&](std::size_t index_of_block) {
         for (const CifDocument::Doubt& doubt : document_.doubts(index_of_block)) {
-            block.add_block_problem(doubt.place, doubt.what).level = Problem::Level::warning;
+            block.add_block_problem(doubt.place, doubt.code, doubt.what).level =
+                Problem::Level::warning;
         }
     };
     for (std::size_t i = common ? common->first : 0;

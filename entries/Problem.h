@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -13,11 +14,13 @@ struct Problem {
     };
 
     Level level = Level::error;
+    const char* code = "";   ///< What checks call it for good, "pages-reversed"; empty: nothing.
     bool is_of_run = false;  ///< Of all that is done, not of one text: to be said once.
     std::string file;        ///< As the user named it; empty where the front end knows.
     unsigned long line = 0;  ///< From 1; 0: not known. For lists of texts, the number of the text.
-    unsigned long column = 0;                ///< In bytes, from 1; 0: not known.
-    std::optional<std::string> block;        ///< The name of the data block.
+    unsigned long column = 0;           ///< In bytes, from 1; 0: not known.
+    std::optional<std::size_t> offset;  ///< In bytes of the file, from 0: more closely than `line`.
+    std::optional<std::string> block;   ///< The name of the data block.
     std::optional<std::string> other_block;  ///< The name of the one that it is compared with.
     std::string item;                        ///< The item of the block, or the label of the field.
     std::string what;                        ///< What is wrong, where the other two do not say it.

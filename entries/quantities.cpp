@@ -40,8 +40,8 @@ std::optional<double> read_per_cent(BlockReader& block, Tags tags) {
     const std::optional<UncertainValue> fraction = block.number(tags);
     if (!fraction) return std::nullopt;
     if (fraction->value > 1) {
-        block.add_unexpected(block.first_value(tags), "a number up to 1").level =
-            Problem::Level::warning;
+        block.add_unexpected(block.first_value(tags), "r-factor-above-1", "a number up to 1")
+            .level = Problem::Level::warning;
     }
     return 100 * fraction->value;
 }

@@ -20,8 +20,10 @@ void read_volume(BlockReader& block, const std::optional<Cell>& cell) {
     if (std::abs(volume->value - cell->volume()) <= volume_tolerance(*cell, *volume)) return;
     std::ostringstream calculated;
     UncertainValue{cell->volume(), 0, volume->decimals}.print(calculated);
-    block.add_unexpected(written, calculated.str() + " as edges and angles make it").level =
-        Problem::Level::warning;
+    block
+        .add_unexpected(written, "volume-mismatch",
+                        calculated.str() + " as edges and angles make it")
+        .level = Problem::Level::warning;
 }
 
 }  // namespace
@@ -39,7 +41,8 @@ void read_cell(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
     }
     const BlockReader::Value some = block.first_value(cif_tags::cell);
     if (some && !lacking.empty()) {
-        block.add_block_problem(*some.item, "the cell has no " + std::string(lacking));
+        block.add_block_problem(*some.item, "cell-incomplete",
+                                "the cell has no " + std::string(lacking));
     }
     if (!complete) return read_volume(block, std::nullopt);
     const Cell cell{parameters[0],   parameters[1],   parameters[2],
@@ -47,5 +50,6 @@ void read_cell(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
     entry.crystal_info->cell = cell;
     read_volume(block, cell);
     if (cell.volume() > 0) return;
-    block.add_block_problem(*block.item(cif_tags::cell[0]), "no cell has these edges and angles");
+    block.add_block_problem(*block.item(cif_tags::cell[0]), "no-such-cell",
+                            "no cell has these edges and angles");
 }

@@ -43,13 +43,16 @@ void add_incomplete_reference(BlockReader& block, const Publication& article) {
 void read_publication(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
     Publication& article = *entry.publication;
     const CifItem* const authors = block.item(cif_tags::author);
+    std::size_t row = 0;
     for (std::string& author : block.texts(cif_tags::author)) {
-        if (author.empty()) continue;
-        const BlockReader::Value value{authors, std::move(author)};
+        const BlockReader::Value value{authors, std::move(author), row++};
+        if (value.text.empty()) continue;
         const PersonName name = read_person_name(block.decoded(value));
         if (name.doubtful) {
-            block.add_problem(value, "given names and surname cannot be told apart in").level =
-                Problem::Level::note;
+            block
+                .add_problem(value, "name-in-doubt",
+                             "given names and surname cannot be told apart in")
+                .level = Problem::Level::note;
         }
         if (!name.text.empty()) article.authors.push_back(name.text);
     }
@@ -66,7 +69,7 @@ void read_dates(BlockReader& block, CrystalStructureDatabaseEntry& entry) {
     if (created) {
         const std::optional<Date> date = read_date(created.text);
         if (date) editors.accession_date = *date;
-        if (!date) block.add_unexpected(created, "a date like 2004-07-09");
+        if (!date) block.add_unexpected(created, "not-a-date", "a date like 2004-07-09");
     }
     // The record has a line for each update, beginning with the date; the last line counts.
     std::istringstream lines(block.first_value(just(cif_tags::update)).text);

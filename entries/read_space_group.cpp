@@ -13,8 +13,9 @@ using Entry = CrystalStructureDatabaseEntry;
 Operations listed_operations(BlockReader& block, const CifItem* item) {
     if (!item) return {};
     if (item->size() > most_operations) {
-        block.add_problem(*item, std::to_string(item->size()) + " operations, expected up to " +
-                                     std::to_string(most_operations));
+        block.add_problem(*item, "too-many-operations",
+                          std::to_string(item->size()) + " operations, expected up to " +
+                              std::to_string(most_operations));
         return {};
     }
     std::vector<std::string> texts;
@@ -185,7 +186,7 @@ void SpaceGroupReader::warn(const CifItem& item, const std::string& what) {
     std::string text = subject_;
     text += name_of(setting_);
     text += ' ';
-    block_.add_problem(item, text + what).level = Problem::Level::warning;
+    block_.add_problem(item, "space-groups-differ", text + what).level = Problem::Level::warning;
 }
 
 }  // namespace
@@ -199,7 +200,7 @@ void read_space_group(BlockReader& block, Entry& entry) {
         info.spacegroup = {group->hm, group->number, group->centring_type()};
     } else if (symbol) {
         info.spacegroup.symbol = one_line(symbol.text);
-        block.add_problem(symbol, "unknown space group");
+        block.add_problem(symbol, "unknown-space-group", "unknown space group");
     }
     if (info.cell && group) {
         info.reduced_cell = ReducedCell::of(*info.cell, info.spacegroup.centring);

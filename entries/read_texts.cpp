@@ -90,7 +90,7 @@ std::string read_name(BlockReader& block, const BlockReader::Value& name, std::s
         block.note_doubts(name, text);
         return text.tevo();
     } catch (const std::exception& error) {
-        block.add_problem(name, std::string(error.what()) + " in");
+        block.add_problem(name, "styles-cross", std::string(error.what()) + " in");
         return "";
     }
 }
@@ -121,7 +121,8 @@ void read_melting_point(BlockReader& block, Entry& entry) {
     if (point) shown = with_unit(block.decoded(point), kelvin);
     const std::optional<UncertainValue> number = read_number(point.text);
     if (number && number->value < lowest_melting_point) {
-        block.add_unexpected(point, "a temperature in K").level = Problem::Level::warning;
+        block.add_unexpected(point, "not-in-kelvin", "a temperature in K").level =
+            Problem::Level::warning;
     }
     if (point) return;
     const std::string above = block.first_decoded_text(just(cif_tags::melting_point_above));
@@ -134,18 +135,21 @@ void read_melting_point(BlockReader& block, Entry& entry) {
 void read_names(BlockReader& block, Entry& entry) {
     std::string& compound_name = entry.chemical_info->compound_name;
     std::string as_written;
+    std::size_t row = 0;
     for (std::string& name : block.texts(cif_tags::name)) {
         if (!compound_name.empty()) break;
-        compound_name = read_name(block, {block.item(cif_tags::name), std::move(name)}, as_written);
+        compound_name =
+            read_name(block, {block.item(cif_tags::name), std::move(name), row++}, as_written);
     }
     if (!compound_name.empty()) {
         block.add_text({Names::text(Names::compound_name), "cif-text", as_written});
     }
     std::string all_as_written;
     for (const std::string_view tag : cif_tags::synonyms) {
+        row = 0;
         for (std::string& name : block.texts(tag)) {
             const std::string synonym =
-                read_name(block, {block.item(tag), std::move(name)}, as_written);
+                read_name(block, {block.item(tag), std::move(name), row++}, as_written);
             if (synonym.empty()) continue;
             if (!all_as_written.empty()) all_as_written += "; ";
             all_as_written += as_written;

@@ -1,0 +1,154 @@
+#include "checks/check_entries.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "checks/CheckedEntry.h"
+
+namespace {
+
+/// What looks for codes in each entry.
+struct EntryCheck {
+    std::span<const CheckCode> (*codes)();
+    void (*check)(CheckedEntry& entry);
+};
+
+constexpr EntryCheck entry_checks[] = {
+    {publication_codes, check_publication},
+    {formula_codes, check_formula},
+    {cell_codes, check_cell},
+    {symmetry_codes, check_symmetry},
+};
+
+/// Likewise in a file.
+struct FileCheck {
+    std::span<const CheckCode> (*codes)();
+    void (*check)(const CifDocument& document, CheckFindings& findings);
+};
+
+constexpr FileCheck file_checks[] = {
+    {file_codes, check_file},
+    {text_codes, check_text},
+};
+
+const CheckCode& code_named(const char* code) {
+    const CheckCode* const row = check_code(code);
+    if (!row) throw std::logic_error("no such code: '" + std::string(code) + "'");
+    return *row;
+}
+
+/// Where findings of a document stand.
+class Regions {
+public:
+    explicit Regions(const CifDocument& document) : document_(document) {}
+
+    void note(CheckFinding& finding) const {
+        const std::size_t offset = finding.problem.offset.value_or(0);
+        const char* const place = document_.bytes().data() + offset;
+        finding.problem.line = document_.line_of(place);
+        finding.problem.column = document_.column_of(place);
+        finding.region = region(offset, offset < document_.bytes().size() ? 1 : 0);
+        if (!finding.repair) return;
+        finding.repaired_region = region(finding.repair->from, finding.repair->before.size());
+    }
+
+private:
+    FileRegion region(std::size_t from, std::size_t length) const {
+        FileRegion region;
+        find(from, region.line, region.column);
+        find(from + length, region.end_line, region.end_column);
+        return region;
+    }
+
+    void find(std::size_t offset, unsigned long& line, unsigned long& column) const {
+        const char* const place = document_.bytes().data() + offset;
+        line = document_.line_of(place);
+        const char* const begin = place - (document_.column_of(place) - 1);
+        column = 1 + static_cast<unsigned long>(std::count_if(begin, place, [](char c) {
+                     return (static_cast<unsigned char>(c) & 0xC0U) != 0x80;
+                 }));
+    }
+
+    const CifDocument& document_;
+};
+
+/// Takes the problems that reading has found of an entry.
+void take_problems(CifEntry& entry, CheckFindings& findings) {
+    for (Problem& problem : entry.problems) {
+        findings.push_back({&code_named(problem.code), std::move(problem)});
+    }
+}
+
+/// In the order of the file, each fault once, however many have found it.
+void put_in_order(CheckFindings& findings) {
+    const auto place = [](const CheckFinding& finding) {
+        return finding.problem.offset.value_or(0);
+    };
+    std::stable_sort(findings.begin(), findings.end(),
+                     [&](const CheckFinding& a, const CheckFinding& b) {
+                         if (place(a) != place(b)) return place(a) < place(b);
+                         return std::string_view(a.code->code) < b.code->code;
+                     });
+    const auto is_same = [&](const CheckFinding& a, const CheckFinding& b) {
+        return a.code == b.code && place(a) == place(b);
+    };
+    findings.erase(std::unique(findings.begin(), findings.end(), is_same), findings.end());
+}
+
+}  // namespace
+
+CheckFindings check_entries(const EntryReader& entries, const WantedChecks& wanted) {
+    CheckFindings findings;
+    const CifDocument& document = entries.document();
+    for (const FileCheck& row : file_checks) {
+        if (wanted.contain_any(row.codes())) row.check(document, findings);
+    }
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        CifEntry entry = entries[i];
+        CheckedEntry checked(document, entry, entries.common_block_of(i), findings);
+        for (const EntryCheck& row : entry_checks) {
+            if (wanted.contain_any(row.codes())) row.check(checked);
+        }
+        take_problems(entry, findings);
+    }
+    std::erase_if(findings, [&](const CheckFinding& finding) {
+        return !wanted.contain(*finding.code, finding.problem.level);
+    });
+    put_in_order(findings);
+    const Regions regions(document);
+    for (CheckFinding& finding : findings) regions.note(finding);
+    return findings;
+}
+
+CheckFinding finding_of(const CifError& error) {
+    CheckFinding finding{&code_named(error.code()), {}};
+    Problem& problem = finding.problem;
+    problem.code = finding.code->code;
+    problem.level = finding.code->level;
+    problem.line = error.line();
+    problem.column = error.column();
+    problem.what = error.what();
+    finding.region.line = finding.region.end_line = std::max(error.line(), 1UL);
+    finding.region.column = finding.region.end_column = std::max(error.column(), 1UL);
+    return finding;
+}
+
+Splices repairs_of(const CheckFindings& findings) {
+    Splices repairs;
+    for (const CheckFinding& finding : findings) {
+        if (finding.repair) repairs.push_back(*finding.repair);
+    }
+    std::stable_sort(repairs.begin(), repairs.end(),
+                     [](const Splice& a, const Splice& b) { return a.from < b.from; });
+    std::size_t end = 0;
+    bool any = false;
+    std::erase_if(repairs, [&](const Splice& repair) {
+        const bool touches = any && repair.from <= end;
+        if (!touches) end = repair.from + repair.before.size();
+        any = true;
+        return touches;
+    });
+    return repairs;
+}

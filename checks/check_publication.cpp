@@ -1,0 +1,3 @@
+#include "checks/CheckedEntry.h"
+
+void check_publication(CheckedEntry& /*entry*/) {}
