@@ -7,10 +7,9 @@
 
 #include "markup/TextItemToHtml5Greek.h"
 #include "markup/TextItemToStringColor.h"
-#include "markup/Utf8.h"
-#include "markup/internal/controls.h"
 #include "output/comparison_summary.h"
 #include "output/finding_sentences.h"
+#include "output/harmless_json.h"
 #include "output/match_reason.h"
 #include "text/Position.h"
 #include "text/TextAtom.h"
@@ -139,36 +138,7 @@ Json json_of(const ComparisonLayout::Side& side) {
     return {{"file", side.file}, {"block", side.block}};
 }
 
-/// nlohmann's JSON with escapes, which stand only in strings, for what would act where it is shown
-/// and for what would end a script of a page that embeds it.
-std::string harmless(std::string_view json) {
-    const auto may_act = [](char c) { return c == '<' || static_cast<unsigned char>(c) >= 0x7F; };
-    std::string result;
-    result.reserve(json.size());
-    while (true) {
-        const auto next = std::find_if(json.begin(), json.end(), may_act);
-        const auto plain = static_cast<std::size_t>(next - json.begin());
-        result += json.substr(0, plain);
-        json.remove_prefix(plain);
-        if (json.empty()) return result;
-        const Utf8Character character = first_character(json);
-        const char32_t code = character.code;
-        const bool ends_line = code == 0x2028 || code == 0x2029;    // to JavaScript of old
-        const bool acts = code >= 0x7F && !is_harmless(character);  // others it has escaped
-        if (acts || ends_line || json.starts_with("<!--")) {
-            result += "\\u";
-            append_hexadecimal(result, code, 4);
-        } else {
-            result += json.substr(0, character.size);
-            if (json.starts_with("</")) result += '\\';
-        }
-        json.remove_prefix(character.size);
-    }
-}
-
-std::string written(const Json& json) {
-    return '\n' + harmless(json.dump(1, ' ', false, Json::error_handler_t::replace));
-}
+std::string written(const Json& json) { return '\n' + harmless_json(json); }
 
 }  // namespace
 

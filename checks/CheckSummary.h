@@ -1,0 +1,27 @@
+#pragma once
+
+#include <vector>
+
+#include "checks/CheckFinding.h"
+
+/// How often each fault has been found in some files.
+class CheckSummary {
+public:
+    struct Counts {
+        const CheckCode* code;
+        unsigned long findings = 0, repairs = 0, files = 0;
+    };
+
+    CheckSummary();
+
+    /// Counts those of a file.
+    void take(const CheckFindings& findings);
+
+    unsigned long files() const { return files_; }
+    /// Of all codes, in the order of check_codes().
+    const std::vector<Counts>& counts() const { return counts_; }
+
+private:
+    unsigned long files_ = 0;
+    std::vector<Counts> counts_;
+};

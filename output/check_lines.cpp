@@ -1,0 +1,29 @@
+#include "output/CheckLayout.h"
+#include "output/shown_bytes.h"
+
+namespace {
+
+class CheckLines : public CheckLayout {
+public:
+    std::string finding(const CheckFinding& finding) const override {
+        const Problem& problem = finding.problem;
+        std::string line = shown_in_line(problem.file, problem.file.size());
+        line.append(":").append(std::to_string(problem.line));
+        if (problem.column > 0) line.append(":").append(std::to_string(problem.column));
+        line.append(": ").append(name_of(problem.level));
+        line.append(": ").append(finding.code->code);
+        line.append(": ").append(shown_in_line(sentence_of(finding), longest_sentence));
+        if (finding.repair) {
+            line.append(" [repair: ").append(shown_in_line(finding.repair->before));
+            line.append(" -> ").append(shown_in_line(finding.repair->after)).append("]");
+        }
+        return line + '\n';
+    }
+
+private:
+    static constexpr std::size_t longest_sentence = 1000;  // in characters
+};
+
+}  // namespace
+
+std::unique_ptr<CheckLayout> make_check_lines() { return std::make_unique<CheckLines>(); }

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <string>
+
+/// nlohmann's JSON with escapes, which stand only in strings, for what would act where it is shown
+/// and for what would end a script of a page that embeds it; what is not UTF-8 is replaced.
+std::string harmless_json(const nlohmann::ordered_json& json);
