@@ -109,7 +109,7 @@ void read_parts(std::string_view name, Author& author) {
     author.last_word.append("|").append(surname_words.back());
 }
 
-Author read_author(std::string_view text, const StringSlice& range) {
+Author author_at(std::string_view text, const StringSlice& range) {
     Author author;
     author.range = range;
     author.text = text.substr(range.from(), range.length());
@@ -170,6 +170,8 @@ std::string Author::initials(std::size_t most) const {
     return initials;
 }
 
+Author read_author(std::string_view name) { return author_at(name, {0, length_of(name)}); }
+
 std::vector<Author> read_authors(std::string_view text) {
     const auto at = [text](const StringSlice& slice) {
         return text.substr(slice.from(), slice.length());
@@ -189,6 +191,6 @@ std::vector<Author> read_authors(std::string_view text) {
     }
     std::vector<Author> authors;
     authors.reserve(names.size());
-    for (const StringSlice& name : names) authors.push_back(read_author(text, name));
+    for (const StringSlice& name : names) authors.push_back(author_at(text, name));
     return authors;
 }

@@ -27,3 +27,6 @@ struct Author {
 /// "Blake, A. J.; Yin, L.-H.", "Anne B. Smith, J.Smith Jr", "Blake, A. J., Yin, L.-H.".
 /// The text must outlive them. Linear in its length.
 std::vector<Author> read_authors(std::string_view text);
+
+/// A name that stands by itself, which may have commas; its range is all of it. Likewise.
+Author read_author(std::string_view name);

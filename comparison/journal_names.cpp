@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string>
 #include <vector>
 
 #include "comparison/folding.h"
@@ -161,4 +160,14 @@ bool may_be_one_journal(std::string_view left, std::string_view right) {
         if (end.first[-1].is_label) return true;
     }
     return joined(left_words) == joined(right_words);  // "CrystEngComm"
+}
+
+std::string journal_words(std::string_view name) {
+    const std::string text = folded(name, Folding{});
+    std::string result;
+    for (const Word& word : words_of(text)) {
+        if (!result.empty()) result += ' ';
+        result += word.text;
+    }
+    return result;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 /// Whether two names may be of one journal: but for case, accents, punctuation, articles and the
@@ -8,3 +9,6 @@
 /// and numbers of sections agree; what follows these may be left out, as may volumes and years in
 /// parentheses. Linear in the lengths.
 bool may_be_one_journal(std::string_view left, std::string_view right);
+
+/// The words that tell a journal from others, folded, with blanks between: "acta cryst c". Linear.
+std::string journal_words(std::string_view name);
