@@ -49,13 +49,15 @@ bool can_be_bare(std::string_view text, bool is_version_2) {
     });
 }
 
-/// Version 1 ends a string at a quotation mark before a blank, version 2 at any.
+/// Version 1 ends a string at a quotation mark before a blank, readers also before a comment, and
+/// version 2 at any.
 bool can_be_quoted(std::string_view text, char quote, bool is_version_2) {
+    constexpr std::string_view ending = " \t#";
     if (text.find('\n') != std::string_view::npos) return false;
     if (text.starts_with(quote) || text.ends_with(quote)) return false;
     for (std::size_t at = text.find(quote); at != std::string_view::npos;
          at = text.find(quote, at + 1)) {
-        if (is_version_2 || blanks.find(text[at + 1]) != std::string_view::npos) return false;
+        if (is_version_2 || ending.find(text[at + 1]) != std::string_view::npos) return false;
     }
     return true;
 }

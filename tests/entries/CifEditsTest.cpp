@@ -55,6 +55,7 @@ TEST(CifEdits, WriteAValueInTheSimplestWayThatHoldsIt) {
         {"data_a _x old", "?", "data_a _x '?'"},
         {"data_a _x old", "", "data_a _x ''"},
         {"data_a _x old", "loop_", "data_a _x 'loop_'"},
+        {"data_a _x 'old'", "a'#b c", "data_a _x \"a'#b c\""},
         {"data_a _x 'old'", "'t", "data_a _x \"'t\""},
         {"data_a _x e", "\xC3\xA8", "data_a _x '\xC3\xA8'"},
         {"data_a\n_x\n;o\n;\n", "\\\na\\ \nb\\", "data_a\n_x\n;\\\n\\\\\n\na\\ \\\n\nb\\\\\n\n;\n"},
