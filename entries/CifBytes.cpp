@@ -9,10 +9,11 @@ constexpr std::string_view blanks = " \t";
 
 bool is_blank(char c) { return c == ' ' || c == '\t'; }
 
+/// How the first line ends; a "\r" ends lines where no "\n" does.
 std::string_view first_line_end(std::string_view bytes) {
-    const std::size_t at = bytes.find_first_of(line_ends);
-    if (at == std::string_view::npos) return "\n";
-    return bytes.substr(at, bytes.substr(at, 2) == "\r\n" ? 2 : 1);
+    const std::size_t at = bytes.find('\n');
+    if (at == std::string_view::npos) return bytes.find('\r') == at ? "\n" : "\r";
+    return at > 0 && bytes[at - 1] == '\r' ? "\r\n" : "\n";
 }
 
 }  // namespace
@@ -30,7 +31,7 @@ std::size_t CifBytes::begin_of(std::string_view part) const {
 ValuePlace CifBytes::place_of(std::string_view value) const {
     const std::size_t begin = begin_of(value);
     std::size_t first = begin;
-    while (first > 0 && begin - first <= longest_cif_line && !is_line_end(all_[first - 1])) --first;
+    while (!begins_line(first) && begin - first <= longest_cif_line) --first;
     const std::string_view rest = all_.substr(end_of(value), longest_cif_line);
     const std::size_t behind = std::min({rest.find('\n'), rest.find('\r'), rest.size()});
     return {is_version_2_, line_end_, begin - first, behind};
@@ -38,9 +39,10 @@ ValuePlace CifBytes::place_of(std::string_view value) const {
 
 std::string_view CifBytes::indent_before(std::size_t at) const {
     const std::size_t first = before_blanks(at);
-    const bool begins_line = first == 0 || is_line_end(all_[first - 1]);
-    return begins_line ? all_.substr(first, at - first) : std::string_view();
+    return begins_line(first) ? all_.substr(first, at - first) : std::string_view();
 }
+
+bool CifBytes::touches_comment(std::size_t at) const { return all_.substr(at, 1) == "#"; }
 
 std::size_t CifBytes::behind_comment(std::size_t at) const {
     std::size_t end = behind_blanks(at);

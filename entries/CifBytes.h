@@ -20,7 +20,7 @@ public:
     explicit CifBytes(const CifDocument& document);
 
     const std::string_view& all() const { return all_; }
-    /// As the first line ends.
+    /// As the lines end.
     std::string_view line_end() const { return line_end_; }
     bool is_version_2() const { return is_version_2_; }
 
@@ -33,6 +33,10 @@ public:
     /// The blanks from which its line begins to a position, where there is nothing else.
     bool only_blanks_before(std::size_t at) const { return indent_before(at).data() != nullptr; }
     std::string_view indent_before(std::size_t at) const;
+    /// Whether a line begins at a position; a "\r" among "\n" begins none to other readers.
+    bool begins_line(std::size_t at) const { return at == 0 || all_[at - 1] == line_end_.back(); }
+    /// Whether a comment begins at a position, with no blank between it and what is before.
+    bool touches_comment(std::size_t at) const;
     /// Behind the blanks and the comment that follow in the line where nothing else does, else the
     /// position itself.
     std::size_t behind_comment(std::size_t at) const;

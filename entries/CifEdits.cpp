@@ -1,6 +1,7 @@
 #include "entries/CifEdits.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "entries/cif_text.h"
@@ -103,6 +104,7 @@ void CifEdits::set(const CifItem& item, std::size_t row, const std::optional<std
     std::string written =
         text ? written_value(*text, value.quoting(), bytes_.place_of(value.raw)) : "?";
     if (value.raw.empty()) written += bytes_.line_end();  // it was missing before the next line
+    if (bytes_.touches_comment(bytes_.end_of(value.raw))) written += ' ';
     values_[key] = std::move(written);
 }
 
@@ -125,7 +127,32 @@ void CifEdits::add(std::size_t block, std::string_view tag, const std::string& t
     if (same != additions_.end()) {
         same->text = std::move(written);
     } else {
-        additions_.push_back({bytes_.behind_comment(end), block, name, std::move(written)});
+        insert({bytes_.behind_comment(end), block, name, std::move(written)},
+               neighbour ? common_words(tag, neighbour->tag()) : 0);
+    }
+}
+
+/// Inserts an addition that has so many words in common with the item behind which it stands where
+/// it would be if those before it were in the file already.
+void CifEdits::insert(Addition added, std::size_t common) {
+    auto neighbour = additions_.end();
+    auto first_there = additions_.end();
+    for (auto one = additions_.begin(); one != additions_.end(); ++one) {
+        if (one->block != added.block) continue;
+        if (one->at == added.at && first_there == additions_.end()) first_there = one;
+        const std::size_t words = common_words(added.tag, one->tag);
+        const bool is_nearer = neighbour == additions_.end()
+                                   ? words > common || one->at >= added.at
+                                   : words > common || one->at >= neighbour->at;
+        if (words < common || !is_nearer) continue;
+        neighbour = one;
+        common = words;
+    }
+    if (neighbour == additions_.end()) {
+        additions_.insert(first_there, std::move(added));
+    } else {
+        added.at = neighbour->at;
+        additions_.insert(std::next(neighbour), std::move(added));
     }
 }
 

@@ -47,6 +47,8 @@ private:
         std::string tag, text;
     };
 
+    void insert(Addition added, std::size_t common);
+
     const CifDocument& document_;
     CifBytes bytes_;
     CifBytes::Values values_;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "entries/LoopRows.h"
+
 namespace {
 
 constexpr std::size_t none = std::string::npos;
@@ -31,85 +33,18 @@ std::vector<bool> rows_that_stay(const std::vector<CifRow>& rows) {
     return stays;
 }
 
-/// The rows of a loop in its bytes.
-class LoopRows {
-public:
-    LoopRows(const CifItem& item, const CifBytes& bytes, CifBytes::Values& values)
-        : item_(item), bytes_(bytes), values_(values) {}
-
-    std::size_t begin(std::size_t row) const { return bytes_.begin_of(item_.in_row(row, 0).raw); }
-    std::size_t end(std::size_t row) const {
-        return bytes_.end_of(item_.in_row(row, item_.columns() - 1).raw);
-    }
-    /// Behind the comment that follows in its line.
-    std::size_t behind(std::size_t row) const { return bytes_.behind_comment(end(row)); }
-    std::string_view indent(std::size_t row) const { return bytes_.indent_before(begin(row)); }
-
-    /// The bytes of a row with what replaces its values, which is taken.
-    std::string taken(std::size_t row);
-    /// Appends what removes a row; `next` is where the next row to be removed begins to be, which
-    /// is moved to where this one does.
-    void remove(std::size_t row, std::size_t& next, Splices& splices);
-
-private:
-    void take_values(std::size_t row, Splices* taken);
-
-    const CifItem& item_;
-    const CifBytes& bytes_;
-    CifBytes::Values& values_;
-};
-
-void LoopRows::take_values(std::size_t row, Splices* taken) {
-    for (std::size_t column = 0; column < item_.columns(); ++column) {
-        const std::string_view raw = item_.in_row(row, column).raw;
-        const auto found = values_.find({bytes_.begin_of(raw), raw.size()});
-        if (found == values_.end()) continue;
-        if (taken) {
-            taken->push_back({bytes_.begin_of(raw) - begin(row), std::string(raw), found->second});
-        }
-        values_.erase(found);
-    }
-}
-
-std::string LoopRows::taken(std::size_t row) {
-    Splices replaced;
-    take_values(row, &replaced);
-    return spliced(bytes_.all().substr(begin(row), behind(row) - begin(row)), replaced);
-}
-
-void LoopRows::remove(std::size_t row, std::size_t& next, Splices& splices) {
-    take_values(row, nullptr);
-    std::string comments;
-    for (std::size_t column = 1; column < item_.columns(); ++column) {
-        bytes_.append_comments(bytes_.end_of(item_.in_row(row, column - 1).raw),
-                               bytes_.begin_of(item_.in_row(row, column).raw), comments);
-    }
-    std::size_t from = begin(row);
-    std::size_t to = bytes_.behind_blanks(end(row));
-    if (!bytes_.only_blanks_before(from)) {
-        from = bytes_.before_blanks(from);
-        to = end(row);
-        if (!comments.empty()) comments = std::string(1, ' ').append(comments);
-    } else if (bytes_.ends_line(to)) {
-        from = bytes_.before_blanks(from);
-        // The last line of a file that has no line end takes that before it.
-        const bool takes_line_end_before = to == bytes_.all().size() || next <= to;
-        if (takes_line_end_before && comments.empty()) {
-            from = bytes_.before_line_end(from);
-        } else {
-            to = bytes_.behind_line_end(to);
-        }
-    }
-    next = from;
-    splices.push_back({from, std::string(bytes_.all().substr(from, to - from)), comments});
-}
-
 /// Lines that are to be added, one after the other.
 class AddedRows {
 public:
     explicit AddedRows(const CifBytes& bytes) : bytes_(bytes) {}
 
     void add(std::string row) { rows_.push_back(std::move(row)); }
+    /// Takes the first of them.
+    std::string take_first() {
+        std::string first = std::move(rows_.front());
+        rows_.erase(rows_.begin());
+        return first;
+    }
 
     /// Appends them behind a place, each in a line of its own.
     void append_behind(std::size_t at, std::string_view indent, Splices& splices) {
@@ -195,18 +130,19 @@ void append_rows(const CifItem& item, const std::vector<CifRow>& rows, const Cif
                  CifBytes::Values& values, Splices& splices) {
     LoopRows old(item, bytes, values);
     const std::vector<bool> stays = rows_that_stay(rows);
-    std::vector<bool> is_removed(item.size(), true);
+    enum class Fate : unsigned char { removed, moved, kept };
+    std::vector<Fate> fates(item.size(), Fate::removed);
     AddedRows added(bytes);
     std::size_t last = none;  // the old row that stays before what is added
     const std::string_view indent = item.size() > 0 ? old.indent(0) : std::string_view();
     for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (rows[i].old) fates[*rows[i].old] = stays[i] ? Fate::kept : Fate::moved;
         if (!stays[i]) {
             added.add(rows[i].old ? old.taken(*rows[i].old)
                                   : new_row(item, rows[i], bytes, indent.size()));
             continue;
         }
         const std::size_t row = *rows[i].old;
-        is_removed[row] = false;
         if (last == none) {
             added.append_before(old.begin(row), splices);
         } else {
@@ -217,13 +153,17 @@ void append_rows(const CifItem& item, const std::vector<CifRow>& rows, const Cif
     if (last != none) {
         added.append_behind(old.behind(last), old.indent(last), splices);
     } else if (item.size() > 0) {
-        added.append_before(old.begin(0), splices);
+        old.replace(0, added.take_first(), splices);
+        fates[0] = Fate::kept;
+        added.append_behind(old.behind(0), old.indent(0), splices);
     } else {
         added.append_behind(bytes.behind_comment(end_of_tags(item, bytes)), indent, splices);
     }
     std::size_t next = none;
     for (std::size_t row = item.size(); row-- > 0;) {
-        if (is_removed[row]) old.remove(row, next, splices);
+        if (fates[row] != Fate::kept) {
+            old.remove(row, fates[row] == Fate::moved, next, splices);
+        }
     }
 }
 
@@ -246,9 +186,12 @@ void append_new_loop(const CifItem& item, const std::vector<CifRow>& rows, const
                           : replaced != values.end() ? replaced->second
                                                      : std::string(raw);
         if (CifBytes::is_line_end(row.front())) row.erase(0, bytes.line_end().size());
+        const bool keeps_raw = rows[i].old && replaced == values.end();
+        if (keeps_raw && begins_with_bare_semicolon(item[0])) text += ' ';
         if (!row.starts_with(';')) text += indent;
         text += row;
     }
     if (replaced != values.end()) values.erase(replaced);
+    if (bytes.touches_comment(end)) text += ' ';
     splices.push_back({begin, std::string(bytes.all().substr(begin, end - begin)), text});
 }

@@ -122,11 +122,11 @@ TEST(CifEdits, AddMoveAndRemoveRowsWithAllTheirColumns) {
         {lines,
          {-1, 0, 1, 2, -1},
          " 'new one' ?\n 'a' 1 # of a\n# between\n 'b' 2\n;c\n; 3\n'new one' ?\n_z 1"},
-        {lines, {}, " ? ?\n # of a\n# between\n_z 1"},
+        {lines, {}, " ? ? # of a\n# between\n_z 1"},
         {words, {0, 2}, " a 1 c 3"},
         {words, {0, 1}, " a 1 b 2"},
         {words, {2, 0}, "\nc 3\n a 1"},
-        {words, {-1}, "\n'new one' ?\n"},
+        {words, {-1}, " 'new one' ?"},
     };
     for (const auto& c : cases) {
         const std::string head = c.before.substr(0, c.before.find("_m") + 2);
