@@ -44,7 +44,7 @@ public:
 
     const CifBlock& block() const { return block_; }
 
-    /// The item with that tag, in lower case, or null.
+    /// The item with that tag, or null.
     const CifItem* item(std::string_view tag);
     /// The items of CifBlock::find_all(), those of the block first.
     CifBlock::Items items(std::string_view prefix);

@@ -94,13 +94,13 @@ public:
 
     /// "#" for a bare "data_", empty for "global_".
     std::string_view name() const { return name_; }
-    /// The first item with that tag, or null. `tag` is in lower case; that of the item may be in
-    /// any, and have "." for "_". O(log m) for m items.
+    /// The first item with that tag, or null. Case does not count, and either may have "." for "_".
+    /// O(log m) for m items.
     const CifItem* find(std::string_view tag) const;
-    /// Whether tags begin with `prefix`, which is in lower case.
+    /// Whether tags begin with `prefix`, likewise.
     bool has_any(std::string_view prefix) const;
-    /// The items that are not in loops and whose tags begin with `prefix`, which is in lower case,
-    /// in the order of the tags; of several with one tag the first.
+    /// The items that are not in loops and whose tags begin with `prefix`, likewise, in the order
+    /// of the tags; of several with one tag the first.
     Items find_all(std::string_view prefix) const;
     /// The items whose tag an item before them has already, which CIF forbids, in the order of the
     /// file.

@@ -1,5 +1,8 @@
 #include "entries/CodedText.h"
 
+#include <algorithm>
+
+#include "markup/CifTextRichTextGenerator.h"
 #include "markup/TevoRichTextGenerator.h"
 #include "markup/UnicodeRichTextGenerator.h"
 
@@ -28,6 +31,11 @@ Wording wording_of(Doubt::Kind kind) {
     }
 }
 
+bool is_ascii(std::string_view text) {
+    return std::none_of(text.begin(), text.end(),
+                        [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+}
+
 }  // namespace
 
 bool CodedText::may_hold_codes(std::string_view text) {
@@ -52,6 +60,22 @@ std::string CodedText::unicode() const {
 std::string CodedText::tevo() const {
     TevoRichTextGenerator generator;
     return item_.mark_up_text(generator);
+}
+
+std::string CodedText::with_codes() const {
+    if (is_ascii(finder_->text())) return finder_->text();
+    CifTextRichTextGenerator generator;
+    return item_.mark_up_text(generator);
+}
+
+std::string with_codes(const std::string& text, bool is_version_2) {
+    const bool may_stand = is_version_2 || is_ascii(text);
+    if (may_stand && (!CodedText::may_hold_codes(text) || CodedText(text).unicode() == text)) {
+        return text;
+    }
+    const TextItem item(make_handle<InputTextStyleFinder>(), text);
+    CifTextRichTextGenerator generator;
+    return item.mark_up_text(generator);
 }
 
 void CodedText::append_doubts(std::vector<Problem>& problems) const {

@@ -24,6 +24,9 @@ public:
     /// In the database's own mark-up; what is beyond ASCII is in UTF-8.
     std::string tevo() const;
 
+    /// With codes for what is beyond ASCII, as far as there are any.
+    std::string with_codes() const;
+
     /// Appends a warning for each doubt about a code, with its column in the text, up to ten and
     /// the number of the others.
     void append_doubts(std::vector<Problem>& problems) const;
@@ -32,6 +35,10 @@ private:
     THandle<CifTextStyleFinder> finder_;
     TextItem item_;
 };
+
+/// A text in UTF-8 as a CIF file holds it: as it stands where it is read so and may stand there,
+/// else with its codes.
+std::string with_codes(const std::string& text, bool is_version_2);
 
 /// What CodedText::append_doubts() says of the finder's text.
 void append_doubts_of(const CifTextStyleFinder& finder, std::vector<Problem>& problems);

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-// The items of CIF files that entries are read from, in lower case. Of several in one list the
-// first that has a value counts.
+// The items of CIF files that entries are read from, as they are usually written. Of several in one
+// list the first that has a value counts.
 namespace cif_tags {
 
 inline constexpr std::string_view identifier = "_cod_database_code";
@@ -28,20 +28,20 @@ inline constexpr std::string_view cell[] = {"_cell_length_a",   "_cell_length_b"
                                             "_cell_length_c",   "_cell_angle_alpha",
                                             "_cell_angle_beta", "_cell_angle_gamma"};
 inline constexpr std::string_view volume = "_cell_volume";
-inline constexpr std::string_view symbol[] = {"_space_group_name_h-m_alt",
-                                              "_symmetry_space_group_name_h-m"};
-inline constexpr std::string_view hall_symbol[] = {"_space_group_name_hall",
-                                                   "_symmetry_space_group_name_hall"};
-inline constexpr std::string_view group_number[] = {"_space_group_it_number",
-                                                    "_symmetry_int_tables_number"};
+inline constexpr std::string_view symbol[] = {"_space_group_name_H-M_alt",
+                                              "_symmetry_space_group_name_H-M"};
+inline constexpr std::string_view hall_symbol[] = {"_space_group_name_Hall",
+                                                   "_symmetry_space_group_name_Hall"};
+inline constexpr std::string_view group_number[] = {"_space_group_IT_number",
+                                                    "_symmetry_Int_Tables_number"};
 inline constexpr std::string_view operations[] = {"_space_group_symop_operation_xyz",
                                                   "_symmetry_equiv_pos_as_xyz"};
-inline constexpr std::string_view z = "_cell_formula_units_z";
+inline constexpr std::string_view z = "_cell_formula_units_Z";
 
 inline constexpr std::string_view temperature[] = {"_diffrn_ambient_temperature",
                                                    "_cell_measurement_temperature"};
-inline constexpr std::string_view r_factor[] = {"_refine_ls_r_factor_gt", "_refine_ls_r_factor_obs",
-                                                "_refine_ls_r_factor_all"};
+inline constexpr std::string_view r_factor[] = {"_refine_ls_R_factor_gt", "_refine_ls_R_factor_obs",
+                                                "_refine_ls_R_factor_all"};
 inline constexpr std::string_view bond[] = {"_geom_bond_atom_site_label_1",
                                             "_geom_bond_atom_site_label_2", "_geom_bond_distance"};
 inline constexpr std::string_view atom_label = "_atom_site_label";

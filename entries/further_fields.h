@@ -1,18 +1,15 @@
 #pragma once
 
 #include <span>
-#include <string>
 
 #include "entries/BlockReader.h"
 
-/// A field beyond the catalogue, which a CIF file may tell of an entry besides.
+/// A field beyond the catalogue, which a CIF file may tell of an entry besides; items_of() it.
 struct FurtherField {
     const char* label;
     const char* source;      ///< The kind of its texts.
     const char* search;      ///< How it is searched,
     const char* comparison;  ///< and how it is compared.
-    /// Its text, empty where the block has none.
-    std::string (*text_of)(BlockReader& block);
 };
 
 std::span<const FurtherField> further_fields();

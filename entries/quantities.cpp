@@ -31,8 +31,10 @@ bool is_exact(const UncertainValue& parameter) {
 
 }  // namespace
 
+bool is_number_or_range(std::string_view text) { return read_number(text) || is_range(text); }
+
 std::string with_unit(std::string text, std::string_view unit) {
-    if (read_number(text) || is_range(text)) text.append(" ").append(unit);
+    if (is_number_or_range(text)) text.append(" ").append(unit);
     return text;
 }
 

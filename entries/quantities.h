@@ -9,6 +9,8 @@
 
 // How the values of CIF files are shown and checked.
 
+/// Whether the text is a number or a range of numbers.
+bool is_number_or_range(std::string_view text);
 /// The text with the unit behind it where it is a number or a range of numbers, such as "367-370";
 /// as it stands where it says more: "230 C (dec.)".
 std::string with_unit(std::string text, std::string_view unit);

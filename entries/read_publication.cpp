@@ -5,6 +5,7 @@
 #include "entries/PersonName.h"
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
+#include "entries/field_items.h"
 #include "fields/LMRFieldNames.h"
 
 namespace {
@@ -25,14 +26,13 @@ void add_incomplete_reference(BlockReader& block, const Publication& article) {
         !article.page.empty()) {
         return;
     }
-    const std::string journal = block.first_text(just(cif_tags::journal));
-    std::string text = journal.empty() ? "" : "<i>" + journal + "</i>";
-    std::string issue = article.volume.empty() ? "" : "<b>" + article.volume + "</b>";
-    if (!issue.empty() && !article.year.empty()) issue += ", ";
-    issue += article.year;
-    if (!issue.empty()) text.append(text.empty() ? "(" : " (").append(issue).append(")");
-    if (!text.empty() && !article.page.empty()) text += ", ";
-    text += article.page;
+    const FieldItems& field = items_of(LMRFieldNames::literature_reference);
+    FieldForm::Parts parts(field.parts.size());
+    parts[reference_volume] = article.volume;
+    parts[reference_year] = article.year;
+    parts[first_page_of_reference] = article.page;
+    parts[coded_journal_of_reference] = block.first_text(just(cif_tags::journal));
+    std::string text = field.form.text_of(parts);
     if (text.empty()) return;
     block.add_text(
         {LMRFieldNames::text(LMRFieldNames::literature_reference), "cif-text", std::move(text)});
