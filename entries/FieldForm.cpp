@@ -188,3 +188,15 @@ bool FieldForm::match(std::string_view text, const Parts& present, const Fits& f
     for (const std::string& way : ways_) matcher.match(way, text);
     return matcher.has_matched();
 }
+
+std::string FieldForm::outline() const {
+    std::string text;
+    std::string_view way = ways_.front();
+    while (!way.empty()) {
+        text += take_literal(way);
+        std::size_t part = 0;
+        if (take_part(way, part)) text += "...";
+        while (take_part(way, part)) continue;
+    }
+    return text;
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "entries/BlockReader.h"
+#include "entries/CifEdits.h"
+#include "entries/EntryReader.h"
+#include "entries/field_items.h"
+
+/// What the editing of a field needs of its entry, and the changes that come of it.
+class FieldEditor {
+public:
+    using Text = std::optional<std::string>;
+
+    FieldEditor(const EntryReader& entries, std::size_t index, CifEdits& edits);
+
+    BlockReader& block() { return block_; }
+    bool is_version_2() const { return entries_.document().is_version_2(); }
+    /// The text that the entry has of a field. Reads all of it.
+    std::string shown(std::string_view label) const;
+
+    /// What an item has to say for a part to be `text`. Throws FieldRefused where it cannot.
+    std::string value_of(const FieldPart& part, const std::string& text) const;
+    /// Replaces one value.
+    void set(const BlockReader::Value& value, const Text& text);
+    /// Replaces the first value of the first of the tags that has one, or gives one of the items a
+    /// value that has none, or adds one. No text: all that the tags have is gone.
+    void set(Tags tags, const Text& text);
+
+    /// What a list has to become: an old value, with another text or as it is, or a new one.
+    struct Member {
+        std::optional<std::size_t> old{};
+        Text text{};
+    };
+    /// All values that have a text, in the order of the tags.
+    std::vector<BlockReader::Value> values(Tags tags);
+    /// Makes a list of values of some tags another: values are replaced, or rows of a loop are
+    /// moved, added and removed. Throws FieldRefused where the items cannot have so many values.
+    void set_list(Tags tags, const std::vector<BlockReader::Value>& old,
+                  const std::vector<Member>& wanted);
+
+private:
+    /// The tag in the style of the block's own: "_cell.length_a" beside "_cell.length_b".
+    std::string in_style(std::string_view tag) const;
+
+    const EntryReader& entries_;
+    std::size_t index_;
+    BlockReader block_;
+    CifEdits& edits_;
+};
+
+/// The texts between separators; one of `old` counts whole, separators and all.
+std::vector<std::string> split_list(std::string_view text, std::string_view separator,
+                                    const std::vector<std::string>& old);
+/// Throws FieldRefused: "expected WHAT, not 'TEXT'".
+[[noreturn]] void refuse(const std::string& expected, std::string_view text);
+/// Which text of `old` each of `wanted` is: an equal one, or one that is gone from the same place,
+/// with another text. Linear.
+std::vector<FieldEditor::Member> aligned(const std::vector<std::string>& old,
+                                         const std::vector<std::string>& wanted);
+
+// Each makes the field that its name says another; texts are in the form of the field, and none
+// throws anything but FieldRefused, before it changes anything.
+
+void edit_parts(FieldEditor& editor, const FieldItems& field, const std::string& text);
+void edit_cell_volume(FieldEditor& editor, const FieldItems& field, const std::string& text);
+void edit_space_group(FieldEditor& editor, const FieldItems& field, const std::string& text);
+void edit_z(FieldEditor& editor, const FieldItems& field, const std::string& text);
+/// Names between semicolons, or numbers between commas.
+/// @{
+void edit_synonyms(FieldEditor& editor, const FieldItems& field, const std::string& text);
+void edit_wavelengths(FieldEditor& editor, const FieldItems& field, const std::string& text);
+/// @}
+void edit_authors(FieldEditor& editor, const FieldItems& field, const std::string& text);
+void edit_cross_references(FieldEditor& editor, const FieldItems& field, const std::string& text);
+void edit_depositions(FieldEditor& editor, const FieldItems& field, const std::string& text);

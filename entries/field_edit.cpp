@@ -1,0 +1,102 @@
+#include "entries/field_edit.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+#include "entries/FieldEditor.h"
+#include "entries/cif_text.h"
+#include "entries/written_value.h"
+
+namespace {
+
+using Names = LMRFieldNames;
+
+struct Row {
+    const char* label;
+    void (*edit)(FieldEditor& editor, const FieldItems& field, const std::string& text);
+};
+
+/// The fields that are more than parts in a form.
+const std::vector<Row>& special_fields() {
+    static const std::vector<Row> rows = {
+        {Names::text(Names::cell_volume), edit_cell_volume},
+        {Names::text(Names::space_group), edit_space_group},
+        {Names::text(Names::z_zprime), edit_z},
+        {Names::text(Names::synonym), edit_synonyms},
+        {Names::text(Names::authors), edit_authors},
+        {Names::text(Names::cross_references), edit_cross_references},
+        {Names::text(Names::deposition_numbers), edit_depositions},
+        {"Wavelength", edit_wavelengths},
+    };
+    return rows;
+}
+
+bool is_in_codes(const FieldPart& part) {
+    return part.kind == FieldPart::text || part.kind == FieldPart::name;
+}
+
+/// Throws what tells why no item can hold a text.
+void refuse_unwritable(const std::string& text, bool is_version_2) {
+    static_cast<void>(written_value(text, CifQuoting::bare, {is_version_2}));
+    if (text == "?" || text == ".") {
+        refuse("a text", text);  // in files these say nothing
+    }
+}
+
+}  // namespace
+
+FieldWriting field_writing(std::string_view label) {
+    const FieldItems* const field = items_of(label);
+    if (!field || field->refusal) return FieldWriting::derived;
+    // A reference has a part in codes only where it is incomplete.
+    return is_in_codes(field->parts.front()) ? FieldWriting::text : FieldWriting::own;
+}
+
+void edit_parts(FieldEditor& editor, const FieldItems& field, const std::string& text) {
+    const FieldForm::Parts present = parts_of(editor.block(), field);
+    const bool version_2 = editor.is_version_2();
+    const auto fits = [&](std::size_t i, const std::string& part) {
+        return value_of(field.parts[i], part, version_2).has_value();
+    };
+    FieldForm::Parts wanted(present.size());
+    if (!text.empty() && !field.form.match(text, present, fits, wanted)) {
+        refuse("a text like '" + field.form.outline() + "'", text);
+    }
+    std::vector<std::pair<const FieldPart*, FieldEditor::Text>> changes;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        const FieldPart& part = field.parts[i];
+        if (normal_text(part, wanted[i]) == present[i] || part.kind == FieldPart::computed)
+            continue;
+        const auto says_it_too = [&](const FieldPart& other) {
+            const auto index = static_cast<std::size_t>(&other - field.parts.data());
+            return other.names[0] == part.names[0] && !wanted[index].empty();
+        };
+        const bool vanishes = wanted[i].empty();
+        if (vanishes && std::any_of(field.parts.begin(), field.parts.end(), says_it_too)) continue;
+        FieldEditor::Text value;
+        if (!vanishes) value = editor.value_of(part, wanted[i]);
+        changes.emplace_back(&part, std::move(value));
+    }
+    // Items may say something that is not shown.
+    if (changes.empty() || (text.empty() && editor.shown(field.label).empty())) return;
+    for (const auto& [part, value] : changes) editor.set(part->tags(), value);
+}
+
+void edit_field(const EntryReader& entries, std::size_t index, std::string_view label,
+                const std::string& text, CifEdits& edits) {
+    const FieldItems* const field = items_of(label);
+    if (!field) throw FieldRefused("is no field");
+    FieldEditor editor(entries, index, edits);
+    const std::string wanted = one_line(text).empty() ? "" : text;
+    if (field->refusal) {
+        if (editor.shown(label) != wanted) throw FieldRefused(field->refusal);
+        return;
+    }
+    refuse_unwritable(wanted, editor.is_version_2());
+    const std::vector<Row>& rows = special_fields();
+    const auto special = std::find_if(rows.begin(), rows.end(),
+                                      [label](const Row& row) { return label == row.label; });
+    (special == rows.end() ? edit_parts : special->edit)(editor, *field, wanted);
+}

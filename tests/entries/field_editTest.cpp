@@ -1,0 +1,144 @@
+#include "entries/field_edit.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+#include "entries/FieldEditor.h"
+#include "entries/PersonName.h"
+#include "entries/further_fields.h"
+
+namespace {
+
+std::vector<std::string> files() {
+    std::vector<std::string> files;
+    for (const auto& file : std::filesystem::directory_iterator(ENTRY_FILES)) {
+        if (file.path().extension() != ".cif") continue;
+        std::ifstream in(file.path(), std::ios::binary);
+        files.emplace_back(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    }
+    return files;
+}
+
+std::vector<std::string> labels() {
+    std::vector<std::string> labels;
+    for (const LMRFieldNames::TextID id : LMRFieldNames::internal_list()) {
+        labels.emplace_back(LMRFieldNames::text(id));
+    }
+    for (const FurtherField& field : further_fields()) labels.emplace_back(field.label);
+    return labels;
+}
+
+std::string shown(const std::string& file, const std::string& label) {
+    const EntryReader entries(file);
+    CifEdits edits(entries.document());
+    return FieldEditor(entries, 0, edits).shown(label);
+}
+
+/// The file with a field of its first entry changed.
+std::string edited(const std::string& file, const std::string& label, const std::string& text) {
+    const EntryReader entries(file);
+    CifEdits edits(entries.document());
+    edit_field(entries, 0, label, text, edits);
+    return spliced(file, edits.splices());
+}
+
+/// Why a text is refused; "none" where it is not.
+std::string refusal(const std::string& file, const std::string& label, const std::string& text) {
+    try {
+        return edited(file, label, text) == file ? "unchanged" : "none";
+    } catch (const std::invalid_argument& error) {
+        return error.what();
+    }
+}
+
+struct Change {
+    const char *label, *text;
+};
+
+constexpr Change changes[] = {
+    {"Identifier", "7000001"},
+    {"Cell Lengths", "a 5.1 b 7.25(1) c 9.000(12)"},
+    {"Cell Angles", "a 90 b 100.5(3) g 90"},
+    {"Cell Volume", "1234.5(6)"},
+    {"Space Group", "P2<sub>1</sub>2<sub>1</sub>2<sub>1</sub>"},
+    {"Space Group", "C2/c"},
+    {"Space Group", "I<bar>4</bar>3m"},
+    {"Temperature (K)", "120(1)"},
+    {"Temperature (text)", "not measured"},
+    {"Pressure", "101.3(1) kPa"},
+    {"Density (author)", "1.234"},
+    {"R-Factor (%)", "3.07"},
+    {"Radiation Source", "rotating anode, 5 kW"},
+    {"Absolute Configuration", "syn"},
+    {"Diffraction Details", "\\w scans; 2\\q up to 50\\%"},
+    {"Accession Date", "2004-07-09"},
+    {"Formula", "C6 H12 O6"},
+    {"Compound Name", "\\a-<i>D</i>-glucose, H~2~O and 'quotes' \"of both kinds\""},
+    {"Source", "_looks like a tag"},
+    {"Z, Z'", "Z: 0 Z': 0"},
+    {"Color", "#2"},
+    {"Melting Point", "350(2) K"},
+    {"Melting Point", "> 340 K, < 350 K"},
+    {"Melting Point", "230 C (dec.)"},
+    {"Literature Reference", "<j>Z. f\u00FCr Kristallographie</j><v>7</v><y>2001</y><p>12-15</p>"},
+    {"Literature Reference", "<i>Acta Cryst.</i> (<b>60</b>), m258-m260"},
+    {"Author(s)", "J.B.Smith, R.B.von Dreele, H.-Z.Xie, J.Garc\u00EDa Jr, H.St.C.O'Neill"},
+    {"Author(s)", "A.Lone"},
+    {"Cross References", "Same structure CSD ABCDEF; Same structure ICSD 1234"},
+    {"Deposition Numbers", "Journal AB1234"},
+    {"Title", "One of \\'etudes on \\\\infty, a \\\\times b"},
+    {"DOI", "10.1002/(SICI)1521-3749(200001)626:1<62::AID-ZAAC62>3.0.CO;2-E"},
+    {"Moiety Formula", "C18 H18 N4 2+, 2(B F4 1-)"},
+    {"Formula Weight", "180.16"},
+    {"Measured Density", "2.80-2.85 g/cm\u00B3"},
+    {"F(000)", "512"},
+    {"Crystal Size", "0.30 \u00D7 0.20 mm"},
+    {"Crystal Size", "radius 0.15 mm"},
+    {"Wavelength", "1.54184 \u00C5"},
+    {"Absorption Coefficient", "0.55 mm\u207B\u00B9"},
+    {"Absorption Correction", "multi-scan, T 0.5 to 0.9"},
+    {"Absorption Correction", "T up to 0.9"},
+    {"Theta Range", "2.5 to 27.5\u00B0"},
+    {"Theta Range", "from 3\u00B0"},
+    {"Reflections", "100 measured, 50 independent, R(int) 4.5 %"},
+    {"wR-Factor (%)", "10.5"},
+    {"Goodness Of Fit", "1.05"},
+};
+
+}  // namespace
+
+TEST(field_edit, ChangesNothingForTheTextThatIsThere) {
+    for (const std::string& file : files()) {
+        for (const std::string& label : labels()) {
+            EXPECT_EQ(edited(file, label, shown(file, label)), file) << label;
+        }
+    }
+}
+
+TEST(field_edit, IsReadBackAsItWasWritten) {
+    std::vector<std::string> all = files();
+    all.emplace_back("data_x\n");
+    all.emplace_back("#\\#CIF_2.0\ndata_x\n_cell.length_a 5\n_cell.length_b 5\n_cell.length_c 5\n");
+    for (const std::string& file : all) {
+        for (const Change& change : changes) {
+            try {
+                EXPECT_EQ(shown(edited(file, change.label, change.text), change.label), change.text)
+                    << file.substr(0, 300);
+            } catch (const std::invalid_argument& error) {
+                ADD_FAILURE() << change.label << ' ' << change.text << ' ' << error.what();
+            }
+        }
+    }
+}
+
+TEST(field_edit, TakesAwayWhatIsThere) {
+    for (const std::string& file : files()) {
+        for (const std::string& label : labels()) {
+            if (items_of(label)->refusal || label == "Identifier" || label == "Cell Volume") continue;
+            EXPECT_EQ(shown(edited(file, label, ""), label), "") << label << shown(file, label);
+        }
+    }
+}
