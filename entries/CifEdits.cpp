@@ -108,52 +108,71 @@ void CifEdits::set(const CifItem& item, std::size_t row, const std::optional<std
     values_[key] = std::move(written);
 }
 
+CifEdits::Neighbour CifEdits::neighbour_of_new(std::size_t block, std::string_view tag) const {
+    const CifItem* const item = neighbour_of(tag, document_.items(block));
+    if (!item) return {bytes_.end_of({document_.end_of_heading(block), 0}), 0};
+    return {end_of_item(*item, bytes_), common_words(tag, item->tag())};
+}
+
+/// Where it would be if the additions before it were in the file already.
+void CifEdits::keep(Addition added, const Neighbour& item) {
+    added.at = bytes_.behind_comment(item.end);
+    std::size_t common = item.words_in_common;
+    std::size_t nearest = added.at;
+    auto neighbour = additions_.end();
+    auto first_there = additions_.end();
+    for (auto one = additions_.begin(); one != additions_.end(); ++one) {
+        if (one->block != added.block) continue;
+        if (one->tag == added.tag) {
+            one->text = std::move(added.text);
+            return;
+        }
+        if (one->at == added.at && first_there == additions_.end()) first_there = one;
+        const std::size_t words = common_words(added.tag, one->tag);
+        if (words < common || (words == common && one->at < nearest)) continue;
+        neighbour = one;
+        common = words;
+        nearest = one->at;
+    }
+    if (neighbour == additions_.end()) {
+        additions_.insert(first_there, std::move(added));
+    } else {
+        added.at = nearest;
+        additions_.insert(std::next(neighbour), std::move(added));
+    }
+}
+
 void CifEdits::add(std::size_t block, std::string_view tag, const std::string& text) {
-    const CifBlock::Items items = document_.items(block);
-    const CifItem* const neighbour = neighbour_of(tag, items);
-    const std::size_t end = neighbour ? end_of_item(*neighbour, bytes_)
-                                      : bytes_.end_of({document_.end_of_heading(block), 0});
-    const std::string line = style_at(end, items, bytes_).before_value(tag);
+    const Neighbour neighbour = neighbour_of_new(block, tag);
+    const std::string line =
+        style_at(neighbour.end, document_.items(block), bytes_).before_value(tag);
     const std::string value = written_value(
         text, CifQuoting::bare, {bytes_.is_version_2(), bytes_.line_end(), line.size(), 0});
     std::string written(bytes_.line_end());
     const bool in_next_line = CifBytes::is_line_end(value.front());
     written += in_next_line ? line.substr(0, line.find_last_not_of(" \t") + 1) : line;
     written += value;
-    const std::string name = in_lower_case(tag);
-    const auto same = std::find_if(additions_.begin(), additions_.end(), [&](const Addition& one) {
-        return one.block == block && one.tag == name;
-    });
-    if (same != additions_.end()) {
-        same->text = std::move(written);
-    } else {
-        insert({bytes_.behind_comment(end), block, name, std::move(written)},
-               neighbour ? common_words(tag, neighbour->tag()) : 0);
-    }
+    keep({0, block, in_lower_case(tag), std::move(written)}, neighbour);
 }
 
-/// Inserts an addition that has so many words in common with the item behind which it stands where
-/// it would be if those before it were in the file already.
-void CifEdits::insert(Addition added, std::size_t common) {
-    auto neighbour = additions_.end();
-    auto first_there = additions_.end();
-    for (auto one = additions_.begin(); one != additions_.end(); ++one) {
-        if (one->block != added.block) continue;
-        if (one->at == added.at && first_there == additions_.end()) first_there = one;
-        const std::size_t words = common_words(added.tag, one->tag);
-        const bool is_nearer = neighbour == additions_.end()
-                                   ? words > common || one->at >= added.at
-                                   : words > common || one->at >= neighbour->at;
-        if (words < common || !is_nearer) continue;
-        neighbour = one;
-        common = words;
+void CifEdits::add(std::size_t block, std::string_view tag, const std::vector<std::string>& texts) {
+    if (texts.size() == 1) return add(block, tag, texts.front());
+    const Neighbour neighbour = neighbour_of_new(block, tag);
+    const std::string_view indent = style_at(neighbour.end, document_.items(block), bytes_).indent;
+    std::string written;
+    const auto begin_line = [&] { written.append(bytes_.line_end()).append(indent); };
+    begin_line();
+    written += "loop_";
+    begin_line();
+    written += tag;
+    for (const std::string& text : texts) {
+        const std::string value = written_value(
+            text, CifQuoting::bare, {bytes_.is_version_2(), bytes_.line_end(), indent.size(), 0});
+        if (value.front() != ';' && !CifBytes::is_line_end(value.front())) begin_line();
+        if (value.front() == ';') written += bytes_.line_end();
+        written += value;
     }
-    if (neighbour == additions_.end()) {
-        additions_.insert(first_there, std::move(added));
-    } else {
-        added.at = neighbour->at;
-        additions_.insert(std::next(neighbour), std::move(added));
-    }
+    keep({0, block, in_lower_case(tag), std::move(written)}, neighbour);
 }
 
 void CifEdits::set_rows(const CifItem& item, std::vector<CifRow> rows) {

@@ -27,6 +27,8 @@ public:
     /// Adds an item that the block lacks behind the last of its category, else at the block's end,
     /// in the style of its neighbours. Of several texts the last counts.
     void add(std::size_t block, std::string_view tag, const std::string& text);
+    /// Likewise one with a value or more, several in a loop.
+    void add(std::size_t block, std::string_view tag, const std::vector<std::string>& texts);
     /// Makes these the rows of the loop of an item, and of an item that is in no loop one where
     /// there are several. Each old row is named once at most; those that are not are removed, with
     /// all their columns. Of several calls for a loop the last counts.
@@ -47,7 +49,13 @@ private:
         std::string tag, text;
     };
 
-    void insert(Addition added, std::size_t common);
+    /// The item behind which one is to be added.
+    struct Neighbour {
+        std::size_t end;
+        std::size_t words_in_common;
+    };
+    Neighbour neighbour_of_new(std::size_t block, std::string_view tag) const;
+    void keep(Addition added, const Neighbour& item);
 
     const CifDocument& document_;
     CifBytes bytes_;

@@ -71,10 +71,11 @@ void FieldEditor::set_list(Tags tags, const std::vector<BlockReader::Value>& old
     if (wanted.empty()) return set(tags, std::nullopt);
     const CifItem* item = old.empty() ? nullptr : old.front().item;
     for (const std::string_view tag : tags) item = item ? item : block_.item(tag);
-    if (!item && wanted.size() == 1) return set(tags, wanted.front().text);
     if (!item) {
-        throw FieldRefused("expected one value, as there is no loop of " +
-                           std::string(tags.front()));
+        std::vector<std::string> texts;
+        texts.reserve(wanted.size());
+        for (const Member& member : wanted) texts.push_back(member.text.value_or(""));
+        return edits_.add(entries_.block_of(index_), in_style(tags.front()), texts);
     }
     if (!old.empty() && old.back().item != item) {
         throw FieldRefused("expected as many values as there are, as " + std::string(item->tag()) +

@@ -151,7 +151,7 @@ std::optional<std::string> value_of(const FieldPart& part, const std::string& te
         case FieldPart::date:
             return if_it(read_date(text).has_value(), normal_text(part, text));
         default:
-            return std::nullopt;
+            return text;
     }
 }
 

@@ -36,8 +36,8 @@ void edit_z(FieldEditor& editor, const FieldItems& field, const std::string& tex
     if (text == shown) return;
     FieldForm::Parts old, wanted;
     split_z(field, shown, old);
-    if (split_z(field, text, wanted) && !wanted[z_prime].empty() &&
-        wanted[z_prime] != old[z_prime]) {
+    const bool has_both = split_z(field, text, wanted) && !wanted[z_prime].empty();
+    if (has_both && !old[z_prime].empty() && wanted[z_prime] != old[z_prime]) {
         const double ratio = number_of(old[z_prime]) * number_of(wanted[z]) / number_of(old[z]);
         constexpr double rounding = 1e-5;  // six digits are shown
         if (!(std::abs(number_of(wanted[z_prime]) - ratio) <= rounding * ratio)) {
