@@ -79,8 +79,8 @@ void edit_parts(FieldEditor& editor, const FieldItems& field, const std::string&
         if (!vanishes) value = editor.value_of(part, wanted[i]);
         changes.emplace_back(&part, std::move(value));
     }
-    // Items may say something that is not shown.
-    if (changes.empty() || (text.empty() && editor.shown(field.label).empty())) return;
+    // Items may say something that is not shown, and others what they do not.
+    if (changes.empty() || text == editor.shown(field.label)) return;
     for (const auto& [part, value] : changes) editor.set(part->tags(), value);
 }
 
