@@ -14,7 +14,7 @@ namespace {
 
 std::vector<std::string> files() {
     std::vector<std::string> files;
-    for (const auto& file : std::filesystem::directory_iterator(ENTRY_FILES)) {
+    for (const auto& file : std::filesystem::directory_iterator(DATA_FOLDER)) {
         if (file.path().extension() != ".cif") continue;
         std::ifstream in(file.path(), std::ios::binary);
         files.emplace_back(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
