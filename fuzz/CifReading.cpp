@@ -3,9 +3,10 @@
 #include <gemmi/cif.hpp>
 #include <stdexcept>
 
+#include "fuzz/CifTokens.h"
+
 namespace {
 
-bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 bool begins_with(std::string_view text, std::string_view start) {
     return text.substr(0, start.size()) == start;
 }
@@ -16,95 +17,8 @@ std::string_view without_mark(std::string_view bytes) {
 }
 
 bool says_version_2(std::string_view bytes) {
-    return begins_with(bytes, "#\\#CIF_2.0") && (bytes.size() == 10 || is_blank(bytes[10]));
+    return begins_with(bytes, "#\\#CIF_2.0") && (bytes.size() == 10 || is_cif_blank(bytes[10]));
 }
-
-class CifTokens {
-public:
-    enum Kind { end, comment, word, value };
-
-    CifTokens(std::string_view bytes, bool is_version_2)
-        : bytes_(bytes), is_version_2_(is_version_2) {}
-
-    /// The next; `raw` is what stands there. A word is a tag, a keyword or a bare value.
-    Kind next(std::string_view& raw) {
-        while (at_ < bytes_.size() && is_blank(bytes_[at_])) ++at_;
-        if (at_ == bytes_.size()) return end;
-        const std::size_t from = at_;
-        const Kind kind = pass_token("");
-        raw = bytes_.substr(from, at_ - from);
-        if (kind == value && at_ < bytes_.size() && !is_blank(bytes_[at_]) && bytes_[at_] != '#') {
-            throw std::runtime_error("no blank behind " + std::string(raw));
-        }
-        if (kind == comment && raw.back() == '\r') raw.remove_suffix(1);
-        return kind;
-    }
-
-private:
-    bool is_at(std::string_view what) const { return bytes_.compare(at_, what.size(), what) == 0; }
-
-    void pass(std::string_view closing, std::size_t opening_size) {
-        at_ = bytes_.find(closing, at_ + opening_size);
-        if (at_ == bytes_.npos) throw std::runtime_error("open at the end of the file");
-        at_ += closing.size();
-    }
-
-    void pass_quoted(std::string_view quote) {
-        const std::string three = std::string(quote) + std::string(quote) + std::string(quote);
-        if (is_version_2_ && is_at(three)) return pass(three, 3);
-        const std::size_t from = at_;
-        do {
-            pass(quote, at_ == from ? 1 : 0);
-        } while (!is_version_2_ && at_ < bytes_.size() && !is_blank(bytes_[at_]) &&
-                 bytes_[at_] != '#');
-        if (bytes_.substr(from, at_ - from).find('\n') != bytes_.npos) {
-            throw std::runtime_error("open at the end of the line");
-        }
-    }
-
-    /// A list or table with all that is in it.
-    void pass_brackets() {
-        for (std::size_t depth = 0;;) {
-            while (at_ < bytes_.size() && is_blank(bytes_[at_])) ++at_;
-            if (at_ == bytes_.size()) throw std::runtime_error("open at the end of the file");
-            const char c = bytes_[at_];
-            if (c == '[' || c == '{') ++depth;
-            if (c == ']' || c == '}') --depth;
-            if (std::string_view("[]{}:").find(c) == std::string_view::npos) {
-                pass_token("[]{}");
-            } else {
-                ++at_;
-            }
-            if (depth == 0) return;
-        }
-    }
-
-    Kind pass_token(std::string_view separators) {
-        const char c = bytes_[at_];
-        if (c == '#') {
-            at_ = std::min(bytes_.find('\n', at_), bytes_.size());
-            return comment;
-        }
-        if (c == ';' && (at_ == 0 || bytes_[at_ - 1] == '\n')) {
-            pass("\n;", 1);
-        } else if (c == '\'' || c == '"') {
-            pass_quoted(bytes_.substr(at_, 1));
-        } else if (is_version_2_ && separators.empty() && (c == '[' || c == '{')) {
-            pass_brackets();
-        } else {
-            while (at_ < bytes_.size() && !is_blank(bytes_[at_]) &&
-                   separators.find(bytes_[at_]) == separators.npos) {
-                ++at_;
-            }
-            return word;
-        }
-        return value;
-    }
-
-    std::string_view bytes_;
-    bool is_version_2_;
-    std::size_t at_ = 0;
-};
 
 /// Makes a reading of what stands in a file one behind the other.
 class CifReadingMaker {
@@ -214,7 +128,7 @@ std::string unfolded(const std::string& text) {
     for (std::size_t from = 0; from <= text.size();) {
         const std::size_t end = std::min(text.find('\n', from), text.size());
         std::size_t last = end;
-        while (last > from && is_blank(text[last - 1])) --last;
+        while (last > from && is_cif_blank(text[last - 1])) --last;
         const bool folds = end < text.size() && last > from && text[last - 1] == '\\';
         if (from == 0 && (!folds || last != 1)) return text;
         joined.append(text, from, (folds ? last - 1 : end) - from);
