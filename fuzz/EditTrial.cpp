@@ -1,20 +1,19 @@
 #include "fuzz/EditTrial.h"
 
 #include <algorithm>
+#include <functional>
+#include <set>
 #include <utility>
 
 #include "entries/written_value.h"
+#include "fuzz/ExpectedValues.h"
 #include "fuzz/writable_text.h"
 
 namespace {
 
-/// What is wrong with the text of a value that shall have another.
-std::string complaint_of_text(const CifReading& reading, std::size_t value,
-                              const EditTrial::Text& text) {
-    const std::optional<std::string> read = reading.text(value);
-    if (!text) return read ? "not nothing but " + *read : "";
-    if (read == with_line_feeds(*text)) return {};
-    return "read as " + read.value_or("nothing") + " instead of " + *text;
+std::vector<std::string> in_order(std::vector<std::string> comments) {
+    std::sort(comments.begin(), comments.end());
+    return comments;
 }
 
 std::string quoted(const Splices& splices) {
@@ -62,6 +61,11 @@ const CifItem& EditTrial::item(std::size_t number) const {
     return *session_.entries().document().items(block)[number - first];
 }
 
+bool EditTrial::has_item(std::size_t block, const std::string& tag) const {
+    return std::any_of(before_.items.begin(), before_.items.end(),
+                       [&](const auto& item) { return item.block == block && item.tag == tag; });
+}
+
 std::size_t EditTrial::number_in_file(const Place& place) const {
     const CifReading::Item& item = before_.items[place.item];
     return item.first + place.row * item.stride;
@@ -87,6 +91,11 @@ std::string EditTrial::readers() const {
     return before_.is_version_2 ? "" : disagreement_with_gemmi(session_.bytes(), before_);
 }
 
+void EditTrial::undo_all() {
+    while (session_.undo()) {
+    }
+}
+
 template <class Check>
 std::string EditTrial::applied(const Splices& splices, const Check& check) {
     std::string complaint;
@@ -98,8 +107,7 @@ std::string EditTrial::applied(const Splices& splices, const Check& check) {
     } catch (const std::runtime_error& error) {  // also what is not CIF
         complaint = error.what();
     }
-    while (session_.undo()) {
-    }
+    undo_all();
     if (complaint.empty() && session_.is_changed()) complaint = "is not as it was";
     return complaint.empty() ? complaint : complaint.append(quoted(splices));
 }
@@ -136,23 +144,14 @@ std::string EditTrial::set(const std::vector<Change>& changes) {
         if (is_done) done.push_back(change);
         if (done.empty() && !edits.empty()) return "a refused text is not forgotten";
     }
+    ExpectedValues expected = as_they_are(before_);
+    for (const Change& change : done) {
+        expected[number_in_file(places_[change.value])] = {std::nullopt, change.text};
+    }
     const auto check = [&](const CifReading& after) -> std::string {
         if (after.outline != before_.outline) return "other tags";
         if (after.comments != before_.comments) return "other comments";
-        if (after.values.size() != before_.values.size()) return "other values";
-        std::vector<bool> is_changed(after.values.size());
-        for (const Change& change : done) {
-            const std::size_t value = number_in_file(places_[change.value]);
-            is_changed[value] = true;
-            const std::string complaint = complaint_of_text(after, value, change.text);
-            if (!complaint.empty()) return complaint;
-        }
-        for (std::size_t i = 0; i < is_changed.size(); ++i) {
-            if (!is_changed[i] && after.values[i] != before_.values[i]) {
-                return "another value: " + before_.values[i];
-            }
-        }
-        return {};
+        return complaint_of_values(after, expected);
     };
     const Splices splices = edits.splices();
     if (splices.size() > done.size()) return "more is changed" + quoted(splices);
@@ -166,10 +165,10 @@ std::string EditTrial::set(const std::vector<Change>& changes) {
     return applied({}, check);
 }
 
-std::string EditTrial::add(std::size_t block, const std::string& tag, const std::string& text) {
-    for (const CifReading::Item& item : before_.items) {
-        if (item.block == block && item.tag == tag) return {};
-    }
+std::string EditTrial::add(const Added& added) {
+    const std::size_t block = added.block;
+    const std::string &tag = added.tag, &text = added.text;
+    if (has_item(block, tag)) return {};
     CifEdits edits(session_.entries().document());
     bool is_done = false;
     const std::string complaint = complaint_of_refusal(
@@ -185,75 +184,109 @@ std::string EditTrial::add(std::size_t block, const std::string& tag, const std:
         for (const CifReading::Item& item : after.items) {
             if (item.tag != tag || item.block != block) continue;
             if (item.in_loop) return "in a loop";
-            const std::string added = complaint_of_text(after, item.first, text);
-            if (!added.empty()) return added;
-            after.values.erase(after.values.begin() + static_cast<std::ptrdiff_t>(item.first));
-            if (after.values != before_.values) return "other values";
-            return after.comments == before_.comments ? "" : "other comments";
+            if (after.comments != before_.comments) return "other comments";
+            ExpectedValues expected = as_they_are(before_);
+            expected.insert(expected.begin() + static_cast<std::ptrdiff_t>(item.first),
+                            {std::nullopt, text});
+            return complaint_of_values(after, expected);
         }
         return "it is in another block";
     });
 }
 
+std::vector<CifRow> EditTrial::cif_rows(std::size_t number, const std::vector<Row>& rows) const {
+    std::vector<CifRow> edited;
+    for (const Row& row : rows) {
+        edited.push_back({row.old, {}});
+        for (const auto& [column, text] : row.values) {
+            const std::size_t in_file = number - before_.items[number].column + column;
+            edited.back().values.emplace_back(&item(in_file), text);
+        }
+    }
+    return edited;
+}
+
 std::string EditTrial::set_rows(std::size_t number, const std::vector<Row>& rows) {
     const std::size_t column = number - before_.items[number].column, width = columns(number);
     const CifReading::Item& first = before_.items[column];
-    std::vector<CifRow> edited;
-    struct Expected {
-        std::optional<std::string> raw;
-        Text text;
-    };
-    std::vector<Expected> expected;
+    const ExpectedValues before = as_they_are(before_);
+    const auto begin = before.begin() + static_cast<std::ptrdiff_t>(first.first);
+    ExpectedValues expected(before.begin(), begin);
     Writable all = Writable::yes;
     std::string plan = "\n rows of " + first.tag + ':';
     for (const Row& row : rows) {
         plan.append(row.old ? ' ' + std::to_string(*row.old) : " new");
-        edited.push_back({row.old, {}});
+        const auto old = begin + static_cast<std::ptrdiff_t>(row.old.value_or(0) * width);
         for (std::size_t i = 0; i < width; ++i) {
-            expected.push_back({"?", {}});
-            if (row.old) expected.back().raw = before_.values[first.first + *row.old * width + i];
+            expected.push_back(row.old ? old[static_cast<std::ptrdiff_t>(i)] : ExpectedValue());
         }
         for (const auto& [i, text] : row.values) {
-            edited.back().values.emplace_back(&item(column + i), text);
             expected[expected.size() - width + i] = {std::nullopt, text};
             all = std::min(all, writable(text.value_or(""), before_.is_version_2));
         }
     }
-    if (rows.empty()) expected.resize(width);
+    if (rows.empty()) expected.resize(expected.size() + width);
+    const auto end = begin + static_cast<std::ptrdiff_t>(first.size * width);
+    expected.insert(expected.end(), end, before.end());
     CifEdits edits(session_.entries().document());
     bool is_done = false;
-    const std::string complaint =
-        complaint_of_refusal([&] { edits.set_rows(item(number), edited); }, all, is_done);
+    std::string complaint = complaint_of_refusal(
+        [&] { edits.set_rows(item(number), cif_rows(number, rows)); }, all, is_done);
     if (!complaint.empty() || !is_done) return edits.empty() ? complaint : "is not forgotten";
-    const std::string other = applied(edits.splices(), [&](CifReading after) -> std::string {
-        const CifReading::Item changed = after.items[column];
-        if (!first.in_loop && changed.in_loop) {
+    complaint = applied(edits.splices(), [&](CifReading after) -> std::string {
+        if (!first.in_loop && after.items[column].in_loop) {
             const auto place = std::mismatch(after.outline.begin(), after.outline.end(),
                                              before_.outline.begin(), before_.outline.end());
             after.outline.erase(place.first);
         }
         if (after.outline != before_.outline) return "other tags";
-        if (changed.size * width != expected.size()) return std::to_string(changed.size) + " rows";
-        for (std::size_t i = 0; i < expected.size(); ++i) {
-            const std::size_t value = first.first + i;
-            if (expected[i].raw && *expected[i].raw != after.values[value]) {
-                return "another value: " + after.values[value] + " for " + *expected[i].raw;
-            }
-            if (expected[i].raw) continue;
-            const std::string text = complaint_of_text(after, value, expected[i].text);
-            if (!text.empty()) return text;
-        }
-        const auto begin = after.values.begin() + static_cast<std::ptrdiff_t>(first.first);
-        const auto old = before_.values.begin() + static_cast<std::ptrdiff_t>(first.first);
-        after.values.erase(begin, begin + static_cast<std::ptrdiff_t>(expected.size()));
-        std::vector<std::string> rest(before_.values.begin(), old);
-        rest.insert(rest.end(), old + static_cast<std::ptrdiff_t>(first.size * width),
-                    before_.values.end());
-        if (after.values != rest) return "other values";
-        std::sort(after.comments.begin(), after.comments.end());
-        std::vector<std::string> comments = before_.comments;
-        std::sort(comments.begin(), comments.end());
-        return after.comments == comments ? "" : "other comments";
+        if (in_order(after.comments) != in_order(before_.comments)) return "other comments";
+        return complaint_of_values(after, expected);
     });
-    return other.empty() ? other : other + plan;
+    return complaint.empty() ? complaint : complaint + plan;
+}
+
+std::string EditTrial::all_at_once(const std::vector<Change>& changes, std::size_t number,
+                                   const std::vector<Row>& rows, const std::vector<Added>& added) {
+    // One step, for edits of the document as it is then.
+    using Steps = std::vector<std::function<void(CifEdits&)>>;
+    Steps steps;
+    for (const Change& change : changes) {
+        const Place& place = places_[change.value];
+        steps.push_back(
+            [&](CifEdits& edits) { edits.set(item(place.item), place.row, change.text); });
+    }
+    steps.push_back([&](CifEdits& edits) { edits.set_rows(item(number), cif_rows(number, rows)); });
+    std::set<std::pair<std::size_t, std::string>> tags;
+    for (const Added& one : added) {
+        if (has_item(one.block, one.tag) || !tags.emplace(one.block, one.tag).second) continue;
+        steps.push_back([&](CifEdits& edits) { edits.add(one.block, one.tag, one.text); });
+    }
+    CifEdits all(session_.entries().document());
+    try {
+        for (const auto& step : steps) step(all);
+        const Splices splices = all.splices();
+        for (const auto& step : steps) {
+            CifEdits one(session_.entries().document());
+            step(one);
+            session_.apply(one.splices());
+        }
+        const CifReading expected = read_cif_tokens(session_.bytes());
+        undo_all();
+        return applied(splices, [&](const CifReading& after) -> std::string {
+            if (after.outline != expected.outline) return "other tags";
+            if (in_order(after.comments) != in_order(expected.comments)) return "other comments";
+            ExpectedValues texts;
+            for (std::size_t i = 0; i < expected.values.size(); ++i) {
+                texts.push_back({std::nullopt, expected.text(i)});
+            }
+            return complaint_of_values(after, texts);
+        });
+    } catch (const UnwritableText&) {
+        undo_all();
+        return {};
+    } catch (const std::runtime_error& error) {  // also what is not CIF
+        undo_all();
+        return error.what();
+    }
 }

@@ -41,7 +41,13 @@ public:
     };
     /// Replaces values, each once, at once and one after the other.
     std::string set(const std::vector<Change>& changes);
-    std::string add(std::size_t block, const std::string& tag, const std::string& text);
+    /// An item that a block gets, if it has none of that tag.
+    struct Added {
+        std::size_t block;
+        std::string tag, text;
+    };
+    std::string add(const Added& added);
+
     /// A row of a loop: which old one, and the texts of columns.
     struct Row {
         std::optional<std::size_t> old;
@@ -50,6 +56,11 @@ public:
     /// Makes these the rows of the loop of an item; none make a row without texts.
     std::string set_rows(std::size_t item, const std::vector<Row>& rows);
 
+    /// Does all in one go, which gives what one after the other does: values, rows of the loop of
+    /// an item, items.
+    std::string all_at_once(const std::vector<Change>& changes, std::size_t item,
+                            const std::vector<Row>& rows, const std::vector<Added>& added);
+
 private:
     /// A value as our reader sees it.
     struct Place {
@@ -57,7 +68,10 @@ private:
     };
 
     const CifItem& item(std::size_t number) const;
+    bool has_item(std::size_t block, const std::string& tag) const;
+    std::vector<CifRow> cif_rows(std::size_t number, const std::vector<Row>& rows) const;
     std::size_t number_in_file(const Place& place) const;
+    void undo_all();
     /// Does what edits say, asks `check` of what is read then, and undoes it.
     template <class Check>
     std::string applied(const Splices& splices, const Check& check);

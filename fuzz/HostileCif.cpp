@@ -38,7 +38,7 @@ const char* const bodies[] = {
     "\t1\t2\n\t3\t4",
     // Blocks, save frames, an empty block, an item twice, keywords in capitals.
     "data_first\n_cell_length_a 1.0\nsave_frame\n_cell_length_b 2\nloop_\n_f_a\n1\n2\nsave_\n"
-    "_cell_length_c 3\nDATA_Second\nLOOP_\n_b_a\n_B_b\n1 2\n_cell_length_a 5 _cell_length_a '6'\n"
+    "_cell_length_c 3\n_c_missing\nDATA_Second\nLOOP_\n_b_a\n_B_b\n1 2\n_cell_length_a 5 _cell_length_a '6'\n"
     "data_empty\n# nothing\nData_frames\nSAVE_x\n_a 1\nSave_\nsave_y\n_a 2\nsave_\ndata_last _x y\n"
     "data_first\n_again yes\ndata_\n_x 1\n",
     // Words that begin as keywords do, and characters with a meaning.

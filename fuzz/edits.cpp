@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!complaint.empty()) {
             complaint.append(" by itself");
         } else if (kind % 4 == 0) {
-            complaint = trial.add(number % trial.blocks(), "_added_item", input.text());
+            complaint = trial.add({number % trial.blocks(), "_added_item", input.text()});
         } else if (kind % 4 == 1) {
             complaint = complaint_of_rows(trial, number, input);
         } else {

@@ -1,0 +1,29 @@
+#include "fuzz/ExpectedValues.h"
+
+#include "fuzz/writable_text.h"
+
+ExpectedValues as_they_are(const CifReading& reading) {
+    ExpectedValues values;
+    values.reserve(reading.values.size());
+    for (const std::string& raw : reading.values) {
+        values.push_back(raw.empty() ? ExpectedValue() : ExpectedValue{raw, {}});
+    }
+    return values;
+}
+
+std::string complaint_of_values(const CifReading& after, const ExpectedValues& expected) {
+    if (after.values.size() != expected.size()) return "more or fewer values";
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        const auto& [raw, text] = expected[i];
+        if (raw) {
+            if (after.values[i] != *raw) return after.values[i] + " instead of " + *raw;
+            continue;
+        }
+        const std::optional<std::string> read = after.text(i);
+        if (read.has_value() == text.has_value() && (!text || *read == with_line_feeds(*text))) {
+            continue;
+        }
+        return "read as " + read.value_or("nothing") + " instead of " + text.value_or("nothing");
+    }
+    return {};
+}

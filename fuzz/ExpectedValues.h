@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "fuzz/CifReading.h"
+
+/// A value that an edit must leave as it stands, or give a text or none.
+struct ExpectedValue {
+    std::optional<std::string> raw{}, text{};
+};
+using ExpectedValues = std::vector<ExpectedValue>;
+
+/// A value that is missing may be written as none.
+ExpectedValues as_they_are(const CifReading& reading);
+
+/// What is read otherwise; empty where nothing is.
+std::string complaint_of_values(const CifReading& after, const ExpectedValues& expected);
