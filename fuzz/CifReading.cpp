@@ -187,3 +187,22 @@ std::string disagreement_with_gemmi(std::string_view bytes, const CifReading& re
     if (other.values != reading.values) return "other values";
     return {};
 }
+
+std::string disagreement_with_document(const CifDocument& document, const CifReading& reading) {
+    if (document.is_version_2() != reading.is_version_2) return "another version";
+    std::size_t seen = 0;
+    for (std::size_t block = 0; block < document.blocks(); ++block) {
+        for (const CifItem* const item : document.items(block)) {
+            if (seen == reading.items.size()) return "more items";
+            const CifReading::Item& other = reading.items[seen++];
+            if (item->tag() != other.tag) return "another tag: " + other.tag;
+            if (item->size() != other.size) return "other rows: " + other.tag;
+            for (std::size_t row = 0; row < other.size; ++row) {
+                const std::string& raw = reading.values[other.first + row * other.stride];
+                const std::string_view ours = (*item)[row].raw;
+                if (ours != raw) return "the value " + raw + " is read as " + std::string(ours);
+            }
+        }
+    }
+    return seen == reading.items.size() ? "" : "fewer items";
+}

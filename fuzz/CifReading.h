@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "entries/CifDocument.h"
+
 /// What readers that share nothing with ours see of a CIF file.
 struct CifReading {
     /// One of a block, outside save frames, column `column` of `stride`: value n is number `first`
@@ -35,3 +37,6 @@ CifReading read_cif_tokens(std::string_view bytes);
 /// What gemmi's reader, which knows version 1 only, finds otherwise than the tokens say; empty
 /// where they agree.
 std::string disagreement_with_gemmi(std::string_view bytes, const CifReading& reading);
+
+/// What a document, which our reader made of the same bytes, has otherwise.
+std::string disagreement_with_document(const CifDocument& document, const CifReading& reading);

@@ -5,7 +5,6 @@
 #include <set>
 #include <utility>
 
-#include "entries/written_value.h"
 #include "fuzz/ExpectedValues.h"
 #include "fuzz/writable_text.h"
 
@@ -26,19 +25,6 @@ std::string quoted(const Splices& splices) {
         text.append("> becomes <").append(splice.after).append(">");
     }
     return text;
-}
-
-/// Calls `edit`; what is wrong where it refuses texts or does not. `is_done` tells whether it has.
-template <class Edit>
-std::string complaint_of_refusal(const Edit& edit, Writable all, bool& is_done) {
-    is_done = false;
-    try {
-        edit();
-        is_done = true;
-        return all == Writable::no ? "what no CIF file can hold is not refused" : "";
-    } catch (const UnwritableText& refusal) {
-        return all == Writable::yes ? std::string("refused: ") + refusal.what() : "";
-    }
 }
 
 }  // namespace
@@ -72,23 +58,9 @@ std::size_t EditTrial::number_in_file(const Place& place) const {
 }
 
 std::string EditTrial::readers() const {
-    const CifDocument& document = session_.entries().document();
-    if (document.is_version_2() != before_.is_version_2) return "another version";
-    std::vector<const CifItem*> all;
-    for (std::size_t block = 0; block < document.blocks(); ++block) {
-        for (const CifItem* const item : document.items(block)) all.push_back(item);
-    }
-    if (all.size() != items()) return "other items";
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        if (all[i]->tag() != before_.items[i].tag) return "another tag: " + before_.items[i].tag;
-        if (all[i]->size() != rows(i)) return "other rows: " + before_.items[i].tag;
-        for (std::size_t row = 0; row < rows(i); ++row) {
-            const std::string& raw = before_.values[number_in_file({i, row})];
-            const std::string_view seen = (*all[i])[row].raw;
-            if (seen != raw) return "the value " + raw + " is read as " + std::string(seen);
-        }
-    }
-    return before_.is_version_2 ? "" : disagreement_with_gemmi(session_.bytes(), before_);
+    const std::string ours = disagreement_with_document(session_.entries().document(), before_);
+    if (!ours.empty() || before_.is_version_2) return ours;
+    return disagreement_with_gemmi(session_.bytes(), before_);
 }
 
 void EditTrial::undo_all() {
@@ -148,21 +120,13 @@ std::string EditTrial::set(const std::vector<Change>& changes) {
     for (const Change& change : done) {
         expected[number_in_file(places_[change.value])] = {std::nullopt, change.text};
     }
-    const auto check = [&](const CifReading& after) -> std::string {
+    const Splices splices = edits.splices();
+    if (splices.size() > done.size()) return "more is changed" + quoted(splices);
+    return applied(splices, [&](const CifReading& after) -> std::string {
         if (after.outline != before_.outline) return "other tags";
         if (after.comments != before_.comments) return "other comments";
         return complaint_of_values(after, expected);
-    };
-    const Splices splices = edits.splices();
-    if (splices.size() > done.size()) return "more is changed" + quoted(splices);
-    std::string complaint = applied(splices, check);
-    if (!complaint.empty() || done.size() < 2) return complaint;
-    for (const Change& change : done) {
-        CifEdits one(session_.entries().document());
-        one.set(item(places_[change.value].item), places_[change.value].row, change.text);
-        session_.apply(one.splices());
-    }
-    return applied({}, check);
+    });
 }
 
 std::string EditTrial::add(const Added& added) {

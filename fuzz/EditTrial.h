@@ -39,7 +39,7 @@ public:
         std::size_t value;
         Text text;
     };
-    /// Replaces values, each once, at once and one after the other.
+    /// Replaces values, each once.
     std::string set(const std::vector<Change>& changes);
     /// An item that a block gets, if it has none of that tag.
     struct Added {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <string_view>
 
-#include "entries/written_value.h"
 #include "markup/Utf8.h"
 
 namespace {
