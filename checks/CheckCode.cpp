@@ -6,9 +6,13 @@
 namespace {
 
 constexpr CheckSubject subjects[] = {
-    {"The file", file_codes},     {"Values", reading_codes},
-    {"Texts", text_codes},        {"People and publication", publication_codes},
-    {"Formulae", formula_codes},  {"Cell and measurement", cell_codes},
+    {"The file", file_codes},
+    {"Values", reading_codes},
+    {"Texts", text_codes},
+    {"People and publication", publication_codes},
+    {"Formulae", formula_codes},
+    {"Atoms", atom_codes},
+    {"Cell and measurement", cell_codes},
     {"Symmetry", symmetry_codes},
 };
 

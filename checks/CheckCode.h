@@ -39,5 +39,6 @@ std::span<const CheckCode> reading_codes();
 std::span<const CheckCode> text_codes();
 std::span<const CheckCode> publication_codes();
 std::span<const CheckCode> formula_codes();
+std::span<const CheckCode> atom_codes();
 std::span<const CheckCode> cell_codes();
 std::span<const CheckCode> symmetry_codes();

@@ -67,6 +67,7 @@ private:
 
 void check_publication(CheckedEntry& entry);
 void check_formula(CheckedEntry& entry);
+void check_atoms(CheckedEntry& entry);
 void check_cell(CheckedEntry& entry);
 void check_symmetry(CheckedEntry& entry);
 /// Of the whole file, once.

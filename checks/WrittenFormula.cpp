@@ -143,6 +143,17 @@ bool WrittenFormula::can_be_counted() const {
     return is_formula() && are_known(*formula_) && unknown_symbol().empty();
 }
 
+std::optional<ElementTotals> WrittenFormula::totals_of_unit() const {
+    if (!is_formula() || formula_->moieties.size() > 1 || !unknown_symbol().empty()) {
+        return std::nullopt;
+    }
+    Formula unit = *formula_;
+    Formula::Count& number = unit.moieties.front().multiplier;
+    if (number.is_known) return std::nullopt;
+    number = {};
+    return are_known(unit) ? std::optional(totals_of(unit, text_)) : std::nullopt;
+}
+
 std::string WrittenFormula::with_blanks() const {
     std::string result;
     std::size_t end = 0;  // of what has been copied

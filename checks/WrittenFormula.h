@@ -36,6 +36,8 @@ public:
 
     /// What there is of each element, where it can be counted.
     ElementTotals totals() const { return totals_of(*formula_, text_); }
+    /// Likewise of its only moiety, of which there are n or another unknown number.
+    std::optional<ElementTotals> totals_of_unit() const;
     const Formula& formula() const { return *formula_; }
 
     /// As the convention wants it, with the order as it is.

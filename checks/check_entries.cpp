@@ -18,6 +18,7 @@ struct EntryCheck {
 constexpr EntryCheck entry_checks[] = {
     {publication_codes, check_publication},
     {formula_codes, check_formula},
+    {atom_codes, check_atoms},
     {cell_codes, check_cell},
     {symmetry_codes, check_symmetry},
 };

@@ -5,6 +5,7 @@
 
 #include "checks/CheckedEntry.h"
 #include "checks/WrittenFormula.h"
+#include "entries/cif_tags.h"
 #include "entries/cif_text.h"
 
 namespace {
@@ -12,7 +13,6 @@ namespace {
 using gemmi::El;
 using Value = CheckedEntry::Value;
 
-constexpr std::string_view sum_tag = "_chemical_formula_sum";
 constexpr std::string_view moiety_tag = "_chemical_formula_moiety";
 constexpr std::string_view weight_tag = "_chemical_formula_weight";
 
@@ -24,7 +24,8 @@ std::string ratio_in_words(double number, double of) {
         const double ratio = is_fraction ? of / number : number / of;
         const double rounded = std::round(ratio);
         if (rounded < 2 || rounded > largest || std::abs(ratio - rounded) > slack) continue;
-        return (is_fraction ? "1/" : "") + short_number(rounded) + " times";
+        if (!is_fraction) return short_number(rounded) + " times";
+        return std::string("1/").append(short_number(rounded)).append(" of");
     }
     return "";
 }
@@ -81,7 +82,7 @@ class FormulaCheck {
 public:
     explicit FormulaCheck(CheckedEntry& entry)
         : entry_(entry),
-          sum_value_(entry.first(sum_tag)),
+          sum_value_(entry.first(cif_tags::sum_formula)),
           moiety_value_(entry.first(moiety_tag)),
           weight_value_(entry.first(weight_tag)),
           sum_(sum_value_.text),
@@ -99,6 +100,7 @@ private:
     void check_moiety();
     bool check_symbols(const Value& value, const WrittenFormula& formula,
                        const std::optional<std::string>& mended, bool is_safe);
+    std::optional<ElementTotals> totals_of_moieties(const ElementTotals& sum) const;
     void compare_with_moiety();
     void compare_with_weight();
     void add(const char* code, const Value& value, const std::optional<std::string>& mended,
@@ -162,10 +164,23 @@ void FormulaCheck::check_moiety() {
     check_symbols(moiety_value_, moiety_, moiety_.with_blanks(), is_safe);
 }
 
+/// What the moieties have together; of one that is repeated n times as many as the sum may have.
+std::optional<ElementTotals> FormulaCheck::totals_of_moieties(const ElementTotals& sum) const {
+    if (moiety_.can_be_counted()) return moiety_.totals();
+    std::optional<ElementTotals> unit = moiety_.totals_of_unit();
+    if (!unit) return std::nullopt;
+    const double times = std::max(1.0, std::round(sum.weight() / unit->weight()));
+    for (double& total : unit->total) total *= times;
+    for (double& rounding : unit->rounding) rounding *= times;
+    return unit;
+}
+
 void FormulaCheck::compare_with_moiety() {
-    if (!sum_.can_be_counted() || !moiety_.can_be_counted()) return;
-    const ElementTotals sum = sum_.totals(), moieties = moiety_.totals();
-    if (are_equal(sum, moieties)) return;
+    if (!sum_.can_be_counted()) return;
+    const ElementTotals sum = sum_.totals();
+    const std::optional<ElementTotals> all = totals_of_moieties(sum);
+    if (!all || are_equal(sum, *all)) return;
+    const ElementTotals& moieties = *all;
     std::string expected = sum_formula(moieties);
     const std::string ratio = ratio_in_words(moieties.weight(), sum.weight());
     if (!ratio.empty()) expected.append(", which is ").append(ratio).append(" that");

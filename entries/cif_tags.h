@@ -7,6 +7,7 @@
 namespace cif_tags {
 
 inline constexpr std::string_view identifier = "_cod_database_code";
+inline constexpr std::string_view sum_formula = "_chemical_formula_sum";
 inline constexpr std::string_view name = "_chemical_name_systematic";
 inline constexpr std::string_view synonyms[] = {"_chemical_name_common", "_chemical_name_mineral"};
 
