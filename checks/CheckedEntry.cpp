@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "entries/cif_text.h"
+#include "entries/written_value.h"
 
 const CifItem* CheckedEntry::item(std::string_view tag) const {
     const CifItem* const own = entry_.block.find(tag);
@@ -67,8 +68,13 @@ CheckFinding& CheckedEntry::add(std::string_view code, const char* place, std::s
     return finding;
 }
 
-Splice CheckedEntry::replaced(const Value& value, const std::string& text) const {
+std::optional<Splice> CheckedEntry::replaced(const Value& value, const std::string& text) const {
     CifEdits edits(document_);
-    edits.set(*value.item, value.row, text);
-    return edits.splices().at(0);
+    try {
+        edits.set(*value.item, value.row, text);
+    } catch (const UnwritableText&) {
+        return std::nullopt;
+    }
+    const Splices splices = edits.splices();
+    return splices.empty() ? std::nullopt : std::optional(splices.front());
 }

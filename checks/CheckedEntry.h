@@ -53,8 +53,9 @@ public:
     /// Likewise at a place of the bytes.
     CheckFinding& add(std::string_view code, const char* place, std::string found,
                       std::string expected = "");
-    /// The change that gives a value another text, as a repair.
-    Splice replaced(const Value& value, const std::string& text) const;
+    /// The change that gives a value another text, as a repair; nothing where it changes nothing or
+    /// no file can hold the text.
+    std::optional<Splice> replaced(const Value& value, const std::string& text) const;
 
 private:
     const CifDocument& document_;
