@@ -89,7 +89,6 @@ constexpr Journal rows[] = {
     {"European Journal of Mineralogy", "Eur. J. Mineral."},
     {"European Journal of Organic Chemistry", "Eur. J. Org. Chem.", true},
     {"European Journal of Solid State and Inorganic Chemistry", "Eur. J. Solid State Inorg. Chem."},
-    {"European Journal of Solid State Inorganic Chemistry"},
     {"Fortschritte der Mineralogie", "Fortschr. Mineral."},
     {"Gazzetta Chimica Italiana", "Gazz. Chim. Ital."},
     {"Helvetica Chimica Acta", "Helv. Chim. Acta"},

@@ -14,7 +14,7 @@ TEST(CheckPublication, OrdersPages) {
         PageOrder order;
     } cases[] = {
         {"9", "10", right},
-        {"10", "9", reversed},
+        {"20", "19", reversed},
         {"1234", "38", right},
         {"1234", "33", reversed},
         {"1234", "1234", right},
@@ -64,7 +64,7 @@ TEST(CheckPublication, ReadsDois) {
                                  : c.doi  ? DoiReading::decorated
                                           : DoiReading::none)
             << c.text;
-        if (c.doi && !is_right) EXPECT_EQ(reading.doi, c.doi);
+        EXPECT_EQ(reading.doi, c.doi && !is_right ? c.doi : "") << c.text;
     }
 }
 
@@ -130,7 +130,7 @@ TEST(CheckPublication, TellsWhoIsThereTwice) {
         const auto people = repeated_people({"Other, A.", c.first, c.second});
         const std::string likeness = people.empty() ? "" : people[0].is_sure ? "same" : "alike";
         EXPECT_EQ(likeness, c.likeness) << c.first << " and " << c.second;
-        if (!people.empty()) EXPECT_EQ(people[0].before, 1U);
+        EXPECT_TRUE(people.empty() || people[0].before == 1) << c.first;
     }
 }
 
