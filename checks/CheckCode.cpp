@@ -12,8 +12,9 @@ constexpr CheckSubject subjects[] = {
     {"People and publication", publication_codes},
     {"Formulae", formula_codes},
     {"Atoms", atom_codes},
-    {"Cell and measurement", cell_codes},
+    {"Cell", cell_codes},
     {"Symmetry", symmetry_codes},
+    {"Measurement", measurement_codes},
 };
 
 }  // namespace

@@ -42,3 +42,4 @@ std::span<const CheckCode> formula_codes();
 std::span<const CheckCode> atom_codes();
 std::span<const CheckCode> cell_codes();
 std::span<const CheckCode> symmetry_codes();
+std::span<const CheckCode> measurement_codes();

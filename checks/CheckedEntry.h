@@ -71,6 +71,7 @@ void check_formula(CheckedEntry& entry);
 void check_atoms(CheckedEntry& entry);
 void check_cell(CheckedEntry& entry);
 void check_symmetry(CheckedEntry& entry);
+void check_measurement(CheckedEntry& entry);
 /// Of the whole file, once.
 /// @{
 void check_file(const CifDocument& document, CheckFindings& findings);

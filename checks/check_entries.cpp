@@ -21,6 +21,7 @@ constexpr EntryCheck entry_checks[] = {
     {atom_codes, check_atoms},
     {cell_codes, check_cell},
     {symmetry_codes, check_symmetry},
+    {measurement_codes, check_measurement},
 };
 
 /// Likewise in a file.
