@@ -2,34 +2,17 @@
 
 #include <new>
 
-#include "entries/CifBeginning.h"
-
-namespace {
-
-constexpr std::size_t most_unpacked = 1 << 30;  // bytes, for they are held at once
-
-std::string read_cif(const std::string& path) {
-    InputFile file(path);
-    std::string bytes;
-    CifBeginning beginning;
-    while (beginning.may_be_cif(bytes) && file.read(bytes)) {
-        if (file.is_packed() && bytes.size() > most_unpacked) {
-            throw InputError(file.name() + ": unpacks to more than 1 GB");
-        }
-    }
-    return bytes;
-}
-
-}  // namespace
+#include "cli/read_cif.h"
 
 EntryFile::EntryFile(const std::string& path) : path_(path) {
     try {
-        bytes_ = read_cif(path);
+        InputFile file(path);
+        bytes_ = read_cif(file);
         reader_.emplace(bytes_);
     } catch (const InputError& error) {
         refuse(error.what());
     } catch (const CifError& error) {
-        refuse(path + ":" + std::to_string(error.line()) + ": not a CIF file: " + error.what());
+        refuse(not_cif(path, error));
     } catch (const std::bad_alloc&) {
         refuse(path + ": out of memory");
     }

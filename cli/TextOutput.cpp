@@ -127,15 +127,21 @@ bool give_name(int descriptor, const std::string& path) {
     return linkat(AT_FDCWD, open_file.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
-/// So that a file stays in its place when the power fails; not all file systems can.
+/// Whether owner and group are those of the other.
+bool has_owners(int descriptor, const struct stat& other) {
+    struct stat file {};
+    return fstat(descriptor, &file) == 0 && file.st_uid == other.st_uid &&
+           file.st_gid == other.st_gid;
+}
+
+}  // namespace
+
 void sync_folder(const std::string& folder) {
     const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0) return;
     fsync(descriptor);
     close(descriptor);
 }
-
-}  // namespace
 
 TextOutput::TextOutput(const std::string& path)
     : name_(path), place_(end_of_links(path)), file_(nullptr) {
@@ -152,11 +158,17 @@ TextOutput::TextOutput(const std::string& path)
     const int descriptor = fileno(file_);
     const bool allowed = exists ? take_over_rights(descriptor, there)
                                 : lacks_name_ || fchmod(descriptor, usual_mode()) == 0;
-    if (allowed) return;
-    const int error = errno;
-    remove();
-    errno = error;
-    fail(name_);
+    if (!allowed) give_up(name_);
+}
+
+TextOutput::TextOutput(const std::string& name, const std::string& place, const struct stat& other)
+    : name_(name), place_(place), syncs_folder_(false), file_(nullptr) {
+    begin_file(false);
+    const int descriptor = fileno(file_);
+    if (!take_over_rights(descriptor, other)) give_up(name_);
+    if (has_owners(descriptor, other)) return;
+    errno = EPERM;
+    give_up(name_ + ": owner and group cannot be kept");
 }
 
 TextOutput::~TextOutput() { remove(); }
@@ -187,6 +199,14 @@ void TextOutput::put_in_place() {
     temporary_.clear();
 }
 
+/// Throws what has just failed.
+void TextOutput::give_up(const std::string& name) {
+    const int error = errno;
+    remove();
+    errno = error;
+    fail(name);
+}
+
 void TextOutput::remove() {
     if (file_) std::fclose(std::exchange(file_, nullptr));
     if (!temporary_.empty()) unlink(temporary_.c_str());
@@ -203,6 +223,7 @@ bool TextOutput::is_at(const std::string& path) const {
 bool TextOutput::is_terminal() const { return isatty(fileno(file_)) != 0; }
 
 void TextOutput::write(std::string_view text) {
+    is_synced_ = false;
     if (std::fwrite(text.data(), 1, text.size(), file_) != text.size()) fail(name_);
 }
 
@@ -210,12 +231,17 @@ void TextOutput::flush() {
     if (std::fflush(file_) != 0) fail(name_);
 }
 
+void TextOutput::sync() {
+    flush();
+    if (fsync(fileno(file_)) != 0) fail(name_);
+    is_synced_ = true;
+}
+
 void TextOutput::close() {
     if (!temporary_.empty() || lacks_name_) {
-        flush();
-        if (fsync(fileno(file_)) != 0) fail(name_);
+        if (!is_synced_) sync();
         put_in_place();
-        sync_folder(folder_of(place_));
+        if (syncs_folder_) sync_folder(folder_of(place_));
     }
     if (std::fclose(std::exchange(file_, nullptr)) != 0) fail(name_);
 }

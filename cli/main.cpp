@@ -2,12 +2,15 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <exception>
 #include <functional>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -25,9 +28,10 @@ using Commands = std::vector<std::unique_ptr<Command>>;
 /// In the order in which help and manual tell of them.
 Commands all_commands() {
     Commands commands;
-    for (const auto make : {make_convert_command, make_show_command, make_find_command,
-                            make_fields_command, make_search_command, make_compare_command,
-                            make_targets_command, make_manual_command, make_completion_command}) {
+    for (const auto make :
+         {make_convert_command, make_show_command, make_find_command, make_fields_command,
+          make_search_command, make_compare_command, make_set_command, make_targets_command,
+          make_manual_command, make_completion_command}) {
         commands.push_back(make());
     }
     return commands;
@@ -65,6 +69,11 @@ void occupy_standard_descriptors() {
     }
 }
 
+/// An option with nothing behind its "=", for which CLI11 would take the next argument.
+bool has_empty_value(std::string_view argument) {
+    return argument.starts_with("--") && argument.find('=') == argument.size() - 1;
+}
+
 /// CLI11 would make a list of an argument like "[x,y]". While it parses them, such arguments end
 /// with a NUL, which none has of itself.
 void parse_as_they_are(CLI::App& program, int argc, char** argv) {
@@ -74,8 +83,15 @@ void parse_as_they_are(CLI::App& program, int argc, char** argv) {
                 [](const std::string& value) { return value.substr(0, value.find('\0')); });
         }
     }
+    const auto* const end_of_options =
+        std::find_if(argv, argv + argc, [](std::string_view argument) { return argument == "--"; });
     std::vector<std::string> arguments;
     for (int i = argc - 1; i > 0; --i) {  // CLI11 takes the last first
+        if (argv + i < end_of_options && has_empty_value(argv[i])) {
+            arguments.emplace_back();
+            arguments.emplace_back(argv[i], std::strlen(argv[i]) - 1);
+            continue;
+        }
         std::string& argument = arguments.emplace_back(argv[i]);
         if (argument.starts_with('[') && argument.ends_with(']')) argument += '\0';
     }

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <future>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/EditedFile.h"
+#include "cli/Places.h"
+#include "entries/EditSession.h"
+#include "entries/Problem.h"
+
+/// What shall become of a file, and what there is to say about it.
+struct FileChange {
+    Splices splices;
+    std::vector<Problem> problems;
+};
+
+/// Changes the entries of place number `place`, several of different places at the same time.
+using EditEntries = std::function<FileChange(std::size_t place, const EntryReader& entries)>;
+
+/// Has several CIF files edited in memory, in threads, and gives them in their order. Holds a few
+/// files for each job.
+class EditBatch {
+public:
+    /// A file, and the bytes that it shall have.
+    struct Edited {
+        std::optional<EditedFile> file{};  // none: could not be read
+        std::string bytes{};
+        Splices splices{};  // none: nothing changes, or something is wrong
+        std::vector<Problem> problems{};
+    };
+
+    /// `jobs` is 1 or more; with 1 each file is edited when it is asked for.
+    EditBatch(std::vector<Place> places, unsigned int jobs, EditEntries edit);
+    EditBatch(const EditBatch&) = delete;
+    EditBatch& operator=(const EditBatch&) = delete;
+    ~EditBatch();
+
+    /// Waits for the next file; none at the end. A file with an error among its problems is not to
+    /// be changed. Throws what editing throws, but std::bad_alloc.
+    std::optional<Edited> next();
+
+    std::size_t places() const { return places_.size(); }
+
+private:
+    using Range = std::pair<std::size_t, std::size_t>;
+
+    Edited edited(std::size_t place) const;
+    void edit(std::size_t place, Edited& done) const;
+    Range next_range();
+    void begin_to_edit();
+
+    std::vector<Place> places_;
+    unsigned int jobs_;
+    EditEntries edit_;
+    std::size_t next_place_ = 0;
+    std::deque<std::future<std::vector<Edited>>> in_work_;  // in the order of the places
+    std::deque<Edited> done_;                               // before these
+};

@@ -1,0 +1,109 @@
+#include "tasks/FieldEditor.h"
+
+#include <string_view>
+#include <utility>
+
+#include "entries/field_edit.h"
+#include "markup/RichTextTarget.h"
+#include "tasks/EntryFields.h"
+#include "tasks/Losses.h"
+#include "tasks/TextReplacement.h"
+#include "tasks/edits_in_json.h"
+#include "tasks/row_named.h"
+#include "text/TextItem.h"
+
+namespace {
+
+constexpr std::string_view cif_text = "cif-text";  // as texts with styles stand in files
+constexpr std::string_view pasted = "unicode";
+
+bool has_styles(const Field& field) { return field_writing(field.label) == FieldWriting::text; }
+
+/// The kind of text that a field is written in.
+const Source& kind_written(const Field& field, const FieldText& now) {
+    return has_styles(field) ? *row_named(sources(), cif_text) : *now.source;
+}
+
+}  // namespace
+
+void FieldEditor::set(std::size_t index, const Field& field, const std::string& text,
+                      const Source* from) {
+    try {
+        edit(index, field, in_field(index, field, text, from));
+    } catch (const std::exception& error) {
+        refuse(index, field, error);
+    }
+}
+
+void FieldEditor::update(std::size_t index, const Field& field, const std::string& text) {
+    try {
+        const std::string now = text_of(entry(index), field).text;
+        if (now != text && as_in_json(now) != text) edit(index, field, text);
+    } catch (const std::exception& error) {
+        refuse(index, field, error);
+    }
+}
+
+void FieldEditor::replace(std::size_t index, const Field& field, const std::string& old,
+                          const std::string& text, const Source* from) {
+    try {
+        const FieldText now = text_of(entry(index), field);
+        if (now.text.empty()) return;
+        const TextReplacement part(kind_written(field, now), now.text, old);
+        if (!part.is_there()) return;
+        const bool is_ready = !part.is_seen() && !from;
+        edit(index, field, part.with(is_ready ? text : in_field(index, field, text, from)));
+    } catch (const std::exception& error) {
+        refuse(index, field, error);
+    }
+}
+
+const CifEntry& FieldEditor::entry(std::size_t index) {
+    if (index_ != index) entry_.emplace(entries_[index]);
+    index_ = index;
+    return *entry_;
+}
+
+/// The text as the field has it in the file.
+std::string FieldEditor::in_field(std::size_t index, const Field& field, const std::string& text,
+                                  const Source* from) {
+    if (!from && has_styles(field)) from = row_named(sources(), pasted);
+    if (!from) return text;
+    const RichTextTarget& target = *row_named(rich_text_targets(), cif_text);
+    const bool stays = !has_styles(field) || from->name == cif_text;
+    const THandle<InputTextStyleFinder> finder = from->make_finder();
+    const TextItem item(finder, text);  // throws for what it cannot be
+    if (stays) return text;
+    std::vector<Problem> notes;
+    if (from->note_doubts) from->note_doubts(*finder, notes);
+    Losses(target).note_styles(item, notes);
+    add(index, field, std::move(notes));
+    return item.mark_up_text(*target.make_generator());
+}
+
+void FieldEditor::edit(std::size_t index, const Field& field, const std::string& text) {
+    if (has_styles(field)) {
+        const Source& kind = *row_named(sources(), cif_text);
+        const THandle<InputTextStyleFinder> finder = kind.make_finder();
+        const TextItem item(finder, text);
+        std::vector<Problem> doubts;
+        kind.note_doubts(*finder, doubts);
+        add(index, field, std::move(doubts));
+    }
+    edit_field(entries_, index, field.label, text, edits_);
+}
+
+void FieldEditor::add(std::size_t index, const Field& field, std::vector<Problem> problems) {
+    for (Problem& problem : problems) {
+        problem.block = std::string(entries_.document().name_of(entries_.block_of(index)));
+        problem.item = field.label;
+        problem.column = 0;
+        problems_.push_back(std::move(problem));
+    }
+}
+
+void FieldEditor::refuse(std::size_t index, const Field& field, const std::exception& error) {
+    Problem problem;
+    problem.what = error.what();
+    add(index, field, {std::move(problem)});
+}
