@@ -46,6 +46,7 @@ std::unique_ptr<Command> make_fields_command();
 std::unique_ptr<Command> make_search_command();
 std::unique_ptr<Command> make_compare_command();
 std::unique_ptr<Command> make_set_command();
+std::unique_ptr<Command> make_check_command();
 std::unique_ptr<Command> make_targets_command();
 std::unique_ptr<Command> make_manual_command();
 std::unique_ptr<Command> make_completion_command();

@@ -1,10 +1,7 @@
 #include "cli/EntryBatch.h"
 
-#include <cstdint>
-#include <filesystem>
 #include <new>
 #include <optional>
-#include <system_error>
 #include <utility>
 
 #include "cli/launch_policy.h"
@@ -12,14 +9,12 @@
 
 namespace {
 
-// Enough to be worth a thread.
-constexpr std::size_t entries_of_a_thread = 16;
-constexpr std::uintmax_t bytes_of_a_thread = 1 << 18;
+constexpr std::size_t entries_of_a_thread = 16;  // enough to be worth one
 
 }  // namespace
 
 EntryBatch::EntryBatch(std::vector<Place> places, unsigned int jobs, ProcessEntries process)
-    : places_(std::move(places)), jobs_(jobs), process_(std::move(process)) {}
+    : places_(std::move(places), jobs), jobs_(jobs), process_(std::move(process)) {}
 
 EntryBatch::~EntryBatch() = default;
 
@@ -53,27 +48,10 @@ EntryBatch::Opened EntryBatch::open(Place place) const {
     }
 }
 
-/// The next file, or several small ones, which one thread opens.
-std::vector<Place> EntryBatch::next_places() {
-    std::vector<Place> places;
-    std::uintmax_t size = 0;
-    while (next_place_ < places_.size()) {
-        if (jobs_ > 1) {
-            std::error_code unknown;
-            const auto more = std::filesystem::file_size(places_[next_place_].path, unknown);
-            size += unknown ? bytes_of_a_thread : more;
-        }
-        const bool suffices = jobs_ == 1 || size > bytes_of_a_thread;
-        if (suffices && !places.empty()) break;
-        places.push_back(std::move(places_[next_place_++]));
-    }
-    return places;
-}
-
 /// Keeps as many threads opening files as there are jobs.
 void EntryBatch::begin_to_open() {
-    while (openings_.size() < jobs_ && next_place_ < places_.size()) {
-        auto places = std::make_shared<std::vector<Place>>(next_places());
+    while (openings_.size() < jobs_ && !places_.at_end()) {
+        auto places = std::make_shared<std::vector<Place>>(places_.take());
         being_opened_ += places->size();
         openings_.push_back(std::async(launch_policy(jobs_), [this, places] {
             std::vector<Opened> all;
@@ -137,7 +115,7 @@ void EntryBatch::begin_to_process() {
 }
 
 double EntryBatch::places_read() const {
-    const std::size_t begun = next_place_ - being_opened_ - opened_.size();
+    const std::size_t begun = places_.taken() - being_opened_ - opened_.size();
     return static_cast<double>(begun) - (file_ ? 1 - file_->part_read() : 0);
 }
 

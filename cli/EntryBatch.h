@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "cli/EntryFile.h"
-#include "cli/Places.h"
+#include "cli/PlaceGroups.h"
 
 /// What became of some entries of a file.
 struct ProcessedEntries {
@@ -57,17 +57,15 @@ private:
 
     std::vector<CifEntry> read_entries(EntryFile& file) const;
     Opened open(Place place) const;
-    std::vector<Place> next_places();
     bool open_next(ProcessedEntries& done);
     bool next_of_file(ProcessedEntries& done);
     void begin_to_open();
     void begin_to_process();
     void refuse(const std::string& message);
 
-    std::vector<Place> places_;
+    PlaceGroups places_;
     unsigned int jobs_;
     ProcessEntries process_;
-    std::size_t next_place_ = 0;
     std::deque<std::future<std::vector<Opened>>> openings_;  // in the order of the places
     std::size_t being_opened_ = 0;                           // the places of these
     std::deque<Opened> opened_;                              // those that stand before them

@@ -8,10 +8,12 @@ EntryFile::EntryFile(const std::string& path) : path_(path) {
     try {
         InputFile file(path);
         bytes_ = read_cif(file);
+        is_packed_ = file.is_packed();
         reader_.emplace(bytes_);
     } catch (const InputError& error) {
         refuse(error.what());
     } catch (const CifError& error) {
+        cif_error_ = error;
         refuse(not_cif(path, error));
     } catch (const std::bad_alloc&) {
         refuse(path + ": out of memory");

@@ -30,8 +30,8 @@ Commands all_commands() {
     Commands commands;
     for (const auto make :
          {make_convert_command, make_show_command, make_find_command, make_fields_command,
-          make_search_command, make_compare_command, make_set_command, make_targets_command,
-          make_manual_command, make_completion_command}) {
+          make_search_command, make_compare_command, make_check_command, make_set_command,
+          make_targets_command, make_manual_command, make_completion_command}) {
         commands.push_back(make());
     }
     return commands;

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <future>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "checks/check_entries.h"
+#include "cli/PlaceGroups.h"
+
+/// What became of a file that was checked.
+struct CheckedFile {
+    std::string path;
+    std::string trouble;  ///< Why it could not be checked, or not be repaired: a sentence or empty.
+    bool is_cif = true;   ///< Otherwise the one finding says why not.
+    std::size_t repairs = 0;  ///< How many were done.
+    CheckFindings findings{};
+};
+
+/// Has CIF files checked in threads and gives the results in the order of the files. Where threads
+/// are refused, fewer work.
+class CheckBatch {
+public:
+    /// What is to be looked for, and done.
+    struct Wanted {
+        WantedChecks checks{};
+        bool repair = false;
+    };
+
+    /// `jobs` is 1 or more.
+    CheckBatch(std::vector<Place> places, unsigned int jobs, Wanted wanted)
+        : places_(std::move(places), jobs), jobs_(jobs), wanted_(std::move(wanted)) {}
+    CheckBatch(const CheckBatch&) = delete;
+    CheckBatch& operator=(const CheckBatch&) = delete;
+    ~CheckBatch();
+
+    /// Waits for the next file; none at the end.
+    std::optional<CheckedFile> next();
+
+    /// How many files there are, and how many have been given.
+    /// @{
+    std::size_t size() const { return places_.size(); }
+    std::size_t given() const { return given_; }
+    /// @}
+
+private:
+    using Files = std::vector<CheckedFile>;
+
+    PlaceGroups places_;
+    unsigned int jobs_;
+    Wanted wanted_;
+    std::size_t given_ = 0;
+    std::deque<std::future<Files>> in_work_;
+    std::deque<CheckedFile> done_;
+};
