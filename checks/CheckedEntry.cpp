@@ -1,8 +1,8 @@
 #include "checks/CheckedEntry.h"
 
-#include <stdexcept>
 #include <utility>
 
+#include "checks/add_finding.h"
 #include "entries/cif_text.h"
 #include "entries/written_value.h"
 
@@ -52,20 +52,7 @@ CheckFinding& CheckedEntry::add(std::string_view code, const Value& at, std::str
 
 CheckFinding& CheckedEntry::add(std::string_view code, const char* place, std::string found,
                                 std::string expected) {
-    const CheckCode* const row = check_code(code);
-    if (!row) throw std::logic_error("no such code: " + std::string(code));
-    CheckFinding& finding = findings_.emplace_back(CheckFinding{row, {}});
-    Problem& problem = finding.problem;
-    problem.level = row->level;
-    problem.code = row->code;
-    problem.line = document_.line_of(place);
-    problem.column = document_.column_of(place);
-    problem.offset = static_cast<std::size_t>(place - document_.bytes().data());
-    problem.block = std::string(document_.name_of(document_.block_at(place)));
-    problem.what = row->summary;
-    problem.found = std::move(found);
-    problem.expected = std::move(expected);
-    return finding;
+    return add_finding(findings_, document_, code, place, std::move(found), std::move(expected));
 }
 
 std::optional<Splice> CheckedEntry::replaced(const Value& value, const std::string& text) const {

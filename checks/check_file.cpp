@@ -1,3 +1,72 @@
-#include "checks/CheckedEntry.h"
+#include <optional>
+#include <string>
+#include <unordered_set>
+#include <utility>
 
-void check_file(const CifDocument& /*document*/, CheckFindings& /*findings*/) {}
+#include "checks/CheckedEntry.h"
+#include "checks/add_finding.h"
+#include "checks/misspelt_tag.h"
+#include "entries/cif_text.h"
+
+namespace {
+
+class FileCheck {
+public:
+    FileCheck(const CifDocument& document, CheckFindings& findings)
+        : document_(document), findings_(findings) {}
+
+    void check_block(std::size_t index) {
+        const std::string_view name = document_.name_of(index);
+        const bool is_new = names_.insert(in_lower_case(name)).second;
+        if (!is_new) add("block-twice", name.data(), std::string(name));
+        const CifBlock block = document_.block(index);
+        const CifBlock::Items items = document_.items(index);
+        if (items.empty()) add("block-empty", name.data(), "");
+        for (const CifItem* repeated : block.repetitions()) add("item-twice", *repeated);
+        const char* loop = nullptr;
+        for (const CifItem* item : items) {
+            check_tag(block, *item);
+            if (item->size() == 0 && item->origin() != loop) add("loop-empty", *item);
+            loop = item->origin();
+            if (item->size() == 1 && (*item)[0].raw.empty()) note_missing_value(*item);
+        }
+    }
+
+private:
+    CheckFinding& add(const char* code, const char* place, std::string found) {
+        return add_finding(findings_, document_, code, place, std::move(found));
+    }
+
+    CheckFinding& add(const char* code, const CifItem& item) {
+        CheckFinding& finding = add(code, item.tag().data(), "");
+        finding.problem.item = in_lower_case(item.tag());
+        return finding;
+    }
+
+    void note_missing_value(const CifItem& item) {
+        const char* const behind = item.tag().data() + item.tag().size();
+        add("value-missing", item).repair = splice_of(document_, {behind, 0}, " ?");
+    }
+
+    void check_tag(const CifBlock& block, const CifItem& item) {
+        const std::optional<std::string> known = known_tag_for(item.tag());
+        if (!known) return;
+        CheckFinding& finding = add("tag-misspelt", item);
+        finding.problem.found = item.tag();
+        finding.problem.item.clear();
+        finding.problem.expected = *known;
+        if (block.find(in_lower_case(*known))) return;  // it would be there twice
+        finding.repair = splice_of(document_, item.tag(), *known);
+    }
+
+    const CifDocument& document_;
+    CheckFindings& findings_;
+    std::unordered_set<std::string> names_;
+};
+
+}  // namespace
+
+void check_file(const CifDocument& document, CheckFindings& findings) {
+    FileCheck check(document, findings);
+    for (std::size_t block = 0; block < document.blocks(); ++block) check.check_block(block);
+}

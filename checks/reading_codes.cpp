@@ -5,13 +5,13 @@ namespace {
 using Level = Problem::Level;
 
 constexpr CheckCode codes[] = {
-    {"not-a-number", Level::error, "a number was expected",
+    {"not-a-number", Level::error, "not a number",
      "The value of an item that holds a number is none: it has a unit or a word behind it, a comma "
      "for the point, or a number beyond use. A standard uncertainty in brackets belongs to a "
      "number: '10.234(5)'.",
      "_cell_measurement_temperature 100(2)\n_cell_formula_units_Z four\n",
      "_cell_measurement_temperature 100(2)\n_cell_formula_units_Z 4\n"},
-    {"not-a-date", Level::error, "a date was expected",
+    {"not-a-date", Level::error, "not a date",
      "The day when the file was made cannot be read. Day and month that only their order could "
      "tell apart, as in '9/7/2004', are no date either.",
      "_audit_creation_date 9/7/2004\n", "_audit_creation_date 9-Jul-2004\n"},
@@ -36,7 +36,7 @@ constexpr CheckCode codes[] = {
      "_cell_angle_alpha 90\n_cell_angle_beta 90\n_cell_angle_gamma 90\n_cell_volume 201.0(1)\n",
      "_cell_length_a 5.000(1)\n_cell_length_b 6.000(1)\n_cell_length_c 7.000(1)\n"
      "_cell_angle_alpha 90\n_cell_angle_beta 90\n_cell_angle_gamma 90\n_cell_volume 210.1(1)\n"},
-    {"not-in-kelvin", Level::warning, "a temperature in K was expected",
+    {"not-in-kelvin", Level::warning, "not a temperature in K",
      "A melting point below 1 K is that of no substance: degrees Celsius were meant.",
      "_chemical_melting_point -20\n", "_chemical_melting_point 253\n"},
     {"r-factor-above-1", Level::warning, "the R factor is above 1",
@@ -53,10 +53,6 @@ constexpr CheckCode codes[] = {
      "_symmetry_space_group_name_H-M 'P 21/c'\n_symmetry_Int_Tables_number 14\n"},
     {"too-many-operations", Level::error, "more symmetry operations than any group has",
      "No group has as many operations in one cell. They are not compared.", nullptr, nullptr},
-    {"name-in-doubt", Level::note, "given names and surname cannot be told apart",
-     "The form of the name does not say which of its words is the surname. 'Surname, Given names' "
-     "does.",
-     "_publ_author_name 'Anne Marie Lee Smith'\n", "_publ_author_name 'Smith, Anne Marie Lee'\n"},
     {"styles-cross", Level::error, "the styles of the name cross",
      "A style ends within another that began after it, so that the name cannot be shown.", nullptr,
      nullptr},

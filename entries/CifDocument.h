@@ -129,6 +129,8 @@ public:
     CifBlock common_block(std::size_t first, std::size_t last) const;
     /// The block in which a place of the bytes is that stands behind a block's heading.
     std::size_t block_at(const char* place) const;
+    /// Whether a place of the bytes stands so, and not before the first block.
+    bool is_in_block(const char* place) const { return place >= contents_.blocks.front().heading; }
     /// As that of the CifBlock. `index` is below blocks().
     std::string_view name_of(std::size_t index) const { return contents_.blocks[index].name; }
 

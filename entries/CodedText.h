@@ -23,7 +23,6 @@ public:
     std::string unicode() const;
     /// In the database's own mark-up; what is beyond ASCII is in UTF-8.
     std::string tevo() const;
-
     /// With codes for what is beyond ASCII, as far as there are any.
     std::string with_codes() const;
 

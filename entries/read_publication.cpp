@@ -50,7 +50,7 @@ void read_publication(BlockReader& block, CrystalStructureDatabaseEntry& entry) 
         const PersonName name = read_person_name(block.decoded(value));
         if (name.doubtful) {
             block
-                .add_problem(value, "name-in-doubt",
+                .add_problem(value, "author-unclear",
                              "given names and surname cannot be told apart in")
                 .level = Problem::Level::note;
         }

@@ -33,6 +33,10 @@ std::string sentence_of(const CheckFinding& finding) {
     std::string text;
     if (problem.block) text.append("data_").append(*problem.block).append(": ");
     if (!problem.item.empty()) text.append(problem.item).append(": ");
+    if (problem.what.empty() && !problem.expected.empty()) {
+        text.append("expected ").append(problem.expected).append(", not '");
+        return text.append(shown_in_line(problem.found)).append("'");
+    }
     text += says_more ? problem.what : finding.code->summary;
     if (!problem.found.empty()) {
         text.append(says_more ? " '" : ": '").append(shown_in_line(problem.found)).append("'");

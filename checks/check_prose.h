@@ -1,0 +1,7 @@
+#pragma once
+
+#include "checks/CheckFinding.h"
+#include "entries/CifDocument.h"
+
+/// Finds what may be wrong in names, titles and sentences: codes, marks, brackets, blanks.
+void check_prose(const CifDocument& document, CheckFindings& findings);
