@@ -9,7 +9,7 @@
 #include "cli/InputFile.h"
 #include "cli/options.h"
 #include "tasks/EntryNames.h"
-#include "tasks/FieldEditor.h"
+#include "tasks/EntryEditor.h"
 
 namespace {
 
@@ -84,7 +84,7 @@ std::vector<Place> EditRequest::read_edits(const std::string& path) {
 }
 
 FileChange EditRequest::change_of(std::size_t place, const EntryReader& entries) const {
-    FieldEditor editor(entries);
+    EntryEditor editor(entries);
     FileChange change;
     EntryChoice choice(entries, change.problems);
     if (!edits.empty()) {
@@ -108,7 +108,7 @@ FileChange EditRequest::change_of(std::size_t place, const EntryReader& entries)
     return change;
 }
 
-void EditRequest::change_entry(std::size_t entry, FieldEditor& editor) const {
+void EditRequest::change_entry(std::size_t entry, EntryEditor& editor) const {
     if (old) {
         editor.replace(entry, *field, *old, *text, from);
     } else {

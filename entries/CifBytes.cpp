@@ -33,7 +33,8 @@ ValuePlace CifBytes::place_of(std::string_view value) const {
     std::size_t first = begin;
     while (!begins_line(first) && begin - first <= longest_cif_line) --first;
     const std::string_view rest = all_.substr(end_of(value), longest_cif_line);
-    const std::size_t behind = std::min({rest.find('\n'), rest.find('\r'), rest.size()});
+    std::size_t behind = std::min({rest.find('\n'), rest.find('\r'), rest.size()});
+    if (touches_comment(end_of(value))) ++behind;  // for the blank that will stand between
     return {is_version_2_, line_end_, begin - first, behind};
 }
 
@@ -71,9 +72,12 @@ std::size_t CifBytes::before_line_end(std::size_t at) const {
 }
 
 void CifBytes::append_comments(std::size_t from, std::size_t to, std::string& comments) const {
-    while ((from = std::min(all_.find('#', from), to)) < to) {
-        const std::size_t end = std::min(all_.find_first_of(line_ends, from), to);
-        comments.append(all_.substr(from, end - from)).append(line_end_);
-        from = end;
+    std::string_view rest = all_.substr(from, to - from);
+    while (true) {
+        rest.remove_prefix(std::min(rest.find('#'), rest.size()));
+        if (rest.empty()) return;
+        const std::string_view comment = rest.substr(0, rest.find_first_of(line_ends));
+        comments.append(comment).append(line_end_);
+        rest.remove_prefix(comment.size());
     }
 }

@@ -33,7 +33,7 @@ const CifItem* neighbour_of(std::string_view tag, const CifBlock::Items& items) 
     const CifItem* found = nullptr;
     std::size_t most = 0;
     for (const CifItem* item : items) {
-        if (item->size() == 0) continue;
+        if (item->size() == 0 || (*item)[item->size() - 1].raw.empty()) continue;
         const std::size_t common = common_words(tag, item->tag());
         if (found && common < most) continue;
         found = item;

@@ -25,7 +25,8 @@ public:
     /// as do the others, and then nothing is changed.
     void set(const CifItem& item, std::size_t row, const std::optional<std::string>& text);
     /// Adds an item that the block lacks behind the last of its category, else at the block's end,
-    /// in the style of its neighbours. Of several texts the last counts.
+    /// in the style of its neighbours. Of several texts the last counts. O(n) for n items of the
+    /// block and those that were added.
     void add(std::size_t block, std::string_view tag, const std::string& text);
     /// Likewise one with a value or more, several in a loop.
     void add(std::size_t block, std::string_view tag, const std::vector<std::string>& texts);

@@ -184,6 +184,7 @@ void append_new_loop(const CifItem& item, const std::vector<CifRow>& rows, const
         if (i > 0) text += bytes.line_end();
         std::string row = !rows[i].old               ? new_row(item, rows[i], bytes, indent.size())
                           : replaced != values.end() ? replaced->second
+                          : raw.empty()              ? "?"
                                                      : std::string(raw);
         if (CifBytes::is_line_end(row.front())) row.erase(0, bytes.line_end().size());
         const bool keeps_raw = rows[i].old && replaced == values.end();
@@ -192,6 +193,7 @@ void append_new_loop(const CifItem& item, const std::vector<CifRow>& rows, const
         text += row;
     }
     if (replaced != values.end()) values.erase(replaced);
+    if (raw.empty()) text += bytes.line_end();  // it was missing before the next line
     if (bytes.touches_comment(end)) text += ' ';
     splices.push_back({begin, std::string(bytes.all().substr(begin, end - begin)), text});
 }

@@ -167,6 +167,23 @@ std::string text_field(std::string_view text, const TextShape& shape, const Valu
     return field.append(place.line_end).append(";");
 }
 
+/// The text in quotes in which lines can stand in version 2, where it can stand so.
+std::string in_triple_quotes(std::string_view text, const ValuePlace& place) {
+    const std::string_view quotes = triple_quotes_for(text);
+    const std::size_t first_line = std::min(text.find('\n'), text.size());
+    const std::size_t last_line = text.size() - (text.rfind('\n') + 1);  // npos + 1 is 0
+    const bool one_line = first_line == text.size();
+    const std::size_t first = place.before + quotes.size() + first_line;
+    const std::size_t last = (one_line ? first : last_line) + quotes.size() + place.behind;
+    if (quotes.empty() || std::max(first, last) > longest_cif_line) return "";
+    std::string value(quotes);
+    for (bool goes_on = true; goes_on;) {
+        value += take_line(text, goes_on);
+        if (goes_on) value += place.line_end;
+    }
+    return value.append(quotes);
+}
+
 /// The value on one line, where it can stand so.
 std::string on_one_line(std::string_view text, CifQuoting quoting, bool is_version_2) {
     std::string value;
@@ -205,18 +222,12 @@ std::string written_value(std::string_view text, CifQuoting quoting, const Value
     const bool wants_quotes =
         quoting == CifQuoting::triple_quotes || shape.begins_line_with_semicolon;
     if (place.is_version_2 && wants_quotes && !shape.has_long_lines) {
-        const std::string_view quotes = triple_quotes_for(plain);
-        if (!quotes.empty()) {
-            std::string value(quotes);
-            bool goes_on = true;
-            for (std::string_view rest = plain; goes_on;) {
-                value += take_line(rest, goes_on);
-                if (goes_on) value += place.line_end;
-            }
-            return value.append(quotes);
-        }
+        std::string value = in_triple_quotes(plain, place);
+        if (!value.empty()) return value;
     }
-    if (shape.begins_line_with_semicolon) {
+    const bool ends_too_early =
+        shape.begins_line_with_semicolon || (shape.has_long_lines && plain.starts_with(';'));
+    if (ends_too_early) {
         throw UnwritableText("a line that begins with ';', which would end the text");
     }
     return text_field(plain, shape, place);

@@ -1,4 +1,4 @@
-#include "tasks/FieldEditor.h"
+#include "tasks/EntryEditor.h"
 
 #include <string_view>
 #include <utility>
@@ -26,7 +26,7 @@ const Source& kind_written(const Field& field, const FieldText& now) {
 
 }  // namespace
 
-void FieldEditor::set(std::size_t index, const Field& field, const std::string& text,
+void EntryEditor::set(std::size_t index, const Field& field, const std::string& text,
                       const Source* from) {
     try {
         edit(index, field, in_field(index, field, text, from));
@@ -35,7 +35,7 @@ void FieldEditor::set(std::size_t index, const Field& field, const std::string& 
     }
 }
 
-void FieldEditor::update(std::size_t index, const Field& field, const std::string& text) {
+void EntryEditor::update(std::size_t index, const Field& field, const std::string& text) {
     try {
         const std::string now = text_of(entry(index), field).text;
         if (now != text && as_in_json(now) != text) edit(index, field, text);
@@ -44,7 +44,7 @@ void FieldEditor::update(std::size_t index, const Field& field, const std::strin
     }
 }
 
-void FieldEditor::replace(std::size_t index, const Field& field, const std::string& old,
+void EntryEditor::replace(std::size_t index, const Field& field, const std::string& old,
                           const std::string& text, const Source* from) {
     try {
         const FieldText now = text_of(entry(index), field);
@@ -58,14 +58,14 @@ void FieldEditor::replace(std::size_t index, const Field& field, const std::stri
     }
 }
 
-const CifEntry& FieldEditor::entry(std::size_t index) {
+const CifEntry& EntryEditor::entry(std::size_t index) {
     if (index_ != index) entry_.emplace(entries_[index]);
     index_ = index;
     return *entry_;
 }
 
 /// The text as the field has it in the file.
-std::string FieldEditor::in_field(std::size_t index, const Field& field, const std::string& text,
+std::string EntryEditor::in_field(std::size_t index, const Field& field, const std::string& text,
                                   const Source* from) {
     if (!from && has_styles(field)) from = row_named(sources(), pasted);
     if (!from) return text;
@@ -81,7 +81,7 @@ std::string FieldEditor::in_field(std::size_t index, const Field& field, const s
     return item.mark_up_text(*target.make_generator());
 }
 
-void FieldEditor::edit(std::size_t index, const Field& field, const std::string& text) {
+void EntryEditor::edit(std::size_t index, const Field& field, const std::string& text) {
     if (has_styles(field)) {
         const Source& kind = *row_named(sources(), cif_text);
         const THandle<InputTextStyleFinder> finder = kind.make_finder();
@@ -93,7 +93,7 @@ void FieldEditor::edit(std::size_t index, const Field& field, const std::string&
     edit_field(entries_, index, field.label, text, edits_);
 }
 
-void FieldEditor::add(std::size_t index, const Field& field, std::vector<Problem> problems) {
+void EntryEditor::add(std::size_t index, const Field& field, std::vector<Problem> problems) {
     for (Problem& problem : problems) {
         problem.block = std::string(entries_.document().name_of(entries_.block_of(index)));
         problem.item = field.label;
@@ -102,7 +102,7 @@ void FieldEditor::add(std::size_t index, const Field& field, std::vector<Problem
     }
 }
 
-void FieldEditor::refuse(std::size_t index, const Field& field, const std::exception& error) {
+void EntryEditor::refuse(std::size_t index, const Field& field, const std::exception& error) {
     Problem problem;
     problem.what = error.what();
     add(index, field, {std::move(problem)});

@@ -13,10 +13,10 @@
 
 /// Makes fields of a file's entries say what a user wants. What cannot be done becomes a problem,
 /// and the other edits go on.
-class FieldEditor {
+class EntryEditor {
 public:
     /// The entries must live on.
-    explicit FieldEditor(const EntryReader& entries)
+    explicit EntryEditor(const EntryReader& entries)
         : entries_(entries), edits_(entries.document()) {}
 
     /// Makes a field say `text`, which is of kind `from`; null: as pasted from a page where the
