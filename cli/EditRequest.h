@@ -11,7 +11,7 @@
 #include "tasks/Source.h"
 #include "tasks/edits_in_json.h"
 
-class FieldEditor;
+class EntryEditor;
 
 /// What a user wants fields to say: one field of all files, or what a file of edits tells.
 struct EditRequest {
@@ -32,7 +32,7 @@ struct EditRequest {
     FileChange change_of(std::size_t place, const EntryReader& entries) const;
 
 private:
-    void change_entry(std::size_t entry, FieldEditor& editor) const;
+    void change_entry(std::size_t entry, EntryEditor& editor) const;
 };
 
 /// The place of a file behind all links, or the path where there is none: by it a file is known,
