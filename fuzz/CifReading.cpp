@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "fuzz/CifTokens.h"
+#include "fuzz/writable_text.h"
 
 namespace {
 
@@ -112,14 +113,6 @@ void add_items(const std::vector<gemmi::cif::Item>& items, CifReadingMaker& make
             maker.add_heading("save_");
         }
     }
-}
-
-std::string with_line_feeds(std::string text) {
-    for (std::size_t at = 0; (at = text.find('\r', at)) != text.npos; ++at) {
-        if (at + 1 < text.size() && text[at + 1] == '\n') text.erase(at, 1);
-        text[at] = '\n';
-    }
-    return text;
 }
 
 /// Joins lines that end with a backslash, and blanks behind it, where the first is that alone.
