@@ -5,6 +5,27 @@ namespace {
 using Level = Problem::Level;
 
 constexpr CheckCode codes[] = {
+    {"cell-incomplete", Level::error, "the cell lacks an edge or an angle",
+     "Some of the six parameters of the cell are given and others are not, so that there is no "
+     "cell to show or to search.",
+     "_cell_length_a 5\n_cell_length_b 6\n_cell_length_c 7\n_cell_angle_alpha 90\n"
+     "_cell_angle_beta 90\n",
+     "_cell_length_a 5\n_cell_length_b 6\n_cell_length_c 7\n_cell_angle_alpha 90\n"
+     "_cell_angle_beta 90\n_cell_angle_gamma 90\n"},
+    {"no-such-cell", Level::error, "no cell has these edges and angles",
+     "With these angles three edges do not span a body: each angle is less than the sum of the "
+     "other two, all three add up to less than 360 degrees, and edges are longer than nothing.",
+     "_cell_length_a 5\n_cell_length_b 6\n_cell_length_c 7\n_cell_angle_alpha 90\n"
+     "_cell_angle_beta 90\n_cell_angle_gamma 190\n",
+     "_cell_length_a 5\n_cell_length_b 6\n_cell_length_c 7\n_cell_angle_alpha 90\n"
+     "_cell_angle_beta 90\n_cell_angle_gamma 170\n"},
+    {"volume-mismatch", Level::warning, "the volume is not that of the cell",
+     "The volume that is given differs from the one that edges and angles make by more than three "
+     "standard uncertainties of the difference and what rounding allows.",
+     "_cell_length_a 5.000(1)\n_cell_length_b 6.000(1)\n_cell_length_c 7.000(1)\n"
+     "_cell_angle_alpha 90\n_cell_angle_beta 90\n_cell_angle_gamma 90\n_cell_volume 201.0(1)\n",
+     "_cell_length_a 5.000(1)\n_cell_length_b 6.000(1)\n_cell_length_c 7.000(1)\n"
+     "_cell_angle_alpha 90\n_cell_angle_beta 90\n_cell_angle_gamma 90\n_cell_volume 210.1(1)\n"},
     {"density-mismatch", Level::warning, "the density is not that of the cell's contents",
      "The density is compared with Z formula weights in the volume of the cell; 1 u in 1 "
      "\xC3\x85\xC2\xB3 is 1.66053907 g/cm\xC2\xB3. Half a unit of its last place and 0.2 % are "

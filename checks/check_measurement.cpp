@@ -41,10 +41,11 @@ struct Ordered {
 void check_order(CheckedEntry& entry, Tags less_tags, Tags more_tags, const char* code,
                  const char* expected, const char* unit) {
     const CheckedEntry::Value less = entry.first(less_tags);
-    const CheckedEntry::Value more = entry.first(more_tags);
     const std::optional<UncertainValue> left = number_of(less);
+    if (!left) return;
+    const CheckedEntry::Value more = entry.first(more_tags);
     const std::optional<UncertainValue> right = number_of(more);
-    if (!left || !right) return;
+    if (!right) return;
     const double rounding = std::max(half_a_unit(*left), half_a_unit(*right));
     const bool are_whole = left->decimals == 0 && right->decimals == 0;
     if (left->value - right->value <= (are_whole ? 0 : rounding)) return;
@@ -90,9 +91,10 @@ void check_r_factors(CheckedEntry& entry) {
         for (const std::string_view tag : tags) {
             const CheckedEntry::Value value = entry.first(tag);
             const std::optional<UncertainValue> factor = number_of(value);
-            if (factor && factor->value < 0) {
-                entry.add("r-factor-negative", value, "a number from 0 to 1");
-            }
+            if (!factor || (factor->value >= 0 && factor->value <= 1)) continue;
+            const bool is_negative = factor->value < 0;
+            entry.add(is_negative ? "r-factor-negative" : "r-factor-above-1", value,
+                      is_negative ? "a number from 0 to 1" : "a number up to 1");
         }
     }
     check_order(entry, r_observed, {&r_all, 1}, "r-factors-reversed",

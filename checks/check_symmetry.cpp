@@ -7,7 +7,7 @@
 
 #include "checks/CellShape.h"
 #include "checks/CheckedEntry.h"
-#include "checks/FormulaUnit.h"
+#include "checks/WrittenFormula.h"
 #include "checks/in_decimals.h"
 #include "checks/site_symmetry.h"
 #include "entries/cif_tags.h"
@@ -24,8 +24,10 @@ const CrystalInfo& crystal(const CheckedEntry& entry) { return *entry.entry().en
 /// Whether items of the entry tell of different groups, which reading has warned of.
 bool is_group_in_doubt(const CheckedEntry& entry) {
     const std::vector<Problem>& problems = entry.entry().problems;
-    return std::any_of(problems.begin(), problems.end(), [](const Problem& problem) {
-        return std::string_view(problem.code) == "space-groups-differ";
+    constexpr std::string_view codes[] = {"space-group-symbols-differ", "hall-symbol-differs",
+                                          "operations-differ", "space-group-number-differs"};
+    return std::any_of(problems.begin(), problems.end(), [&](const Problem& problem) {
+        return std::find(std::begin(codes), std::end(codes), problem.code) != std::end(codes);
     });
 }
 
@@ -49,12 +51,18 @@ void check_system(CheckedEntry& entry) {
         const std::string system = in_lower_case(written.text);
         const bool is_known =
             std::find(std::begin(systems), std::end(systems), system) != std::end(systems);
-        std::string own(group.number ? crystal_system_of(group.number) : "");
+        const std::string_view own = group.number ? crystal_system_of(group.number) : "";
+        std::string expected = "one of the seven systems";
+        if (!own.empty()) expected = std::string(own) + ", the system of " + group.symbol;
         if (!is_known) {
-            entry.add("unknown-crystal-system", written,
-                      own.empty() ? "" : own + ", the system of " + group.symbol);
+            CheckFinding& finding = entry.add("unknown-crystal-system", written, expected);
+            // No two systems begin with the same four letters.
+            const bool is_misspelt = !own.empty() && system.substr(0, 4) == own.substr(0, 4);
+            if (is_misspelt && !is_group_in_doubt(entry)) {
+                finding.repair = entry.replaced(written, std::string(own));
+            }
         } else if (!own.empty() && !may_be_called(system, group)) {
-            entry.add("crystal-system-mismatch", written, own + ", the system of " + group.symbol);
+            entry.add("crystal-system-mismatch", written, expected);
         }
     }
 }
@@ -158,11 +166,11 @@ bool has_partial_atoms(const CheckedEntry& entry) {
 
 /// The greatest common divisor of the numbers of atoms of each element in the cell; 0 where they
 /// are not whole.
-std::int64_t divisor_of_atoms(const FormulaUnit& unit, double z) {
+std::int64_t divisor_of_atoms(const ElementTotals& unit, double z) {
     constexpr double beyond_use = 1e9;
     std::int64_t divisor = 0;
-    for (const FormulaUnit::Atoms& atoms : unit.atoms) {
-        const double count = atoms.count * z;
+    for (const double total : unit.total) {
+        const double count = total * z;
         const double whole = std::round(count);
         if (count > beyond_use || std::abs(count - whole) > 1e-6) return 0;
         divisor = std::gcd(divisor, static_cast<std::int64_t>(whole));
@@ -179,14 +187,14 @@ void check_z(CheckedEntry& entry) {
         return;
     }
     // Known where the items agree which group it is.
-    if (info.z_prime <= 0 || info.spacegroup.number == 0 || has_partial_atoms(entry)) return;
+    if (info.z_prime <= 0 || info.spacegroup.number == 0) return;
     if (entry.entry().block.has_any("_cell_modulation")) return;
-    const std::optional<FormulaUnit> unit =
-        read_formula_unit(entry.first("_chemical_formula_sum").text);
-    const std::int64_t divisor = unit ? divisor_of_atoms(*unit, info.z) : 0;
+    const WrittenFormula formula(entry.first("_chemical_formula_sum").text);
+    if (!formula.can_be_counted()) return;
+    const std::int64_t divisor = divisor_of_atoms(formula.totals(), info.z);
     const int operations = static_cast<int>(std::lround(info.z / info.z_prime));
     const int step = step_of_multiplicities(info.spacegroup.number, operations);
-    if (divisor % step == 0) return;
+    if (divisor % step == 0 || has_partial_atoms(entry)) return;
     const std::int64_t of_unit = divisor / static_cast<std::int64_t>(info.z);
     const std::int64_t least =
         step / std::gcd<std::int64_t>(step, std::max<std::int64_t>(of_unit, 1));

@@ -32,23 +32,26 @@ std::optional<double> first_number(std::string_view text) {
     return number->value;
 }
 
-/// Whether a C for Celsius stands behind a number, with what is written for the sign of degrees.
-bool is_in_celsius(std::string_view text) {
-    std::size_t from = text.find_first_of("0123456789");
-    for (; from != std::string_view::npos; from = text.find('C', from + 1)) {
-        if (text[from] != 'C') continue;
-        if (from + 1 < text.size() && is_letter(text[from + 1])) {
-            if (!text.substr(from).starts_with("Celsius")) continue;
-        }
-        std::string_view before = text.substr(0, from);
-        for (const std::string_view sign : {" ", "\\%", "%", "\xC2\xB0", "\xC2\xBA", "^o^", "deg.",
-                                            "degrees", "deg", "\\", "/", "o", "_", "^", " "}) {
+/// Whether a unit stands behind a number, with what is written for the sign of degrees.
+bool has_unit(std::string_view text, char unit) {
+    for (std::size_t at = text.find(unit); at != std::string_view::npos;
+         at = text.find(unit, at + 1)) {
+        const std::string_view behind = text.substr(at);
+        const bool is_word = behind.size() > 1 && is_letter(behind[1]);
+        if (is_word && !behind.starts_with("Celsius") && !behind.starts_with("Kelvin")) continue;
+        std::string_view before = text.substr(0, at);
+        for (const std::string_view sign :
+             {" ", "\\%", "%", "\xC2\xB0", "\xC2\xBA", "^o^", "deg.", "degrees", "degree", "deg",
+              "\\", "/", "o", "_", "^", " "}) {
             if (before.ends_with(sign)) before.remove_suffix(sign.size());
         }
         if (!before.empty() && (is_digit(before.back()) || before.back() == ')')) return true;
     }
     return false;
 }
+
+/// Whether it is said to be in degrees Celsius, and not in K besides.
+bool is_in_celsius(std::string_view text) { return has_unit(text, 'C') && !has_unit(text, 'K'); }
 
 bool is_room_temperature(double kelvin) { return kelvin >= 285 && kelvin <= 305; }
 
@@ -105,7 +108,9 @@ void check_melting_point(CheckedEntry& entry, double measured_at) {
         if (!found) continue;
         const bool is_in_text = is_in_celsius(value.text);
         // What is below 1 K reading has warned of.
-        if (!is_in_text && (*found < 1 || *found >= measured_at - near)) continue;
+        const bool is_by_look =
+            *found >= 1 && *found < measured_at - near && !has_unit(value.text, 'K');
+        if (!is_in_text && !is_by_look) continue;
         std::string expected = in_kelvin(*found);
         if (!is_in_text) {
             expected.append("; the crystal was measured at ");

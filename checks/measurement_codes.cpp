@@ -5,7 +5,13 @@ namespace {
 using Level = Problem::Level;
 
 constexpr CheckCode codes[] = {
-    {"temperature-in-celsius", Level::warning, "a temperature in K was expected",
+    {"not-in-kelvin", Level::warning, "not a temperature in K",
+     "A melting point below 1 K is that of no substance; mostly degrees Celsius were meant.",
+     "_chemical_melting_point -20\n", "_chemical_melting_point 253\n"},
+    {"r-factor-above-1", Level::warning, "the R factor is above 1",
+     "R factors are given as fractions, not as percentages.", "_refine_ls_R_factor_gt 4.5\n",
+     "_refine_ls_R_factor_gt 0.045\n"},
+    {"temperature-in-celsius", Level::warning, "the temperature is not in K",
      "A temperature of the cell or the measurement has a C for Celsius behind it, is below 0, or "
      "is 273 K less than the other of the two.",
      "_diffrn_ambient_temperature -173\n", "_diffrn_ambient_temperature 20(2)\n"},
@@ -19,7 +25,7 @@ constexpr CheckCode codes[] = {
      "both between 285 and 305 K. Bonds calculated with such a cell are too long or too short.",
      "_cell_measurement_temperature 293(2)\n_diffrn_ambient_temperature 173(2)\n",
      "_cell_measurement_temperature 293(2)\n_diffrn_ambient_temperature 299(2)\n"},
-    {"melting-point-in-celsius", Level::warning, "a melting point in K was expected",
+    {"melting-point-in-celsius", Level::warning, "the melting point is not in K",
      "The melting point has a C for Celsius behind it, or is more than 5 K below the temperature "
      "of the measurement, at which the crystal was solid.",
      "_chemical_melting_point '110-112'\n_diffrn_ambient_temperature 293(2)\n",

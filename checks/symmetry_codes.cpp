@@ -1,10 +1,51 @@
+#include <algorithm>
+#include <array>
+
 #include "checks/CheckCode.h"
 
 namespace {
 
 using Level = Problem::Level;
 
+/// A loop of so many operations.
+template <std::size_t rows>
+constexpr auto operations() {
+    constexpr std::string_view tag = "loop_\n_symmetry_equiv_pos_as_xyz\n", row = "x,y,z ";
+    std::array<char, tag.size() + rows * row.size() + 1> text{};
+    auto end = std::copy(tag.begin(), tag.end(), text.begin());
+    for (std::size_t i = 0; i < rows; ++i) end = std::copy(row.begin(), row.end(), end);
+    *(end - 1) = '\n';
+    return text;
+}
+constexpr auto most_operations = operations<192>();
+constexpr auto too_many_operations = operations<193>();
+
 constexpr CheckCode codes[] = {
+    {"unknown-space-group", Level::error, "the space group is not known",
+     "The symbol is that of none of the 230 groups in any setting, and neither Hall symbol, "
+     "operations nor number tell the group.",
+     "_symmetry_space_group_name_H-M 'P 21/q'\n", "_symmetry_space_group_name_H-M 'P 21/n'\n"},
+    {"space-group-symbols-differ", Level::warning, "two symbols are of different space groups",
+     "The group of the second symbol is not that of the first, or not in its setting.",
+     "_space_group_name_H-M_alt 'P 1 21/c 1'\n_symmetry_space_group_name_H-M 'P 1 21/n 1'\n",
+     "_space_group_name_H-M_alt 'P 1 21/c 1'\n_symmetry_space_group_name_H-M P2(1)/c\n"},
+    {"hall-symbol-differs", Level::warning, "the Hall symbol is of another space group",
+     "The Hall symbol makes other operations than the group has that the symbol before it tells.",
+     "_symmetry_space_group_name_H-M 'P 1 21/c 1'\n_symmetry_space_group_name_Hall '-P 2yn'\n",
+     "_symmetry_space_group_name_H-M 'P 1 21/c 1'\n_symmetry_space_group_name_Hall '-P 2ybc'\n"},
+    {"operations-differ", Level::warning, "the operations are of another space group",
+     "The listed operations are not those of the group that symbol or Hall symbol tell, or of "
+     "another setting of it; their order does not count.",
+     "_symmetry_space_group_name_H-M 'P -1'\nloop_\n_symmetry_equiv_pos_as_xyz\nx,y,z\n-x,y,-z\n",
+     "_symmetry_space_group_name_H-M 'P -1'\nloop_\n_symmetry_equiv_pos_as_xyz\n-x,-y,-z\nx,y,z\n"},
+    {"space-group-number-differs", Level::warning, "the number is of another space group",
+     "The number in International Tables is compared with that of the group that symbol, Hall "
+     "symbol or operations tell.",
+     "_symmetry_space_group_name_H-M 'P 21/c'\n_symmetry_Int_Tables_number 15\n",
+     "_symmetry_space_group_name_H-M 'P 21/c'\n_symmetry_Int_Tables_number 14\n"},
+    {"too-many-operations", Level::error, "more symmetry operations than any group has",
+     "No group has more than 192 operations in one cell. They are not compared.",
+     too_many_operations.data(), most_operations.data()},
     {"unknown-crystal-system", Level::warning, "there is no such crystal system",
      "It is one of triclinic, monoclinic, orthorhombic, tetragonal, trigonal, hexagonal and cubic; "
      "in older files rhombohedral, too. Case does not count.",

@@ -62,10 +62,10 @@ private:
     Statements lists_of_operations();
     void compare_symbols();
     void compare_numbers();
-    void compare(const Statements& statements);
-    void compare(const CifItem& item, const Operations& operations);
-    void warn(const CifItem& item, const std::string& what);
-    void warn(const CifItem& item, const gemmi::SpaceGroup& other);
+    void compare(const char* code, const Statements& statements);
+    void compare(const char* code, const CifItem& item, const Operations& operations);
+    void warn(const char* code, const CifItem& item, const std::string& what);
+    void warn(const char* code, const CifItem& item, const gemmi::SpaceGroup& other);
     /// Whether the axes of a rhombohedral group are not known.
     bool axes_are_open() const {
         return setting_.group && setting_.group->ext == 'H' && setting_.origin_is_open;
@@ -126,8 +126,8 @@ const gemmi::SpaceGroup* SpaceGroupReader::find() {
     }
     if (!setting_.group) return nullptr;
     compare_symbols();
-    compare(by_hall_symbol);
-    compare(by_operations);
+    compare("hall-symbol-differs", by_hall_symbol);
+    compare("operations-differ", by_operations);
     compare_numbers();
     return setting_.group;
 }
@@ -137,7 +137,8 @@ void SpaceGroupReader::compare_symbols() {
         const BlockReader::Value value = block_.first_value(just(tag));
         const SpaceGroupSetting other = find_space_group(one_line(value.text), alpha_, gamma_);
         if (!other.group || allows(setting_, *other.group)) continue;
-        if (!allows(other, *setting_.group)) warn(*value.item, *other.group);
+        if (!allows(other, *setting_.group))
+            warn("space-group-symbols-differ", *value.item, *other.group);
     }
 }
 
@@ -147,15 +148,19 @@ void SpaceGroupReader::compare_numbers() {
         const std::optional<UncertainValue> number = read_number(value.text);
         const int own = setting_.group->number;
         if (!number || !is_number_of_group(*number) || number->value == own) continue;
-        warn(*value.item, "is of number " + std::to_string(own) + ", not " + one_line(value.text));
+        warn("space-group-number-differs", *value.item,
+             "is of number " + std::to_string(own) + ", not " + one_line(value.text));
     }
 }
 
-void SpaceGroupReader::compare(const Statements& statements) {
-    for (const Statement& statement : statements) compare(*statement.item, statement.operations);
+void SpaceGroupReader::compare(const char* code, const Statements& statements) {
+    for (const Statement& statement : statements) {
+        compare(code, *statement.item, statement.operations);
+    }
 }
 
-void SpaceGroupReader::compare(const CifItem& item, const Operations& operations) {
+void SpaceGroupReader::compare(const char* code, const CifItem& item,
+                               const Operations& operations) {
     for (const gemmi::SpaceGroup& group : gemmi::spacegroup_tables::main) {
         if (!allows(setting_, group)) continue;
         if (group.operations().all_ops_sorted() != operations) continue;
@@ -165,28 +170,33 @@ void SpaceGroupReader::compare(const CifItem& item, const Operations& operations
     const gemmi::SpaceGroup* const other = group_of(operations);
     const std::size_t own = static_cast<std::size_t>(setting_.group->operations().order());
     if (other) {
-        warn(item, *other);
+        warn(code, item, *other);
     } else if (operations.size() != own) {
-        warn(item, "has " + std::to_string(own) + " operations, not " +
-                       std::to_string(operations.size()));
+        warn(
+            code, item,
+            "has " + std::to_string(own) + " operations, not " + std::to_string(operations.size()));
     } else {
-        warn(item, "has other operations");
+        warn(code, item, "has other operations");
     }
 }
 
-void SpaceGroupReader::warn(const CifItem& item, const gemmi::SpaceGroup& other) {
+void SpaceGroupReader::warn(const char* code, const CifItem& item, const gemmi::SpaceGroup& other) {
     const int own = setting_.group->number;
-    warn(item, own == other.number ? "is of another setting than " + other.xhm()
-                                   : "is of number " + std::to_string(own) + ", not " +
-                                         std::to_string(other.number));
+    warn(code, item,
+         own == other.number
+             ? "is of another setting than " + other.xhm()
+             : "is of number " + std::to_string(own) + ", not " + std::to_string(other.number));
 }
 
-void SpaceGroupReader::warn(const CifItem& item, const std::string& what) {
+void SpaceGroupReader::warn(const char* code, const CifItem& item, const std::string& what) {
     is_consistent_ = false;
     std::string text = subject_;
     text += name_of(setting_);
     text += ' ';
-    block_.add_problem(item, "space-groups-differ", text + what).level = Problem::Level::warning;
+    text += what;
+    Problem& problem = item.in_loop() ? block_.add_problem(item, code, text)
+                                      : block_.add_problem({&item, ""}, code, text);
+    problem.level = Problem::Level::warning;
 }
 
 }  // namespace
