@@ -12,10 +12,14 @@
 namespace {
 
 using gemmi::El;
-using Place = std::array<double, 3>;  // fractional
-
 constexpr std::string_view occupancy_tag = "_atom_site_occupancy";
 constexpr std::size_t axes = 3;
+
+/// Where a site is.
+struct Place {
+    std::array<double, axes> xyz{};  // fractional
+    int decimals = 0;                // with which these are given
+};
 
 std::string_view letters_of(std::string_view text) {
     std::size_t end = 0;
@@ -23,11 +27,20 @@ std::string_view letters_of(std::string_view text) {
     return text.substr(0, end);
 }
 
-/// The element of a type such as "C", "CU2+" or "Siva".
-El element_of_type(std::string_view type) {
-    const std::string_view letters = letters_of(type).substr(0, 2);
-    const El both = element_of(letters);
-    return both != El::X ? both : element_of(letters.substr(0, 1));
+/// The element of a type such as "C", "CU2+" or "Siva"; X of one such as "Si/Al", and where it may
+/// be another than the type says: "HO" for hydrogen, "W" for water.
+El element_of_type(std::string_view type, const ElementTotals& sum) {
+    const std::string_view letters = letters_of(type);
+    if (type.find_first_not_of("0123456789+-.", letters.size()) != std::string_view::npos) {
+        return El::X;
+    }
+    const El both = letters.size() > 1 ? element_of(letters.substr(0, 2)) : El::X;
+    const El first = element_of(letters.substr(0, 1));
+    if (both != El::X) {
+        const bool may_be_first = !sum.has(both) && sum.has(first) && letters[1] < 'a';
+        return may_be_first ? El::X : both;
+    }
+    return first == El::W && !sum.has(first) ? El::X : first;
 }
 
 /// The element of a label such as "CA1", of those that the formula has.
@@ -63,19 +76,20 @@ Operations operations_of(const CheckedEntry& entry) {
 class Symmetry {
 public:
     Symmetry(const CheckedEntry& entry, const Cell& cell)
-        : operations_(operations_of(entry)),
-          limits_{nearness / cell.a.value, nearness / cell.b.value, nearness / cell.c.value} {}
+        : operations_(operations_of(entry)), edges_{cell.a.value, cell.b.value, cell.c.value} {}
 
     bool is_known() const { return !operations_.empty(); }
     /// The number of operations, and of those that leave the place where it is.
     /// @{
     std::size_t size() const { return operations_.size(); }
     std::size_t order_of(const Place& place) const {
+        const double rounding = 1.5 * std::pow(10, -place.decimals);
         const auto stays = [&](const gemmi::Op& operation) {
-            const Place image = operation.apply_to_xyz(place);
+            const std::array<double, axes> image = operation.apply_to_xyz(place.xyz);
             for (std::size_t i = 0; i < axes; ++i) {
-                const double shift = image[i] - place[i];
-                if (std::abs(shift - std::round(shift)) > limits_[i]) return false;
+                const double shift = image[i] - place.xyz[i];
+                const double distance = std::abs(shift - std::round(shift)) * edges_[i];
+                if (distance > std::clamp(rounding * edges_[i], nearest, furthest)) return false;
             }
             return true;
         };
@@ -85,10 +99,11 @@ public:
     /// @}
 
 private:
-    static constexpr double nearness = 0.05;  // in Å; atoms beside special positions are further
+    // In Å, as far as images of one place may be rounded; disordered atoms are further away.
+    static constexpr double nearest = 0.05, furthest = 0.2;
 
     Operations operations_;
-    Place limits_;
+    std::array<double, axes> edges_;
 };
 
 /// The columns of the loop of atoms.
@@ -122,7 +137,8 @@ public:
     }
     El element(std::size_t row, const ElementTotals& sum) const {
         const std::string type = types_ ? (*types_)[row].text() : "";
-        return type.empty() ? element_of_label((*labels_)[row].text(), sum) : element_of_type(type);
+        return type.empty() ? element_of_label((*labels_)[row].text(), sum)
+                            : element_of_type(type, sum);
     }
     /// 1 where none is given, nothing where it is none or must be given.
     std::optional<UncertainValue> occupancy(std::size_t row) const {
@@ -133,11 +149,12 @@ public:
         return UncertainValue{1, 0, 0};
     }
     std::optional<Place> place(std::size_t row) const {
-        Place place{};
+        Place place;
         for (std::size_t i = 0; i < axes; ++i) {
             const auto number = read_number((*places_[i])[row].text());
             if (!number) return std::nullopt;
-            place[i] = number->value;
+            place.xyz[i] = number->value;
+            place.decimals = std::max(place.decimals, number->decimals);
         }
         return place;
     }

@@ -141,8 +141,12 @@ void FormulaCheck::check_sum() {
         return;
     }
     const std::optional<Weight> weight = read_weight(weight_value_);
-    const bool is_safe =
-        !sum_.is_ambiguous() || (weight && sum_.can_be_counted() && fits(*weight, sum_.totals()));
+    // A lone number in front may be that of an isotope.
+    const Formula& formula = sum_.formula();
+    const bool has_lone_number =
+        formula.moieties.size() == 1 && !formula.moieties.front().multiplier.range.empty();
+    const bool is_safe = (!sum_.is_ambiguous() && !has_lone_number) ||
+                         (weight && sum_.can_be_counted() && fits(*weight, sum_.totals()));
     const std::optional<std::string> mended = sum_.as_sum();
     if (sum_.unknown_symbol().empty() && are_known(sum_.formula()) && !sum_.is_sum()) {
         add("sum-not-added-up", sum_value_, mended, is_safe);

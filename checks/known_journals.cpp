@@ -183,6 +183,7 @@ constexpr Journal rows[] = {
     {"Nature Materials", "Nat. Mater."},
     {"Neues Jahrbuch fuer Mineralogie, Abhandlungen", "N. Jb. Miner. Abh."},
     {"Neues Jahrbuch fuer Mineralogie, Monatshefte", "N. Jb. Miner. Mh.", true},
+    {"Neues Jahrbuch fuer Mineralogie, Monatshefte (Band=Jahr)", "", true},
     {"New Journal of Chemistry", "New J. Chem."},
     {"Organic and Biomolecular Chemistry", "Org. Biomol. Chem."},
     {"Organic Letters", "Org. Lett."},

@@ -45,6 +45,7 @@ TEST(CheckFormula, WritesSumsByTheConvention) {
         {"O Ca H2", "formula-order: 'Ca H2 O'\n"},
         {"(Cu Al2) O4", "sum-not-added-up: 'Al2 Cu O4'\n"},
         {"Fe(N H4)0.12345", "sum-not-added-up: \n"},  // more decimals than are written
+        {"13C6 H6", "sum-not-added-up: C78 H78\n"},   // or an isotope
         {"C6 H6 Xy", "element-unknown: an element, not Xy\n"},
     };
     for (const auto& c : cases) EXPECT_EQ(codes_of_sum(c.sum), c.codes) << c.sum;
@@ -116,6 +117,10 @@ TEST(CheckFormula, ComparesSumsWithAtoms) {
         {"C2 N", 2, c1 + "C2A C .3 .2 .1 .61(1) d 1\nC2B C .3 .2 .2 .39(1) d 2\n" + n1, ""},
         {"C2 N", 2, c1 + c2 + "C2B C .3 .2 .2 .39(1) d 2\n" + n1,
          "atoms-differ: C2.39 N by the atoms and Z\n"},
+        {"C2 N", 2, c1 + c2 + n1 + "W1 W .3 .2 .1 1 d .\n", ""},  // water
+        {"C2 N", 2, c1 + c2 + n1 + "T1 Si/Al .3 .2 .1 1 d .\n", ""},
+        {"C2 N", 1, c1 + "N1 N .001 .499 .001 1 d .\n", ""},  // not very exact
+        {"C2 N2", 1, c1 + "N1 N .03 .5 0 1 d .\n", ""},
         {"C1.9 N1.02", 2, c1 + c2 + n1, ""},  // measured
     };
     for (const auto& c : cases) {
