@@ -19,26 +19,27 @@ std::string unwritable(const EntryFile& file) {
     return file.is_packed() ? file.path() + ": packed files cannot be repaired" : "";
 }
 
-/// Does the repairs of a file, and checks again what it has become.
+/// Does the repairs of a file, and checks what it has become: a repair may have hidden another.
 void repair(const EntryFile& file, const WantedChecks& wanted, CheckedFile& checked) {
-    const Splices repairs = repairs_of(checked.findings);
-    if (repairs.empty()) return;
+    constexpr int most_rounds = 20;
+    CheckFindings findings = checked.findings;
+    std::string bytes = file.bytes();
+    std::size_t count = 0;
+    for (int round = 0; round < most_rounds; ++round) {
+        const Splices repairs = repairs_of(findings);
+        if (repairs.empty()) break;
+        count += repairs.size();
+        bytes = spliced(bytes, repairs);
+        findings = check_entries(EntryReader(bytes), wanted);
+    }
+    if (count == 0) return;
     checked.trouble = unwritable(file);
     if (!checked.trouble.empty()) return;
-    try {
-        const std::string repaired = spliced(file.bytes(), repairs);
-        const EntryReader entries(repaired);
-        CheckFindings left = check_entries(entries, wanted);
-        TextOutput output(file.path());
-        output.write(repaired);
-        output.close();
-        checked.findings = std::move(left);
-        checked.repairs = repairs.size();
-    } catch (const std::bad_alloc&) {
-        throw;
-    } catch (const std::exception& error) {
-        checked.trouble = error.what();
-    }
+    TextOutput output(file.path());
+    output.write(bytes);
+    output.close();
+    checked.findings = std::move(findings);
+    checked.repairs = count;
 }
 
 CheckedFile checked_file(const Place& place, const CheckBatch::Wanted& wanted) {
@@ -57,6 +58,8 @@ CheckedFile checked_file(const Place& place, const CheckBatch::Wanted& wanted) {
         }
     } catch (const std::bad_alloc&) {
         checked = {place.path, place.path + ": out of memory"};
+    } catch (const std::exception& error) {  // nothing of it has been written
+        checked.trouble = place.path + ": " + error.what();
     }
     for (CheckFinding& finding : checked.findings) finding.problem.file = place.path;
     return checked;

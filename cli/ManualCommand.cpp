@@ -1,6 +1,7 @@
 #include "cli/Command.h"
 #include "cli/TextOutput.h"
 #include "cli/interface_texts.h"
+#include "output/check_codes_page.h"
 
 namespace {
 
@@ -8,8 +9,7 @@ class ManualCommand : public Command {
 public:
     int run() override {
         TextOutput output;
-        output.write(in_markdown_ ? manual_in_markdown(*program_, *choices_)
-                                  : manual_page(*program_, *choices_, LMRTEXT_VERSION));
+        output.write(text());
         output.close();
         return exit_success;
     }
@@ -22,12 +22,23 @@ private:
 
     void add_options(CLI::App& command, Choices& choices) override {
         choices_ = &choices;
-        command.add_flag("--markdown", in_markdown_)->description("In Markdown");
+        CLI::Option* const in_markdown =
+            command.add_flag("--markdown", in_markdown_)->description("In Markdown");
+        command.add_flag("--checks", of_checks_)
+            ->description("What check finds, with examples, in Markdown")
+            ->excludes(in_markdown);
+    }
+
+    std::string text() const {
+        if (of_checks_) return check_codes_page();
+        return in_markdown_ ? manual_in_markdown(*program_, *choices_)
+                            : manual_page(*program_, *choices_, LMRTEXT_VERSION);
     }
 
     const CLI::App* program_ = nullptr;
     const Choices* choices_ = nullptr;
     bool in_markdown_ = false;
+    bool of_checks_ = false;
 };
 
 }  // namespace

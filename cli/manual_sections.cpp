@@ -5,11 +5,13 @@ namespace {
 constexpr ManualSection::Entry statuses[] = {
     {"0",
      "all went well, doubts about what was read aside; in search and find something matched, in "
-     "compare nothing differs that counts"},
+     "compare nothing differs that counts, in check nothing was found"},
     {"1",
      "something was reported, and the rest done; in search and find nothing matched, in compare "
-     "something differs"},
-    {"2", "wrong usage; in search, find and compare also what was reported"},
+     "something differs, in check something was found"},
+    {"2",
+     "wrong usage; in search, find, compare and check also what was reported, and in check a file "
+     "that is not CIF"},
 };
 
 constexpr ManualSection::Entry variables[] = {
@@ -19,7 +21,8 @@ constexpr ManualSection::Entry variables[] = {
 
 constexpr ManualSection::Entry files[] = {
     {"*.cif, *.cif.gz",
-     "what show, find and compare read of a folder: files with such names, in any case, in the "
+     "what show, find, compare and check read of a folder: files with such names, in any case, in "
+     "the "
      "order of "
      "their names, but no hidden ones; with --recursive then those of the folders in it. Links are "
      "followed; of a folder that is named each file is read once, however many links lead to it"},
@@ -48,6 +51,9 @@ constexpr ManualSection::Entry examples[] = {
      "lmrtext find author:cisarova --and cell:22.7,22.7,13.5 --list --recursive structures/"},
     {"What has changed in a folder, small changes of numbers aside",
      "lmrtext compare --tolerance 0.01 before/ after/"},
+    {"What may be wrong in a folder, by kinds of faults, and what can be mended safely",
+     "lmrtext check --summary --level note --recursive structures/\n"
+     "lmrtext check --fix --level note structures/"},
     {"Two structures of one file, as a page",
      "lmrtext compare -o page.html both.cif:I both.cif:II"},
     {"The names of a list in which a part of a name occurs",
