@@ -22,7 +22,8 @@ std::string FieldEditor::shown(std::string_view label) const {
 
 std::string FieldEditor::value_of(const FieldPart& part, const std::string& text) const {
     const std::optional<std::string> value = ::value_of(part, text, is_version_2());
-    if (!value) refuse(expected_of(part), text);
+    const bool says_nothing = text == "?" || text == ".";
+    if (!value || says_nothing) refuse(expected_of(part), text);
     return *value;
 }
 

@@ -132,6 +132,9 @@ std::optional<std::string> value_of(const FieldPart& part, const std::string& te
         case FieldPart::words:
             if (is_number(text)) return std::nullopt;
             return with_codes(text, is_version_2);
+        case FieldPart::page:
+            if (text.find_first_of(" <>") != std::string::npos) return std::nullopt;
+            return with_codes(text, is_version_2);
         case FieldPart::formula:
             return if_it(is_formula(text), text);
         case FieldPart::number:
@@ -158,8 +161,14 @@ std::optional<std::string> value_of(const FieldPart& part, const std::string& te
 std::string expected_of(const FieldPart& part) {
     std::string unit = *part.unit ? std::string(" in ").append(part.unit) : "";
     switch (part.kind) {
+        case FieldPart::text:
+        case FieldPart::name:
+        case FieldPart::plain:
+            return "a text";
         case FieldPart::words:
             return "words, as a number is the text of Temperature (K)";
+        case FieldPart::page:
+            return "a page like 12 or m258";
         case FieldPart::formula:
             return "a formula like C12 H22 O11";
         case FieldPart::range:

@@ -16,6 +16,7 @@ struct FieldPart {
         name,      ///< Likewise, one that is broken over lines at its hyphens.
         plain,     ///< Any text, in UTF-8.
         words,     ///< Likewise, but no number.
+        page,      ///< Likewise, without blanks or tags.
         formula,   ///< Of a compound.
         number,    ///< With or without its uncertainty, and its unit behind it.
         range,     ///< Likewise, or two with a dash between.

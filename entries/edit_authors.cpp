@@ -1,4 +1,7 @@
 #include <algorithm>
+#include <optional>
+#include <set>
+#include <string_view>
 
 #include "entries/FieldEditor.h"
 #include "entries/PersonName.h"
@@ -40,23 +43,53 @@ std::optional<std::string> name_of_file(const std::string& name) {
     return std::nullopt;
 }
 
-/// The names of a list in the form of the field as CIF files write them, and old ones as they are.
+/// Likewise of a name in any form, with its given names where they are written out.
+std::optional<std::string> new_name(const std::string& given) {
+    if (std::optional<std::string> name = name_of_file(given)) return name;
+    const PersonName read = read_person_name(given);
+    std::optional<std::string> name = read.doubtful ? std::nullopt : name_of_file(read.text);
+    if (!name) return name;
+    const std::string surname = name->substr(0, name->find(','));
+    if (!given.ends_with(' ' + surname)) return name;
+    std::string longer = surname;
+    longer.append(", ").append(given, 0, given.size() - surname.size() - 1);
+    return read_person_name(longer).text == read.text ? longer : name;
+}
+
+bool is_one_word(const std::string& name) { return name.find_first_of(" .") == std::string::npos; }
+
+/// The names of a list as CIF files write them; old ones stay in the form of the field.
 std::vector<std::string> names_of_file(const std::string& text,
                                        const std::vector<std::string>& old) {
-    std::vector<std::string> names = split_list(text, ", ", old);
+    const std::vector<std::string> names = split_list(text, ", ", old);
+    const std::set<std::string_view> known(old.begin(), old.end());
+    // "Smith, John" is one.
+    const bool may_be_parts =
+        names.size() > 1 && std::all_of(names.begin(), names.end(), is_one_word);
     std::vector<std::string> written;
     written.reserve(names.size());
-    for (std::string& name : names) {
-        const bool is_old = std::find(old.begin(), old.end(), name) != old.end();
-        std::optional<std::string> as_written = is_old ? name : name_of_file(name);
-        if (!as_written) {
-            // One name as files write it, with its comma.
-            if (!read_person_name(text).doubtful && names.size() == 2) return {text};
+    for (const std::string& name : names) {
+        PersonName read = known.count(name) > 0 ? PersonName{name} : read_person_name(name);
+        if (known.count(read.text) > 0) {
+            written.push_back(std::move(read.text));
+            continue;
+        }
+        std::optional<std::string> as_written = new_name(name);
+        if (!as_written || may_be_parts) {
             refuse("names like 'J.Smith, R.von Dreele' or 'Smith, John; von Dreele, R.'", name);
         }
         written.push_back(std::move(*as_written));
     }
     return written;
+}
+
+/// A new name with the given names of the old one in whose place it stands, where they have its
+/// initials: they may be written out there.
+std::string with_given_names_of(const std::string& old, const std::string& name) {
+    const std::size_t given = old.find(','), end_of_surname = name.find(',');
+    if (given == std::string::npos || end_of_surname == std::string::npos) return name;
+    std::string longer = name.substr(0, end_of_surname) + old.substr(given);
+    return read_person_name(longer).text == read_person_name(name).text ? longer : name;
 }
 
 }  // namespace
@@ -66,17 +99,22 @@ void edit_authors(FieldEditor& editor, const FieldItems& field, const std::strin
     const FieldPart& part = field.parts.front();
     const std::vector<BlockReader::Value> old = editor.values(part.tags());
     const bool as_given = text.find(';') != std::string::npos;
-    std::vector<std::string> old_names;
+    std::vector<std::string> decoded, old_names;
+    decoded.reserve(old.size());
     old_names.reserve(old.size());
     for (const BlockReader::Value& value : old) {
-        std::string name = editor.block().decoded(value);
-        old_names.push_back(as_given ? std::move(name) : read_person_name(name).text);
+        decoded.push_back(editor.block().decoded(value));
+        old_names.push_back(as_given ? decoded.back() : read_person_name(decoded.back()).text);
     }
     const std::vector<std::string> names =
         as_given ? split_list(text, ";", old_names) : names_of_file(text, old_names);
     std::vector<FieldEditor::Member> members = aligned(old_names, names);
     for (FieldEditor::Member& member : members) {
-        if (member.text) member.text = editor.value_of(part, *member.text);
+        if (!member.text) continue;
+        if (member.old && !as_given) {
+            member.text = with_given_names_of(decoded[*member.old], *member.text);
+        }
+        member.text = editor.value_of(part, *member.text);
     }
     editor.set_list(part.tags(), old, members);
 }

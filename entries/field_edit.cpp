@@ -37,14 +37,6 @@ bool is_in_codes(const FieldPart& part) {
     return part.kind == FieldPart::text || part.kind == FieldPart::name;
 }
 
-/// Throws what tells why no item can hold a text.
-void refuse_unwritable(const std::string& text, bool is_version_2) {
-    static_cast<void>(written_value(text, CifQuoting::bare, {is_version_2}));
-    if (text == "?" || text == ".") {
-        refuse("a text", text);  // in files these say nothing
-    }
-}
-
 }  // namespace
 
 FieldWriting field_writing(std::string_view label) {
@@ -94,7 +86,7 @@ void edit_field(const EntryReader& entries, std::size_t index, std::string_view 
         if (editor.shown(label) != wanted) throw FieldRefused(field->refusal);
         return;
     }
-    refuse_unwritable(wanted, editor.is_version_2());
+    static_cast<void>(written_value(wanted, CifQuoting::bare, {editor.is_version_2()}));
     const std::vector<Row>& rows = special_fields();
     const auto special = std::find_if(rows.begin(), rows.end(),
                                       [label](const Row& row) { return label == row.label; });

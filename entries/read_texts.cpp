@@ -79,7 +79,8 @@ std::string read_name(BlockReader& block, const BlockReader::Value& name, std::s
 
 void read_texts(BlockReader& block, Entry& entry) {
     for (const TextRow& row : text_rows) {
-        const FieldPart& part = items_of(row.id).parts[row.part];
+        const FieldItems& items = items_of(row.id);
+        const FieldPart& part = items.parts[row.part];
         const BlockReader::Value value = block.first_value(part.tags());
         if (!value) continue;
         std::string& field = row.field(entry);
@@ -87,10 +88,11 @@ void read_texts(BlockReader& block, Entry& entry) {
         if (*part.unit) field = with_unit(field, part.unit);
         std::string as_written = one_line(value.text);
         const bool is_formula = part.kind == FieldPart::formula;
-        // Of a plain part other things are shown beside.
-        if (is_formula || (part.kind != FieldPart::plain && as_written != field &&
-                           CodedText::may_hold_codes(as_written))) {
-            block.add_text({Names::text(row.id), is_formula ? "cif-formula" : "cif-text",
+        // Beside a part other things are shown, and a number in the database has no codes.
+        const bool may_have_codes = items.parts.size() == 1 && part.kind != FieldPart::plain &&
+                                    as_written != field && CodedText::may_hold_codes(as_written);
+        if (is_formula || may_have_codes) {
+            block.add_text({items.label, is_formula ? "cif-formula" : "cif-text",
                             is_formula ? field : std::move(as_written)});
         }
     }

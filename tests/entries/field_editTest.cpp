@@ -183,10 +183,36 @@ TEST(field_edit, SaysWhyItRefuses) {
         {"Author(s)", "J.Smith, smith jones foo",
          "expected names like 'J.Smith, R.von Dreele' or 'Smith, John; von Dreele, R.', not "
          "'smith jones foo'"},
-        {"Author(s)", "J.Smith, A.Jones", "none"},
+        {"Author(s)", "Smith, John",
+         "expected names like 'J.Smith, R.von Dreele' or 'Smith, John; von Dreele, R.', not "
+         "'Smith'"},
+        {"Literature Reference", "Acta Cryst. C60, m258",
+         "expected a page like 12 or m258, not 'Acta Cryst. C60, m258'"},
         {"Cross References", "CSD ABCDEF",
          "expected references like 'Same structure CSD ABCDEF', not 'CSD ABCDEF'"},
         {"R-Factor (%)", "low", "expected a number of per cent, not 'low'"},
     };
     for (const auto& c : cases) EXPECT_EQ(refusal(cell, c.label, c.text), c.reason) << c.label;
+}
+
+TEST(field_edit, KeepsTheRowsOfAuthors) {
+    const std::string file =
+        "data_global\n_journal_page_first 12\nloop_\n_publ_author_name\n_publ_author_address\n"
+        "'Smith, John' here\n'M\\\"uller, Karl' 'there, 5'\nWho ?\ndata_a\n_cell_length_a 5\n"
+        "data_b\n_cell_length_a 6\n";
+    const struct {
+        const char *text, *rows;
+    } cases[] = {
+        {"K.M\u00FCller, J.Smith, Who",
+         "'M\\\"uller, Karl' 'there, 5'\n'Smith, John' here\nWho ?\n"},
+        {"J.Smithe, A.New, Who", "'Smithe, John' here\n'New, A.' 'there, 5'\nWho ?\n"},
+        {"J.Smith, A.New, K.M\u00FCller, Who",
+         "'Smith, John' here\n'New, A.' ?\n'M\\\"uller, Karl' 'there, 5'\nWho ?\n"},
+        {"Smith, John; M\u00FCller, K. X.", "'Smith, John' here\n'M\\\"uller, K. X.' 'there, 5'\n"},
+        {"John Smith, Rosalind Franklin", "'Smith, John' here\n'Franklin, Rosalind' 'there, 5'\n"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_THAT(edited(file, "Author(s)", c.text),
+                    testing::HasSubstr(std::string("_address\n") + c.rows + "data_a"));
+    }
 }
