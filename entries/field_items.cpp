@@ -94,9 +94,9 @@ constexpr CatalogueRow catalogue_rows[] = {
     {Names::literature_reference,
      {{{{cif_tags::journal}, Kind::plain},
        {{"_journal_volume"}, Kind::plain},
-       {{"_journal_year"}, Kind::plain},
-       {{"_journal_page_first"}, Kind::plain},
-       {{cif_tags::last_page}, Kind::plain},
+       {{"_journal_year"}, Kind::count},
+       {{"_journal_page_first"}, Kind::page},
+       {{cif_tags::last_page}, Kind::page},
        {{cif_tags::journal}, Kind::text}},
       "<j>$0</j><v>$1</v><y>$2</y><p>[$3$4|$3-$4|$3]</p>|"
       "[<i>$5</i>] [([<b>$1</b>], [$2])], [$3$4|$3-$4|$3]"}},
