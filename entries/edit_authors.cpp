@@ -3,7 +3,7 @@
 #include <set>
 #include <string_view>
 
-#include "entries/FieldEditor.h"
+#include "entries/EditedEntry.h"
 #include "entries/PersonName.h"
 #include "entries/cif_text.h"
 #include "entries/field_edit.h"
@@ -95,26 +95,26 @@ std::string with_given_names_of(const std::string& old, const std::string& name)
 }  // namespace
 
 // What is not changed is compared in the form of the field, what is new is written as files do.
-void edit_authors(FieldEditor& editor, const FieldItems& field, const std::string& text) {
+void edit_authors(EditedEntry& entry, const FieldItems& field, const std::string& text) {
     const FieldPart& part = field.parts.front();
-    const std::vector<BlockReader::Value> old = editor.values(part.tags());
+    const std::vector<BlockReader::Value> old = entry.values(part.tags());
     const bool as_given = text.find(';') != std::string::npos;
     std::vector<std::string> decoded, old_names;
     decoded.reserve(old.size());
     old_names.reserve(old.size());
     for (const BlockReader::Value& value : old) {
-        decoded.push_back(editor.block().decoded(value));
+        decoded.push_back(entry.block().decoded(value));
         old_names.push_back(as_given ? decoded.back() : read_person_name(decoded.back()).text);
     }
     const std::vector<std::string> names =
         as_given ? split_list(text, ";", old_names) : names_of_file(text, old_names);
-    std::vector<FieldEditor::Member> members = aligned(old_names, names);
-    for (FieldEditor::Member& member : members) {
+    std::vector<EditedEntry::Member> members = aligned(old_names, names);
+    for (EditedEntry::Member& member : members) {
         if (!member.text) continue;
         if (member.old && !as_given) {
             member.text = with_given_names_of(decoded[*member.old], *member.text);
         }
-        member.text = editor.value_of(part, *member.text);
+        member.text = entry.value_of(part, *member.text);
     }
-    editor.set_list(part.tags(), old, members);
+    entry.set_list(part.tags(), old, members);
 }

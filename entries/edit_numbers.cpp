@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "entries/FieldEditor.h"
+#include "entries/EditedEntry.h"
 #include "entries/cif_text.h"
 #include "entries/field_edit.h"
 
@@ -21,18 +21,18 @@ double number_of(const std::string& text) {
 
 }  // namespace
 
-void edit_cell_volume(FieldEditor& editor, const FieldItems& field, const std::string& text) {
-    if (!editor.block().first_value(field.parts.front().tags())) {
-        const std::string computed = editor.shown(field.label);
-        if (computed == text) return;
-        if (!computed.empty()) throw FieldRefused("is computed from the cell");
+void edit_cell_volume(EditedEntry& entry, const FieldItems& field, const std::string& text) {
+    const bool is_written =
+        static_cast<bool>(entry.block().first_value(field.parts.front().tags()));
+    if (!is_written && !entry.shown(field.label).empty()) {
+        throw FieldRefused("is computed from the cell");
     }
-    edit_parts(editor, field, text);
+    edit_parts(entry, field, text);
 }
 
-void edit_z(FieldEditor& editor, const FieldItems& field, const std::string& text) {
+void edit_z(EditedEntry& entry, const FieldItems& field, const std::string& text) {
     constexpr std::size_t z = 0, z_prime = 1;
-    const std::string shown = editor.shown(field.label);
+    const std::string shown = entry.shown(field.label);
     if (text == shown) return;
     FieldForm::Parts old, wanted;
     split_z(field, shown, old);
@@ -44,5 +44,5 @@ void edit_z(FieldEditor& editor, const FieldItems& field, const std::string& tex
             throw FieldRefused("Z' is computed from Z and the space group");
         }
     }
-    edit_parts(editor, field, text);
+    edit_parts(entry, field, text);
 }

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <map>
 
-#include "entries/FieldEditor.h"
+#include "entries/EditedEntry.h"
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
 #include "entries/field_edit.h"
@@ -19,9 +19,9 @@ struct Number {
 };
 
 /// Those under `_database_code_`, in the order of their tags.
-std::vector<Number> numbers(FieldEditor& editor) {
+std::vector<Number> numbers(EditedEntry& entry) {
     std::vector<Number> numbers;
-    for (const CifItem* const item : editor.block().items(cif_tags::database_prefix)) {
+    for (const CifItem* const item : entry.block().items(cif_tags::database_prefix)) {
         std::string tag = in_lower_case(item->tag());
         std::replace(tag.begin(), tag.end(), '.', '_');
         numbers.push_back({item, std::move(tag), one_line((*item)[0].text())});
@@ -38,7 +38,7 @@ bool take(std::string_view& text, const std::string& word) {
 
 }  // namespace
 
-void edit_cross_references(FieldEditor& editor, const FieldItems& /*field*/,
+void edit_cross_references(EditedEntry& entry, const FieldItems& /*field*/,
                            const std::string& text) {
     constexpr std::string_view of_names =
         "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-";
@@ -63,27 +63,27 @@ void edit_cross_references(FieldEditor& editor, const FieldItems& /*field*/,
             refuse("one reference to each database", reference);
         }
     }
-    const std::string own = editor.shown(LMRFieldNames::text(LMRFieldNames::identifier));
-    for (const Number& number : numbers(editor)) {
+    const std::string own = entry.shown(LMRFieldNames::text(LMRFieldNames::identifier));
+    for (const Number& number : numbers(entry)) {
         const auto found = wanted.find(number.tag);
         const bool is_shown = !number.tag.starts_with(cif_tags::deposition_prefix) &&
                               !number.text.empty() && number.text != own;
         if (found == wanted.end() && !is_shown) continue;
         const BlockReader::Value value{number.item, "", 0};
         if (found == wanted.end()) {
-            editor.set(value, std::nullopt);
+            entry.set(value, std::nullopt);
         } else {
-            if (found->second.second != number.text) editor.set(value, found->second.second);
+            if (found->second.second != number.text) entry.set(value, found->second.second);
             wanted.erase(found);
         }
     }
     for (const auto& [lower, reference] : wanted) {
         const std::string_view tag = reference.first;
-        editor.set(just(tag), reference.second);
+        entry.set(just(tag), reference.second);
     }
 }
 
-void edit_depositions(FieldEditor& editor, const FieldItems& /*field*/, const std::string& text) {
+void edit_depositions(EditedEntry& entry, const FieldItems& /*field*/, const std::string& text) {
     constexpr std::string_view archive = "_database_code_depnum_ccdc_archive";
     const auto word = [](DepositionInfo::DepositionType type) {
         return DepositionInfo::deposition_type_text().text(type);
@@ -91,7 +91,7 @@ void edit_depositions(FieldEditor& editor, const FieldItems& /*field*/, const st
     const std::string expected = "numbers like '" + word(DepositionInfo::supplementary) +
                                  " 123456; " + word(DepositionInfo::journal) + " AB1234'";
     std::vector<std::string> archived;
-    FieldEditor::Text of_journal;
+    EditedEntry::Text of_journal;
     for (const std::string& deposition : split_list(text, "; ", {})) {
         std::string_view rest = deposition;
         if (take(rest, word(DepositionInfo::supplementary))) {
@@ -104,30 +104,30 @@ void edit_depositions(FieldEditor& editor, const FieldItems& /*field*/, const st
     }
     std::vector<BlockReader::Value> old;
     std::vector<std::string> old_numbers;
-    for (const Number& number : numbers(editor)) {
+    for (const Number& number : numbers(entry)) {
         if (number.text.empty() || !number.tag.starts_with(cif_tags::deposition_prefix)) continue;
         old.push_back({number.item, number.text, 0});
         old_numbers.push_back(number.text);
     }
-    const std::vector<FieldEditor::Member> members = aligned(old_numbers, archived);
+    const std::vector<EditedEntry::Member> members = aligned(old_numbers, archived);
     std::vector<bool> is_kept(old.size());
     std::size_t added = 0;
-    for (const FieldEditor::Member& member : members) {
+    for (const EditedEntry::Member& member : members) {
         if (member.old) is_kept[*member.old] = true;
         if (!member.old) ++added;
     }
-    const CifItem* const item = editor.block().item(archive);
+    const CifItem* const item = entry.block().item(archive);
     const bool has_archive = item && item->has_text();
     if (added > (has_archive ? 0 : 1)) {
         refuse("as many numbers of archives as there are", text);
     }
-    for (const FieldEditor::Member& member : members) {
-        if (member.old && member.text) editor.set(old[*member.old], member.text);
-        if (!member.old) editor.set(just(archive), member.text);
+    for (const EditedEntry::Member& member : members) {
+        if (member.old && member.text) entry.set(old[*member.old], member.text);
+        if (!member.old) entry.set(just(archive), member.text);
     }
     for (std::size_t i = 0; i < old.size(); ++i) {
-        if (!is_kept[i]) editor.set(old[i], std::nullopt);
+        if (!is_kept[i]) entry.set(old[i], std::nullopt);
     }
-    const std::string old_code = editor.block().first_text(just(cif_tags::editor_code));
-    if (of_journal.value_or("") != old_code) editor.set(just(cif_tags::editor_code), of_journal);
+    const std::string old_code = entry.block().first_text(just(cif_tags::editor_code));
+    if (of_journal.value_or("") != old_code) entry.set(just(cif_tags::editor_code), of_journal);
 }

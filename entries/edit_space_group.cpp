@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <gemmi/symmetry.hpp>
 
-#include "entries/FieldEditor.h"
+#include "entries/EditedEntry.h"
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
 #include "entries/field_edit.h"
@@ -44,11 +44,11 @@ std::string symbol_like(const SpaceGroupSetting& setting, const std::string& old
 
 }  // namespace
 
-void edit_space_group(FieldEditor& editor, const FieldItems& field, const std::string& text) {
+void edit_space_group(EditedEntry& entry, const FieldItems& field, const std::string& text) {
     const Tags tags = field.parts.front().tags();
-    if (text == editor.shown(field.label)) return;
-    if (text.empty()) return editor.set(tags, std::nullopt);
-    BlockReader& block = editor.block();
+    if (text == entry.shown(field.label)) return;
+    if (text.empty()) return entry.set(tags, std::nullopt);
+    BlockReader& block = entry.block();
     const auto angle = [&](std::size_t i) {
         const std::string written = block.first_text(just(cif_tags::cell[i]));
         return read_number(written).value_or(UncertainValue{}).value;
@@ -69,10 +69,10 @@ void edit_space_group(FieldEditor& editor, const FieldItems& field, const std::s
         const std::string old = one_line(value.text);
         const SpaceGroupSetting old_setting = find(old);
         if (old_setting.group && allows(setting, *old_setting.group)) continue;
-        editor.set(value, has_blanks ? symbol : symbol_like(setting, old));
+        entry.set(value, has_blanks ? symbol : symbol_like(setting, old));
     }
     if (has_symbol) return;
     // The older name stands beside other older ones.
     const bool is_old = block.block().has_any("_symmetry_");
-    editor.set(is_old ? tags.subspan(1) : tags, has_blanks ? symbol : symbol_like(setting, symbol));
+    entry.set(is_old ? tags.subspan(1) : tags, has_blanks ? symbol : symbol_like(setting, symbol));
 }

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "entries/FieldEditor.h"
+#include "entries/EditedEntry.h"
 #include "entries/cif_text.h"
 #include "entries/written_value.h"
 
@@ -15,7 +15,7 @@ using Names = LMRFieldNames;
 
 struct Row {
     const char* label;
-    void (*edit)(FieldEditor& editor, const FieldItems& field, const std::string& text);
+    void (*edit)(EditedEntry& entry, const FieldItems& field, const std::string& text);
 };
 
 /// The fields that are more than parts in a form.
@@ -46,9 +46,9 @@ FieldWriting field_writing(std::string_view label) {
     return is_in_codes(field->parts.front()) ? FieldWriting::text : FieldWriting::own;
 }
 
-void edit_parts(FieldEditor& editor, const FieldItems& field, const std::string& text) {
-    const FieldForm::Parts present = parts_of(editor.block(), field);
-    const bool version_2 = editor.is_version_2();
+void edit_parts(EditedEntry& entry, const FieldItems& field, const std::string& text) {
+    const FieldForm::Parts present = parts_of(entry.block(), field);
+    const bool version_2 = entry.is_version_2();
     const auto fits = [&](std::size_t i, const std::string& part) {
         return value_of(field.parts[i], part, version_2).has_value();
     };
@@ -56,7 +56,7 @@ void edit_parts(FieldEditor& editor, const FieldItems& field, const std::string&
     if (!text.empty() && !field.form.match(text, present, fits, wanted)) {
         refuse("a text like '" + field.form.outline() + "'", text);
     }
-    std::vector<std::pair<const FieldPart*, FieldEditor::Text>> changes;
+    std::vector<std::pair<const FieldPart*, EditedEntry::Text>> changes;
     for (std::size_t i = 0; i < wanted.size(); ++i) {
         const FieldPart& part = field.parts[i];
         if (normal_text(part, wanted[i]) == present[i] || part.kind == FieldPart::computed)
@@ -67,28 +67,30 @@ void edit_parts(FieldEditor& editor, const FieldItems& field, const std::string&
         };
         const bool vanishes = wanted[i].empty();
         if (vanishes && std::any_of(field.parts.begin(), field.parts.end(), says_it_too)) continue;
-        FieldEditor::Text value;
-        if (!vanishes) value = editor.value_of(part, wanted[i]);
+        EditedEntry::Text value;
+        if (!vanishes) value = entry.value_of(part, wanted[i]);
         changes.emplace_back(&part, std::move(value));
     }
     // Items may say something that is not shown, and others what they do not.
-    if (changes.empty() || text == editor.shown(field.label)) return;
-    for (const auto& [part, value] : changes) editor.set(part->tags(), value);
+    if (changes.empty() || text == entry.shown(field.label)) return;
+    for (const auto& [part, value] : changes) entry.set(part->tags(), value);
 }
 
 void edit_field(const EntryReader& entries, std::size_t index, std::string_view label,
                 const std::string& text, CifEdits& edits) {
     const FieldItems* const field = items_of(label);
     if (!field) throw FieldRefused("is no field");
-    FieldEditor editor(entries, index, edits);
+    EditedEntry entry(entries, index, edits);
     const std::string wanted = one_line(text).empty() ? "" : text;
-    if (field->refusal) {
-        if (editor.shown(label) != wanted) throw FieldRefused(field->refusal);
-        return;
-    }
-    static_cast<void>(written_value(wanted, CifQuoting::bare, {editor.is_version_2()}));
+    static_cast<void>(written_value(wanted, CifQuoting::bare, {entry.is_version_2()}));
     const std::vector<Row>& rows = special_fields();
     const auto special = std::find_if(rows.begin(), rows.end(),
                                       [label](const Row& row) { return label == row.label; });
-    (special == rows.end() ? edit_parts : special->edit)(editor, *field, wanted);
+    try {
+        if (field->refusal) throw FieldRefused(field->refusal);
+        (special == rows.end() ? edit_parts : special->edit)(entry, *field, wanted);
+    } catch (const FieldRefused&) {
+        // What stands there may stay, whatever it is.
+        if (entry.shown(label) != wanted) throw;
+    }
 }

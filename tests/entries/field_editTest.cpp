@@ -6,7 +6,7 @@
 #include <fstream>
 #include <set>
 
-#include "entries/FieldEditor.h"
+#include "entries/EditedEntry.h"
 #include "entries/PersonName.h"
 #include "entries/further_fields.h"
 
@@ -34,7 +34,7 @@ std::vector<std::string> labels() {
 std::string shown(const std::string& file, const std::string& label) {
     const EntryReader entries(file);
     CifEdits edits(entries.document());
-    return FieldEditor(entries, 0, edits).shown(label);
+    return EditedEntry(entries, 0, edits).shown(label);
 }
 
 /// The file with a field of its first entry changed.

@@ -12,11 +12,11 @@
 #include "entries/field_items.h"
 
 /// What the editing of a field needs of its entry, and the changes that come of it.
-class FieldEditor {
+class EditedEntry {
 public:
     using Text = std::optional<std::string>;
 
-    FieldEditor(const EntryReader& entries, std::size_t index, CifEdits& edits);
+    EditedEntry(const EntryReader& entries, std::size_t index, CifEdits& edits);
 
     BlockReader& block() { return block_; }
     bool is_version_2() const { return entries_.document().is_version_2(); }
@@ -60,21 +60,21 @@ std::vector<std::string> split_list(std::string_view text, std::string_view sepa
 [[noreturn]] void refuse(const std::string& expected, std::string_view text);
 /// Which text of `old` each of `wanted` is: an equal one, or one that is gone from the same place,
 /// with another text. Linear.
-std::vector<FieldEditor::Member> aligned(const std::vector<std::string>& old,
+std::vector<EditedEntry::Member> aligned(const std::vector<std::string>& old,
                                          const std::vector<std::string>& wanted);
 
 // Each makes the field that its name says another; texts are in the form of the field, and none
 // throws anything but FieldRefused, before it changes anything.
 
-void edit_parts(FieldEditor& editor, const FieldItems& field, const std::string& text);
-void edit_cell_volume(FieldEditor& editor, const FieldItems& field, const std::string& text);
-void edit_space_group(FieldEditor& editor, const FieldItems& field, const std::string& text);
-void edit_z(FieldEditor& editor, const FieldItems& field, const std::string& text);
+void edit_parts(EditedEntry& entry, const FieldItems& field, const std::string& text);
+void edit_cell_volume(EditedEntry& entry, const FieldItems& field, const std::string& text);
+void edit_space_group(EditedEntry& entry, const FieldItems& field, const std::string& text);
+void edit_z(EditedEntry& entry, const FieldItems& field, const std::string& text);
 /// Names between semicolons, or numbers between commas.
 /// @{
-void edit_synonyms(FieldEditor& editor, const FieldItems& field, const std::string& text);
-void edit_wavelengths(FieldEditor& editor, const FieldItems& field, const std::string& text);
+void edit_synonyms(EditedEntry& entry, const FieldItems& field, const std::string& text);
+void edit_wavelengths(EditedEntry& entry, const FieldItems& field, const std::string& text);
 /// @}
-void edit_authors(FieldEditor& editor, const FieldItems& field, const std::string& text);
-void edit_cross_references(FieldEditor& editor, const FieldItems& field, const std::string& text);
-void edit_depositions(FieldEditor& editor, const FieldItems& field, const std::string& text);
+void edit_authors(EditedEntry& entry, const FieldItems& field, const std::string& text);
+void edit_cross_references(EditedEntry& entry, const FieldItems& field, const std::string& text);
+void edit_depositions(EditedEntry& entry, const FieldItems& field, const std::string& text);

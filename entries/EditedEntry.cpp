@@ -1,4 +1,4 @@
-#include "entries/FieldEditor.h"
+#include "entries/EditedEntry.h"
 
 #include <algorithm>
 #include <map>
@@ -7,31 +7,31 @@
 #include "entries/field_edit.h"
 #include "suppliers/FieldTextSupplier.h"
 
-FieldEditor::FieldEditor(const EntryReader& entries, std::size_t index, CifEdits& edits)
+EditedEntry::EditedEntry(const EntryReader& entries, std::size_t index, CifEdits& edits)
     : entries_(entries),
       index_(index),
       block_(entries.document(), entries.block_of(index), entries.common_block_of(index), true),
       edits_(edits) {}
 
-std::string FieldEditor::shown(std::string_view label) const {
+std::string EditedEntry::shown(std::string_view label) const {
     const CifEntry entry = entries_[index_];
     if (const EntryText* const text = entry.text(label)) return text->text;
     const std::optional<LMRFieldNames::TextID> id = LMRFieldNames::id_of(label);
     return id ? FieldTextSupplier(*id).text(entry.entry) : "";
 }
 
-std::string FieldEditor::value_of(const FieldPart& part, const std::string& text) const {
+std::string EditedEntry::value_of(const FieldPart& part, const std::string& text) const {
     const std::optional<std::string> value = ::value_of(part, text, is_version_2());
     const bool says_nothing = text == "?" || text == ".";
     if (!value || says_nothing) refuse(expected_of(part), text);
     return *value;
 }
 
-void FieldEditor::set(const BlockReader::Value& value, const Text& text) {
+void EditedEntry::set(const BlockReader::Value& value, const Text& text) {
     edits_.set(*value.item, value.row, text);
 }
 
-void FieldEditor::set(Tags tags, const Text& text) {
+void EditedEntry::set(Tags tags, const Text& text) {
     if (!text) {
         for (const BlockReader::Value& value : values(tags)) set(value, text);
         return;
@@ -47,7 +47,7 @@ void FieldEditor::set(Tags tags, const Text& text) {
     edits_.add(entries_.block_of(index_), in_style(tags.front()), *text);
 }
 
-std::vector<BlockReader::Value> FieldEditor::values(Tags tags) {
+std::vector<BlockReader::Value> EditedEntry::values(Tags tags) {
     std::vector<BlockReader::Value> values;
     for (const std::string_view tag : tags) {
         const CifItem* const item = block_.item(tag);
@@ -59,7 +59,7 @@ std::vector<BlockReader::Value> FieldEditor::values(Tags tags) {
     return values;
 }
 
-void FieldEditor::set_list(Tags tags, const std::vector<BlockReader::Value>& old,
+void EditedEntry::set_list(Tags tags, const std::vector<BlockReader::Value>& old,
                            const std::vector<Member>& wanted) {
     bool same_rows = old.size() == wanted.size();
     for (std::size_t i = 0; i < wanted.size() && same_rows; ++i) same_rows = wanted[i].old == i;
@@ -96,7 +96,7 @@ void FieldEditor::set_list(Tags tags, const std::vector<BlockReader::Value>& old
     edits_.set_rows(*item, std::move(rows));
 }
 
-std::string FieldEditor::in_style(std::string_view tag) const {
+std::string EditedEntry::in_style(std::string_view tag) const {
     const std::string lower = in_lower_case(tag);
     for (const CifItem* const item : entries_.document().items(entries_.block_of(index_))) {
         const std::size_t point = item->tag().find('.');
@@ -129,11 +129,11 @@ std::vector<std::string> split_list(std::string_view text, std::string_view sepa
     return texts;
 }
 
-std::vector<FieldEditor::Member> aligned(const std::vector<std::string>& old,
+std::vector<EditedEntry::Member> aligned(const std::vector<std::string>& old,
                                          const std::vector<std::string>& wanted) {
     std::map<std::string_view, std::vector<std::size_t>> places;  // the last first
     for (std::size_t i = old.size(); i > 0; --i) places[old[i - 1]].push_back(i - 1);
-    std::vector<FieldEditor::Member> members(wanted.size());
+    std::vector<EditedEntry::Member> members(wanted.size());
     std::vector<bool> is_kept(old.size());
     for (std::size_t i = 0; i < wanted.size(); ++i) {
         const auto found = places.find(wanted[i]);
@@ -144,7 +144,7 @@ std::vector<FieldEditor::Member> aligned(const std::vector<std::string>& old,
     }
     std::size_t next = 0;  // what stood behind the one before
     for (std::size_t i = 0; i < wanted.size(); ++i) {
-        FieldEditor::Member& member = members[i];
+        EditedEntry::Member& member = members[i];
         if (!member.old) {
             member.text = wanted[i];
             if (next < old.size() && !is_kept[next]) {
