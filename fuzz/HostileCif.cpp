@@ -38,7 +38,8 @@ const char* const bodies[] = {
     "\t1\t2\n\t3\t4",
     // Blocks, save frames, an empty block, an item twice, keywords in capitals.
     "data_first\n_cell_length_a 1.0\nsave_frame\n_cell_length_b 2\nloop_\n_f_a\n1\n2\nsave_\n"
-    "_cell_length_c 3\n_c_missing\nDATA_Second\nLOOP_\n_b_a\n_B_b\n1 2\n_cell_length_a 5 _cell_length_a '6'\n"
+    "_cell_length_c 3\n_c_missing\nDATA_Second\nLOOP_\n_b_a\n_B_b\n1 2\n_cell_length_a 5 "
+    "_cell_length_a '6'\n"
     "data_empty\n# nothing\nData_frames\nSAVE_x\n_a 1\nSave_\nsave_y\n_a 2\nsave_\ndata_last _x y\n"
     "data_first\n_again yes\ndata_\n_x 1\n",
     // Words that begin as keywords do, and characters with a meaning.
@@ -47,10 +48,10 @@ const char* const bodies[] = {
     "`~!@%^&*()=+|<>,/\n"
     "_w_o '{a:b}'\n_w_p \"\\\"\n_w_q '\t'\n",
     // Long lines, UTF-8 and bytes of Latin-1.
-    "data_bytes\n_b_long @\n_b_quoted '@ @'\n_b_field\n;@\n@ @ @\n;\n_b_utf8 'M\xC3\xBCller "
+    "data_bytes\n_b_long @\n_b_quoted '@ x'\n_b_field\n;@\n@ \n;\n_b_utf8 'M\xC3\xBCller "
     "\xE2\x82\xAC'\n"
     "_b_latin 'M\374ller'\n_b_in_field\n;\xC3\x85\n\305\n;\n# \xC3\xA9 and \351\nloop_\n_b_names\n"
-    "'\xF0\x9F\x92\x8E'\n'caf\351'\n@\n'@' _b_behind 1 # @\n",
+    "'\xF0\x9F\x92\x8E'\n'caf\351'\nx\n'@' _b_behind 1 # long\n",
     // Blanks of every kind; a lone carriage return is one.
     "\n\n \t\ndata_blanks\t\t\n\n_b_a\t1\r_b_b\r2\n\n\n   _b_c  \t "
     "'x'\t\n\tloop_\t_b_d\r_b_e\t1\r2\t3\n\n4\n"
