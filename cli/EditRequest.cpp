@@ -8,8 +8,8 @@
 
 #include "cli/InputFile.h"
 #include "cli/options.h"
-#include "tasks/EntryNames.h"
 #include "tasks/EntryEditor.h"
+#include "tasks/EntryNames.h"
 
 namespace {
 

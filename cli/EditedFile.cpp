@@ -95,15 +95,22 @@ void lock(const Descriptor& file, const std::string& name) {
 
 EditedFile::EditedFile(const std::string& path) : path_(path) {
     if (path == "-") throw InputError("-: standard input cannot be edited in its place");
-    std::error_code error;
-    place_ = std::filesystem::canonical(path, error);
-    if (!error && !std::filesystem::is_regular_file(place_, error) && !error) {
-        throw InputError(path + ": is no regular file");
+    std::error_code unknown;
+    place_ = std::filesystem::canonical(path, unknown);
+    struct stat status {};
+    if (!unknown && stat(place_.c_str(), &status) == 0) {
+        if (!S_ISREG(status.st_mode)) throw InputError(path + ": is no regular file");
+        device_ = status.st_dev;
+        number_ = status.st_ino;
     }
     InputFile file(path);  // says what is wrong with the path
     bytes_ = read_cif(file);
     if (file.is_packed())
         throw InputError(path + ": is a gzip file; only unpacked ones are edited");
+}
+
+bool EditedFile::is_same_as(const EditedFile& other) const {
+    return device_ == other.device_ && number_ == other.number_;
 }
 
 void EditedFile::replace(std::string_view bytes, bool keeps_backup) const {

@@ -1,14 +1,12 @@
-#include <filesystem>
 #include <optional>
 #include <set>
-#include <system_error>
 #include <utility>
 #include <vector>
 
 #include "cli/Command.h"
 #include "cli/EditBatch.h"
 #include "cli/EditRequest.h"
-#include "cli/InputFile.h"
+#include "cli/EditWriter.h"
 #include "cli/Progress.h"
 #include "cli/TextOutput.h"
 #include "cli/default_target.h"
@@ -30,7 +28,7 @@ public:
                         [&](std::size_t place, const EntryReader& entries) {
                             return request_.change_of(place, entries);
                         });
-        return edit(batch);
+        return tells_only_ ? tell(batch) : write(batch);
     }
     int trouble() const override { return exit_trouble; }
 
@@ -43,8 +41,8 @@ private:
     void add_options(CLI::App& command, Choices& choices) override;
     bool is_complete() const;
     std::vector<Place> named_files() const;
-    bool put_in_place(const EditBatch::Edited& edited) const;
-    int edit(EditBatch& batch) const;
+    int write(EditBatch& batch) const;
+    int tell(EditBatch& batch) const;
 
     EditRequest request_;
     bool takes_away_ = false;
@@ -134,47 +132,37 @@ std::vector<Place> SetCommand::named_files() const {
     return files;
 }
 
-/// Returns whether it could; why not is reported.
-bool SetCommand::put_in_place(const EditBatch::Edited& edited) const {
-    try {
-        edited.file->replace(edited.bytes, keeps_backup_);
-        return true;
-    } catch (const InputError& error) {
-        report(error.what());
-    } catch (const std::system_error& error) {
-        report(error.what());
+/// Puts one file after the other in its place.
+int SetCommand::write(EditBatch& batch) const {
+    Progress progress(progress_, "files", batch.places());
+    EditWriter writer(keeps_backup_);
+    for (unsigned long count = 0; std::optional<EditBatch::Edited> edited = batch.next();) {
+        writer.add(std::move(*edited));
+        ++count;
+        progress.update(count, static_cast<double>(count));
     }
-    return false;
+    writer.finish();
+    if (!writer.good()) return exit_trouble;
+    return writer.any_written() ? exit_success : exit_unchanged;
 }
 
-/// Puts one file after the other in its place, or tells what would change in it.
-int SetCommand::edit(EditBatch& batch) const {
+/// Tells what would change.
+int SetCommand::tell(EditBatch& batch) const {
     TextOutput output;
     const bool with_colors =
         target_of_terminal() == &rich_text_target_for(RichTextTarget::Use::terminal);
-    Progress progress(progress_ && !(tells_only_ && output.is_terminal()), "files", batch.places());
-    std::set<std::string> folders;
+    Progress progress(progress_ && !output.is_terminal(), "files", batch.places());
     bool good = true, any_changed = false;
-    unsigned long count = 0;
-    while (const std::optional<EditBatch::Edited> edited = batch.next()) {
+    for (unsigned long count = 0; const std::optional<EditBatch::Edited> edited = batch.next();) {
         good = report(edited->problems) && good;
         ++count;
         progress.update(count, static_cast<double>(count));
         if (edited->splices.empty()) continue;
-        if (tells_only_) {
-            output.write(unified_diff(edited->file->path(), edited->file->bytes(), edited->splices,
-                                      with_colors));
-        } else if (!put_in_place(*edited)) {
-            good = false;
-            continue;
-        }
-        folders.insert(std::filesystem::path(edited->file->place()).parent_path());
+        output.write(unified_diff(edited->file->path(), edited->file->bytes(), edited->splices,
+                                  with_colors));
         any_changed = true;
     }
     output.close();
-    if (!tells_only_) {
-        for (const std::string& folder : folders) sync_folder(folder);
-    }
     if (!good) return exit_trouble;
     return any_changed ? exit_success : exit_unchanged;
 }

@@ -4,13 +4,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <climits>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -18,46 +14,6 @@ namespace {
 
 [[noreturn]] void fail(const std::string& name) {
     throw std::system_error(errno, std::generic_category(), name);
-}
-
-char unfinished[PATH_MAX];  // the file to remove when a signal ends the program
-
-extern "C" void remove_unfinished(int signal) {
-    unlink(unfinished);
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
-}
-
-/// Where others, such as sanitizers, or who has started the program have said what a signal does,
-/// that stands.
-void remove_on_signals() {
-    for (int signal = 1; signal <= SIGRTMAX; ++signal) {
-        constexpr int harmless[] = {SIGCHLD, SIGCONT, SIGTSTP, SIGTTIN, SIGTTOU, SIGURG, SIGWINCH};
-        if (std::find(std::begin(harmless), std::end(harmless), signal) != std::end(harmless)) {
-            continue;
-        }
-        struct sigaction action {};
-        if (sigaction(signal, nullptr, &action) != 0 || action.sa_handler != SIG_DFL) continue;
-        action.sa_handler = remove_unfinished;
-        sigaction(signal, &action, nullptr);  // refused for SIGKILL and SIGSTOP
-    }
-}
-
-/// Makes a file with a name of its own in a folder and returns its descriptor, or -1.
-int make_temporary(const std::string& folder, std::string& path) {
-    // Short, for the name that the file will have may be as long as names can be.
-    const std::string pattern = folder + "/.lmrtext-XXXXXX";
-    if (pattern.size() >= sizeof unfinished) {
-        errno = ENAMETOOLONG;
-        return -1;
-    }
-    // The name is noted before the file is there: no signal comes between.
-    pattern.copy(unfinished, pattern.size());
-    unfinished[pattern.size()] = '\0';
-    remove_on_signals();
-    const int descriptor = mkostemp(unfinished, O_CLOEXEC);
-    path = unfinished;
-    return descriptor;
 }
 
 mode_t usual_mode() {
@@ -177,7 +133,7 @@ void TextOutput::begin_file(bool exists) {
     const std::string folder = folder_of(place_);
     int descriptor = exists ? -1 : open_without_name(folder);
     lacks_name_ = descriptor >= 0;
-    if (!lacks_name_) descriptor = make_temporary(folder, temporary_);
+    if (!lacks_name_) descriptor = temporary_.make_file(folder);
     if (descriptor < 0) fail(name_);
     file_ = fdopen(descriptor, "wb");
     if (!file_) fail(name_);
@@ -189,14 +145,13 @@ void TextOutput::put_in_place() {
     if (lacks_name_) {
         if (errno != EEXIST) fail(name_);
         // There is a file in the place now: take one beside it, whose name is free again.
-        const int other = make_temporary(folder_of(place_), temporary_);
+        const int other = temporary_.make_file(folder_of(place_));
         if (other < 0) fail(name_);
         ::close(other);
-        unlink(temporary_.c_str());
-        if (!give_name(descriptor, temporary_)) fail(name_);
+        unlink(temporary_.path());
+        if (!give_name(descriptor, temporary_.path())) fail(name_);
     }
-    if (std::rename(temporary_.c_str(), place_.c_str()) != 0) fail(name_);
-    temporary_.clear();
+    if (!temporary_.rename_to(place_)) fail(name_);
 }
 
 /// Throws what has just failed.
@@ -209,8 +164,7 @@ void TextOutput::give_up(const std::string& name) {
 
 void TextOutput::remove() {
     if (file_) std::fclose(std::exchange(file_, nullptr));
-    if (!temporary_.empty()) unlink(temporary_.c_str());
-    temporary_.clear();
+    temporary_.remove();
 }
 
 bool TextOutput::is_at(const std::string& path) const {

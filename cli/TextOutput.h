@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "cli/TemporaryName.h"
+
 struct stat;
 
 /// So that files stay in their folder when the power fails; not all file systems can.
@@ -11,7 +13,7 @@ void sync_folder(const std::string& folder);
 
 /// Standard output or a file to write to. A file appears whole or not at all: it is written without
 /// a name, or beside the one that it replaces, gets its place when it is closed and is removed
-/// otherwise, on signals too. One at a time.
+/// otherwise, on signals too.
 class TextOutput {
 public:
     /// Standard output.
@@ -50,7 +52,7 @@ private:
 
     std::string name_;
     std::string place_;        // where the file will stand
-    std::string temporary_;    // where it is being written; empty: nowhere else
+    TemporaryName temporary_;  // where it is being written; empty: nowhere else
     bool lacks_name_ = false;  // until it is put in its place
     bool is_synced_ = false, syncs_folder_ = true;
     std::FILE* file_;
