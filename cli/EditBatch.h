@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "cli/EditedFile.h"
-#include "cli/Places.h"
+#include "cli/PlaceGroups.h"
 #include "entries/EditSession.h"
 #include "entries/Problem.h"
 
@@ -43,20 +43,16 @@ public:
     /// be changed. Throws what editing throws, but std::bad_alloc.
     std::optional<Edited> next();
 
-    std::size_t places() const { return places_.size(); }
+    std::size_t places() const { return groups_.size(); }
 
 private:
-    using Range = std::pair<std::size_t, std::size_t>;
-
-    Edited edited(std::size_t place) const;
-    void edit(std::size_t place, Edited& done) const;
-    Range next_range();
+    Edited edited(const Place& place, std::size_t number) const;
+    void edit(const Place& place, std::size_t number, Edited& done) const;
     void begin_to_edit();
 
-    std::vector<Place> places_;
+    PlaceGroups groups_;
     unsigned int jobs_;
     EditEntries edit_;
-    std::size_t next_place_ = 0;
     std::deque<std::future<std::vector<Edited>>> in_work_;  // in the order of the places
     std::deque<Edited> done_;                               // before these
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <sys/types.h>
-
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -29,6 +28,5 @@ public:
 
 private:
     std::string path_, place_, bytes_;
-    dev_t device_ = 0;
-    ino_t number_ = 0;  // there
+    std::uint64_t device_ = 0, number_ = 0;  // of the file
 };

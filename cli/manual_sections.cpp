@@ -5,13 +5,15 @@ namespace {
 constexpr ManualSection::Entry statuses[] = {
     {"0",
      "all went well, doubts about what was read aside; in search and find something matched, in "
-     "compare nothing differs that counts, in check nothing was found"},
+     "compare nothing differs that counts, in check nothing was found, in set something was "
+     "changed"},
     {"1",
      "something was reported, and the rest done; in search and find nothing matched, in compare "
-     "something differs, in check something was found"},
+     "something differs, in check something was found, in set there was nothing "
+     "to change"},
     {"2",
-     "wrong usage; in search, find, compare and check also what was reported, and in check a file "
-     "that is not CIF"},
+     "wrong usage; in search, find, compare, check and set also what was reported, and in check a "
+     "file that is not CIF"},
 };
 
 constexpr ManualSection::Entry variables[] = {
@@ -21,15 +23,15 @@ constexpr ManualSection::Entry variables[] = {
 
 constexpr ManualSection::Entry files[] = {
     {"*.cif, *.cif.gz",
-     "what show, find, compare and check read of a folder: files with such names, in any case, in "
-     "the "
-     "order of "
-     "their names, but no hidden ones; with --recursive then those of the folders in it. Links are "
+     "what show, find, compare, check and set read of a folder: files with such names, in any "
+     "case, in the order of their names, but no hidden ones; with --recursive then those of the "
+     "folders in it. Links are "
      "followed; of a folder that is named each file is read once, however many links lead to it"},
     {"*.gz",
      "gzip files are known by how they begin, on standard input too, and unpacked while they are "
      "read; a file with such a name that is none is refused, and so is one that unpacks to more "
      "than 64 MB and 200 times its size, or to a CIF file of more than 1 GB"},
+    {"*.cif~", "what set --backup keeps: a file as it was before"},
     {"*.csv",
      "tables as RFC 4180 has them, in UTF-8, as plain text like that of unicode. A cell that "
      "begins "
@@ -54,6 +56,13 @@ constexpr ManualSection::Entry examples[] = {
     {"What may be wrong in a folder, by kinds of faults, and what can be mended safely",
      "lmrtext check --summary --level note --recursive structures/\n"
      "lmrtext check --fix --level note structures/"},
+    {"A name of an author corrected in all files, once the changes have been seen",
+     "lmrtext set --field 'Author(s)' --replace Mueller --value Müller --dry-run structures/\n"
+     "lmrtext set --field 'Author(s)' --replace Mueller --value Müller structures/"},
+    {"Many fields of many files, changed in an editor",
+     "lmrtext show --to json structures/ >edits.json\n"
+     "editor edits.json\n"
+     "lmrtext set --edits edits.json --backup"},
     {"Two structures of one file, as a page",
      "lmrtext compare -o page.html both.cif:I both.cif:II"},
     {"The names of a list in which a part of a name occurs",
