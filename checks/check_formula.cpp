@@ -124,7 +124,7 @@ bool FormulaCheck::check_symbols(const Value& value, const WrittenFormula& formu
                                  const std::optional<std::string>& mended, bool is_safe) {
     const std::string_view unknown = formula.unknown_symbol();
     if (!unknown.empty()) {
-        entry_.add("element-unknown", value, "an element, not " + std::string(unknown));
+        entry_.add("element-unknown", value, std::string("an element, not ").append(unknown));
     } else if (formula.has_wrong_case()) {
         add("element-case", value, mended, is_safe);
     } else if (formula.lacks_blanks()) {

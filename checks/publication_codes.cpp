@@ -5,6 +5,11 @@ namespace {
 using Level = Problem::Level;
 
 constexpr CheckCode rows[] = {
+    {"author-unclear", Level::note, "given names and surname cannot be told apart",
+     "A name is read as \"Surname, Given\", \"Given Surname\" or \"A.B.Surname\". Where a form "
+     "allows several readings, or names no person, the name is kept as it is written, and is not "
+     "found under its surname.",
+     "_publ_author_name 'Smith D Yu'", "_publ_author_name 'Smith, D. Yu'"},
     {"author-repeated", Level::warning, "this person is among the authors before",
      "Names are compared without case, accents and punctuation: surname and all given names are "
      "the same, and these are more than one initial. The list may have been put together from "
