@@ -40,3 +40,5 @@ std::vector<Case> text_cases();
 std::vector<Case> comparison_cases();
 /// Those that edit files.
 std::vector<Case> edit_cases();
+/// Those that check entries.
+std::vector<Case> check_cases();
