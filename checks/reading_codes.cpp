@@ -15,9 +15,6 @@ constexpr CheckCode codes[] = {
      "The day when the file was made cannot be read. Day and month that only their order could "
      "tell apart, as in '9/7/2004', are no date either.",
      "_audit_creation_date 9/7/2004\n", "_audit_creation_date 9-Jul-2004\n"},
-    {"styles-cross", Level::error, "the styles of the name cross",
-     "A style ends within another that began after it, so that the name cannot be shown.", nullptr,
-     nullptr},
 };
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <exception>
+#include <filesystem>
+#include <iterator>
 #include <memory>
 #include <new>
 #include <utility>
@@ -13,33 +15,19 @@
 
 namespace {
 
-/// Why a file cannot be written again; empty: it can.
-std::string unwritable(const EntryFile& file) {
-    if (file.path() == "-") return "standard input cannot be repaired";
-    return file.is_packed() ? file.path() + ": packed files cannot be repaired" : "";
-}
-
-/// Does the repairs of a file, and checks what it has become: a repair may have hidden another.
+/// Repairs the bytes of a file and checks what they have become: a repair may have hidden another.
 void repair(const EntryFile& file, const WantedChecks& wanted, CheckedFile& checked) {
     constexpr int most_rounds = 20;
-    CheckFindings findings = checked.findings;
     std::string bytes = file.bytes();
-    std::size_t count = 0;
     for (int round = 0; round < most_rounds; ++round) {
-        const Splices repairs = repairs_of(findings);
+        const Splices repairs = repairs_of(checked.findings);
         if (repairs.empty()) break;
-        count += repairs.size();
+        if (round == 0) checked.file.emplace(file.path());
+        checked.repairs += repairs.size();
         bytes = spliced(bytes, repairs);
-        findings = check_entries(EntryReader(bytes), wanted);
+        checked.findings = check_entries(EntryReader(bytes), wanted);
     }
-    if (count == 0) return;
-    checked.trouble = unwritable(file);
-    if (!checked.trouble.empty()) return;
-    TextOutput output(file.path());
-    output.write(bytes);
-    output.close();
-    checked.findings = std::move(findings);
-    checked.repairs = count;
+    checked.bytes = std::move(bytes);
 }
 
 CheckedFile checked_file(const Place& place, const CheckBatch::Wanted& wanted) {
@@ -58,8 +46,8 @@ CheckedFile checked_file(const Place& place, const CheckBatch::Wanted& wanted) {
         }
     } catch (const std::bad_alloc&) {
         checked = {place.path, place.path + ": out of memory"};
-    } catch (const std::exception& error) {  // nothing of it has been written
-        checked.trouble = place.path + ": " + error.what();
+    } catch (const InputError& error) {
+        checked.trouble = error.what();
     }
     for (CheckFinding& finding : checked.findings) finding.problem.file = place.path;
     return checked;
@@ -68,6 +56,18 @@ CheckedFile checked_file(const Place& place, const CheckBatch::Wanted& wanted) {
 }  // namespace
 
 CheckBatch::~CheckBatch() = default;
+
+/// Puts what was repaired in the place of the file.
+void CheckBatch::write(CheckedFile& checked) {
+    try {
+        checked.file->replace(checked.bytes, wanted_.keeps_backups);
+        changed_folders_.insert(std::filesystem::path(checked.file->place()).parent_path());
+    } catch (const std::exception& error) {
+        checked.trouble = error.what();
+        checked.repairs = 0;
+    }
+    checked.file.reset();
+}
 
 std::optional<CheckedFile> CheckBatch::next() {
     while (in_work_.size() < jobs_ && !places_.at_end()) {
@@ -80,7 +80,11 @@ std::optional<CheckedFile> CheckBatch::next() {
         }));
     }
     if (done_.empty()) {
-        if (in_work_.empty()) return std::nullopt;
+        if (in_work_.empty()) {
+            for (const std::string& folder : changed_folders_) sync_folder(folder);
+            changed_folders_.clear();
+            return std::nullopt;
+        }
         Files files = in_work_.front().get();
         in_work_.pop_front();
         std::move(files.begin(), files.end(), std::back_inserter(done_));
@@ -88,5 +92,6 @@ std::optional<CheckedFile> CheckBatch::next() {
     ++given_;
     std::optional<CheckedFile> first = std::move(done_.front());
     done_.pop_front();
+    if (first->file) write(*first);
     return first;
 }

@@ -4,10 +4,12 @@
 #include <functional>
 #include <future>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "checks/check_entries.h"
+#include "cli/EditedFile.h"
 #include "cli/PlaceGroups.h"
 
 /// What became of a file that was checked.
@@ -15,8 +17,10 @@ struct CheckedFile {
     std::string path;
     std::string trouble;  ///< Why it could not be checked, or not be repaired: a sentence or empty.
     bool is_cif = true;   ///< Otherwise the one finding says why not.
-    std::size_t repairs = 0;  ///< How many were done.
-    CheckFindings findings{};
+    CheckFindings findings{};          ///< What is left, if it was repaired.
+    std::size_t repairs = 0;           ///< How many were done.
+    std::optional<EditedFile> file{};  ///< That is to hold `bytes`.
+    std::string bytes{};
 };
 
 /// Has CIF files checked in threads and gives the results in the order of the files. Where threads
@@ -27,6 +31,7 @@ public:
     struct Wanted {
         WantedChecks checks{};
         bool repair = false;
+        bool keeps_backups = false;
     };
 
     /// `jobs` is 1 or more.
@@ -48,10 +53,13 @@ public:
 private:
     using Files = std::vector<CheckedFile>;
 
+    void write(CheckedFile& checked);
+
     PlaceGroups places_;
     unsigned int jobs_;
     Wanted wanted_;
     std::size_t given_ = 0;
     std::deque<std::future<Files>> in_work_;
     std::deque<CheckedFile> done_;
+    std::set<std::string> changed_folders_;
 };

@@ -64,6 +64,9 @@ private:
                        "How grave findings must be to be told; warning unless given");
         command.add_flag("--fix", repairs_,
                          "Do the repairs that are safe, in the files, and tell what is left");
+        command.add_flag(
+            "--backup", keeps_backups_,
+            "With --fix keep each file that changes as it was, with ~ behind its name");
         command.add_flag("--summary", is_summary_,
                          "Only a table of what was found how often, as text or json");
         command.add_flag("--codes", lists_codes_, "List all that may be found, with its level");
@@ -105,7 +108,7 @@ private:
     /// Checks one file after the other; returns the exit status.
     int check(std::vector<Place> places, TextOutput& output) const {
         CheckBatch batch(std::move(places), jobs_,
-                         {WantedChecks(level_->level, only_, ignored_), repairs_});
+                         {WantedChecks(level_->level, only_, ignored_), repairs_, keeps_backups_});
         Progress progress(progress_ && !output.is_terminal(), "files", batch.size());
         const std::unique_ptr<CheckLayout> layout = to_->make();
         CheckSummary summary;
@@ -142,6 +145,7 @@ private:
     const LevelRow* level_ = row_named(std::span<const LevelRow>(levels), "warning");
     std::vector<const CheckCode*> only_, ignored_;
     bool repairs_ = false;
+    bool keeps_backups_ = false;
     bool is_summary_ = false;
     bool lists_codes_ = false;
     std::string path_;  // of the file to write; empty: standard output

@@ -70,7 +70,7 @@ std::string read_name(BlockReader& block, const BlockReader::Value& name, std::s
         block.note_doubts(name, text);
         return text.tevo();
     } catch (const std::exception& error) {
-        block.add_problem(name, "styles-cross", std::string(error.what()) + " in");
+        block.add_problem(name, "lone-mark", std::string(error.what()) + " in");
         return "";
     }
 }

@@ -10,11 +10,16 @@
 namespace {
 
 constexpr std::size_t longest_line = 120;  // in characters
+constexpr int most_lines = 40;
 
 /// The lines of a file between fences, what cannot be seen in them by its number.
 void append_example(std::string& page, std::string_view what, std::string_view file) {
     page.append("\n").append(what).append("\n\n```\n");
-    while (!file.empty()) {
+    for (int line = 0; !file.empty(); ++line) {
+        if (line == most_lines) {
+            page += "...\n";
+            break;
+        }
         const std::size_t end = std::min(file.find('\n'), file.size());
         page.append(shown_in_line(file.substr(0, end), longest_line)).append("\n");
         file.remove_prefix(std::min(end + 1, file.size()));

@@ -14,13 +14,20 @@ public:
         line.append(": ").append(finding.code->code);
         line.append(": ").append(shown_in_line(sentence_of(finding), longest_sentence));
         if (finding.repair) {
-            line.append(" [repair: ").append(shown_in_line(finding.repair->before));
-            line.append(" -> ").append(shown_in_line(finding.repair->after)).append("]");
+            line.append(" [repair: ").append(in_bytes(finding.repair->before));
+            line.append(" -> ").append(in_bytes(finding.repair->after)).append("]");
         }
         return line + '\n';
     }
 
 private:
+    /// Blanks at the ends, and nothing, are seen between quotes.
+    static std::string in_bytes(const std::string& bytes) {
+        const bool needs_quotes = bytes.empty() || bytes.front() == ' ' || bytes.back() == ' ';
+        std::string text = shown_in_line(bytes);
+        return needs_quotes ? "'" + text + "'" : text;
+    }
+
     static constexpr std::size_t longest_sentence = 1000;  // in characters
 };
 

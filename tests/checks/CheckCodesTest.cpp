@@ -77,11 +77,11 @@ TEST(CheckEntries, TellsWhereEachFaultStands) {
         unsigned long line, column, character;
     } cases[] = {
         {"data_a\n_cell_formula_units_Z  four\n", "not-a-number", 2, 24, 24},
-        {"data_a\n_publ_section_title 'M\xC3\xBCnster  ~2'\n", "blanks-doubled", 2, 31, 30},
+        {"data_a\n_publ_section_title 'M\xC3\xBCnster  ~2'\n", "blanks-doubled", 2, 30, 29},
         {"data_a\n_publ_section_title\n;Two\n  lines~2\n;\n", "lone-mark", 4, 8, 8},
         {"data_a\r\n_publ_section_title\r\n;\\\r\nfol\\\r\nded~2\r\n;\r\n", "lone-mark", 5, 4, 4},
         {"data_a\nloop_\n_cell_length_a\n_cell_length_b\n1 2\n3\n", "loop-not-full", 2, 1, 1},
-        {"\x01\ndata_a\n_cell_length_a 1\n", "control-character", 1, 1, 1},
+        {"#\x01\ndata_a\n_cell_length_a 1\n", "control-character", 1, 2, 2},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.file);
