@@ -13,32 +13,37 @@ bool is_forbidden(char c) {
     return (static_cast<unsigned char>(c) < 0x20 && !is_blank) || c == '\x7F';
 }
 
-std::size_t characters_of(std::string_view line) {
-    return line.size() -
-           static_cast<std::size_t>(std::count_if(line.begin(), line.end(), is_continuation_byte));
+/// The place behind the longest line that a file may have, or the end.
+const char* end_of_longest(std::string_view line) {
+    std::size_t characters = 0;
+    return std::find_if(line.begin(), line.end(), [&](char c) {
+        if (!is_continuation_byte(c)) ++characters;
+        return characters > longest_cif_line;
+    });
 }
+
+constexpr std::size_t most_findings = 1000;  // of control characters; of more it is no text at all
 
 }  // namespace
 
 void check_bytes(const CifDocument& document, CheckFindings& findings) {
     std::string_view rest = document.bytes();
+    std::size_t found = 0;
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find('\n'), rest.size());
         std::string_view line = rest.substr(0, end);
         rest.remove_prefix(std::min(end + 1, rest.size()));
         const auto* const forbidden = std::find_if(line.begin(), line.end(), is_forbidden);
-        if (forbidden != line.end()) {
+        if (forbidden != line.end() && found++ < most_findings) {
             add_finding(findings, document, "control-character", forbidden,
                         std::string(1, *forbidden));
         }
-        if (line.size() <= longest_cif_line) continue;
         if (line.ends_with('\r')) line.remove_suffix(1);
-        const std::size_t characters = characters_of(line);
-        if (characters <= longest_cif_line) continue;
-        std::size_t beyond = longest_cif_line;
-        while (characters_of(line.substr(0, beyond)) < longest_cif_line) ++beyond;
-        add_finding(findings, document, "line-too-long", line.data() + beyond,
-                    std::to_string(characters) + " characters",
-                    "up to " + std::to_string(longest_cif_line));
+        if (line.size() <= longest_cif_line) continue;
+        const char* const beyond = end_of_longest(line);
+        if (beyond == line.end()) continue;
+        add_finding(findings, document, "line-too-long", beyond,
+                    std::to_string(line.size()) + " bytes",
+                    "up to " + std::to_string(longest_cif_line) + " characters");
     }
 }

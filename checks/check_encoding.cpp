@@ -13,6 +13,7 @@
 namespace {
 
 constexpr std::size_t most_of_a_value = 10;
+constexpr std::size_t most_values = 1000;  // of more the whole file is so
 
 bool is_beyond_ascii(char c) { return static_cast<unsigned char>(c) >= 0x80; }
 
@@ -28,7 +29,7 @@ public:
     void check(const CifItem& item) {
         for (std::size_t row = 0; row < item.size(); ++row) {
             const std::string_view raw = item[row].raw;
-            if (!has_beyond_ascii(raw)) continue;
+            if (!has_beyond_ascii(raw) || values_++ >= most_values) continue;
             const bool is_utf8 = check_utf8(item, raw);
             if (is_utf8 && is_ascii_) note_character(item, row);
         }
@@ -82,6 +83,7 @@ private:
     const CifDocument& document_;
     CheckFindings& findings_;
     bool is_ascii_;
+    std::size_t values_ = 0;  // that are not of ASCII
 };
 
 }  // namespace

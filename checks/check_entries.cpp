@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "checks/CheckedEntry.h"
+#include "markup/Utf8.h"
 
 namespace {
 
@@ -46,7 +47,7 @@ class Regions {
 public:
     explicit Regions(const CifDocument& document) : document_(document) {}
 
-    void note(CheckFinding& finding) const {
+    void note(CheckFinding& finding) {
         const std::size_t offset = finding.problem.offset.value_or(0);
         const char* const place = document_.bytes().data() + offset;
         finding.problem.line = document_.line_of(place);
@@ -57,23 +58,41 @@ public:
     }
 
 private:
-    FileRegion region(std::size_t from, std::size_t length) const {
+    FileRegion region(std::size_t from, std::size_t length) {
         FileRegion region;
         find(from, region.line, region.column);
         find(from + length, region.end_line, region.end_column);
         return region;
     }
 
-    void find(std::size_t offset, unsigned long& line, unsigned long& column) const {
+    /// Counts from the last place that was asked for, if it is in the same line: lines may be long,
+    /// and neighbours are asked for one after the other.
+    void find(std::size_t offset, unsigned long& line, unsigned long& column) {
         const char* const place = document_.bytes().data() + offset;
         line = document_.line_of(place);
-        const char* const begin = place - (document_.column_of(place) - 1);
-        column = 1 + static_cast<unsigned long>(std::count_if(begin, place, [](char c) {
-                     return (static_cast<unsigned char>(c) & 0xC0U) != 0x80;
-                 }));
+        if (line != last_line_) {
+            last_line_ = line;
+            last_ = place - (document_.column_of(place) - 1);
+            last_column_ = 1;
+        }
+        if (place >= last_) {
+            last_column_ += characters_in(last_, place);
+        } else {
+            last_column_ -= characters_in(place, last_);
+        }
+        last_ = place;
+        column = last_column_;
+    }
+
+    static unsigned long characters_in(const char* from, const char* to) {
+        const auto begins_character = [](char c) { return !is_continuation_byte(c); };
+        return static_cast<unsigned long>(std::count_if(from, to, begins_character));
     }
 
     const CifDocument& document_;
+    unsigned long last_line_ = 0;
+    const char* last_ = nullptr;
+    unsigned long last_column_ = 1;
 };
 
 /// Takes the problems that reading has found of an entry.
@@ -119,7 +138,7 @@ CheckFindings check_entries(const EntryReader& entries, const WantedChecks& want
         return !wanted.contain(*finding.code, finding.problem.level);
     });
     put_in_order(findings);
-    const Regions regions(document);
+    Regions regions(document);
     for (CheckFinding& finding : findings) regions.note(finding);
     return findings;
 }

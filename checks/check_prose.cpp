@@ -115,11 +115,14 @@ private:
     }
 
     void note_references() {
+        constexpr int most_references = 10;  // each costs the whole text
         const std::string_view line = line_;
+        int found = 0;
         for (std::size_t at = line.find('&'); at != std::string_view::npos;
              at = line.find('&', at + 1)) {
             const std::string_view reference = line.substr(at, size_of_reference(line.substr(at)));
-            if (reference.empty()) continue;
+            if (reference.empty() || found == most_references) continue;
+            ++found;
             const std::optional<std::string> codes = in_ascii(reference);
             if (!codes || *codes == reference) continue;
             CheckFinding& finding = add("html-entity", place_of(at), std::string(reference));

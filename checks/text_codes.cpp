@@ -11,7 +11,7 @@ using Level = Problem::Level;
 constexpr CheckCode constant_codes[] = {
     {"unknown-code", Level::warning, "unknown code",
      "A backslash begins no code of CIF text. The text is shown with the backslash.",
-     "_chemical_name_systematic '\\qamine'\n", "_chemical_name_systematic '\\h-amine'\n"},
+     "_chemical_name_systematic '\\jamine'\n", "_chemical_name_systematic '\\h-amine'\n"},
     {"unknown-reference", Level::warning, "reference to no character",
      "What stands between '&' and ';' names or numbers no character.",
      "_chemical_name_systematic '&alpah;-amine'\n", "_chemical_name_systematic '&alpha;-amine'\n"},

@@ -1,0 +1,70 @@
+#include "tests/cli/Program.h"
+
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+constexpr char misspelt[] = "data_a\r\n_cell_lenght_a 5 # one\r\n_journal_name_full 'Acta  X'\r\n";
+
+}  // namespace
+
+TEST_F(Program, ChecksFiles) {
+    file("a.cif", misspelt);
+    file("good.cif", "data_a\n_journal_volume 5\n");
+    file("bad.cif", "data_a\n_journal_volume 'x\n");
+    const std::string slip =
+        "a.cif:2:1: warning: tag-misspelt: data_a: a known tag is written like this one: "
+        "'_cell_lenght_a'; expected _cell_length_a [repair: _cell_lenght_a -> _cell_length_a]\n";
+    const std::string blanks =
+        "a.cif:3:26: note: blanks-doubled: data_a: _journal_name_full: more than one blank: '  ' "
+        "[repair: '  ' -> ' ']\n";
+    const struct {
+        const char* arguments;
+        int status;
+        std::string out;
+    } cases[] = {
+        {"good.cif", 0, ""},
+        {"a.cif good.cif", 1, slip},
+        {"--level note --jobs 2 good.cif a.cif", 1, slip + blanks},
+        {"--level error a.cif", 0, ""},
+        {"--only blanks-doubled,item-twice --level note a.cif", 1, blanks},
+        {"--ignore blanks-doubled --level note a.cif", 1, slip},
+        {"bad.cif a.cif", 2, "bad.cif:2:17: error: not-terminated: unterminated 'string'\n" + slip},
+        {"none.cif", 2, ""},
+        {"--only tag-mispelt a.cif", 2, ""},
+        {"--summary a.cif good.cif", 1,
+         "code             level  findings   repairs     files\n"
+         "tag-misspelt   warning         1         1         1\n"
+         "all                            1         1         2\n"},
+        {"--to json --only tag-misspelt good.cif", 0, "[\n]\n"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.arguments);
+        const Result done = run(std::string("check ") + c.arguments);
+        EXPECT_EQ(done.status, c.status) << done.err;
+        EXPECT_EQ(done.out, c.out);
+    }
+    EXPECT_THAT(run("check --to json a.cif").out,
+                AllOf(HasSubstr("\"column\": 1"), HasSubstr("\"offset\": 8"), EndsWith("}\n]\n")));
+    EXPECT_THAT(run("check --to sarif a.cif").out,
+                AllOf(HasSubstr("\"version\": \"2.1.0\""), HasSubstr("\"uri\": \"a.cif\""),
+                      HasSubstr("\"endColumn\": 15"), EndsWith("]}]}\n")));
+    EXPECT_EQ(contents(CHECKS), run("manual --checks").out);
+    EXPECT_THAT(run("check --codes").out, StartsWith("not-cif\terror\t"));
+}
+
+TEST_F(Program, RepairsFilesInPlace) {
+    file("a.cif", misspelt);
+    const Result done =
+        run("check --fix --level note --only tag-misspelt,blanks-doubled --backup a.cif");
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.out, "");
+    EXPECT_EQ(done.err, "lmrtext: a.cif: 2 repairs\n");
+    EXPECT_EQ(contents(folder_ / "a.cif"),
+              "data_a\r\n_cell_length_a 5 # one\r\n_journal_name_full 'Acta X'\r\n");
+    EXPECT_EQ(contents(folder_ / "a.cif~"), misspelt);
+    EXPECT_EQ(run("check --fix --only tag-misspelt -", misspelt).status, 2);
+}
