@@ -9,7 +9,7 @@
 std::optional<std::string> in_ascii(std::string_view character) {
     std::string codes = with_codes(CodedText(std::string(character)).unicode(), false);
     const bool is_coded = std::all_of(codes.begin(), codes.end(), [](char c) {
-        return static_cast<unsigned char>(c) < 0x80 && c != '&' && c != '<';
+        return static_cast<unsigned char>(c) < 0x80 && c != '&' && c != '<' && c != '>';
     });
     if (!is_coded) return std::nullopt;
     return codes;

@@ -19,7 +19,7 @@ TEST_F(Program, ChecksFiles) {
         "a.cif:2:1: warning: tag-misspelt: data_a: a known tag is written like this one: "
         "'_cell_lenght_a'; expected _cell_length_a [repair: _cell_lenght_a -> _cell_length_a]\n";
     const std::string blanks =
-        "a.cif:3:26: note: blanks-doubled: data_a: _journal_name_full: more than one blank: '  ' "
+        "a.cif:3:25: note: blanks-doubled: data_a: _journal_name_full: more than one blank: '  ' "
         "[repair: '  ' -> ' ']\n";
     const struct {
         const char* arguments;
@@ -32,7 +32,7 @@ TEST_F(Program, ChecksFiles) {
         {"--level error a.cif", 0, ""},
         {"--only blanks-doubled,item-twice --level note a.cif", 1, blanks},
         {"--ignore blanks-doubled --level note a.cif", 1, slip},
-        {"bad.cif a.cif", 2, "bad.cif:2:17: error: not-terminated: unterminated 'string'\n" + slip},
+        {"bad.cif a.cif", 2, "bad.cif:2:19: error: not-terminated: unterminated 'string'\n" + slip},
         {"none.cif", 2, ""},
         {"--only tag-mispelt a.cif", 2, ""},
         {"--summary a.cif good.cif", 1,
