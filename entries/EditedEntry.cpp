@@ -10,7 +10,7 @@
 EditedEntry::EditedEntry(const EntryReader& entries, std::size_t index, CifEdits& edits)
     : entries_(entries),
       index_(index),
-      block_(entries.document(), entries.block_of(index), entries.common_block_of(index), true),
+      block_(entries.document(), entries.block_of(index), entries.common_block_of(index), false),
       edits_(edits) {}
 
 std::string EditedEntry::shown(std::string_view label) const {

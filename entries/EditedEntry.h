@@ -14,11 +14,15 @@
 /// What the editing of a field needs of its entry, and the changes that come of it.
 class EditedEntry {
 public:
+    /// Of a value; none: "?".
     using Text = std::optional<std::string>;
 
+    /// Entry `index` of some, whose changes are added to `edits`; both must live on.
     EditedEntry(const EntryReader& entries, std::size_t index, CifEdits& edits);
 
+    /// Its values.
     BlockReader& block() { return block_; }
+    /// Whether its file is one of CIF 2.
     bool is_version_2() const { return entries_.document().is_version_2(); }
     /// The text that the entry has of a field. Reads all of it.
     std::string shown(std::string_view label) const;
@@ -33,8 +37,8 @@ public:
 
     /// What a list has to become: an old value, with another text or as it is, or a new one.
     struct Member {
-        std::optional<std::size_t> old{};
-        Text text{};
+        std::optional<std::size_t> old{};  ///< Which of the old ones.
+        Text text{};                       ///< None: it stays as it is.
     };
     /// All values that have a text, in the order of the tags.
     std::vector<BlockReader::Value> values(Tags tags);

@@ -13,6 +13,7 @@
 /// "[$0] to [$1]°" makes "2 to 27°" and "27°"; "$0$1|$0-$1" makes "5" of two that are "5".
 class FieldForm {
 public:
+    /// The texts of all parts; those that lack are empty.
     using Parts = std::vector<std::string>;
     /// Whether a text may be that of a part.
     using Fits = std::function<bool(std::size_t part, const std::string& text)>;

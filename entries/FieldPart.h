@@ -10,7 +10,7 @@
 
 /// A part of the text of a field that one item of a CIF file holds.
 struct FieldPart {
-    /// What stands there.
+    /// How a text is written.
     enum Kind {
         text,      ///< Any text, with its codes.
         name,      ///< Likewise, one that is broken over lines at its hyphens.
@@ -32,9 +32,10 @@ struct FieldPart {
 
     /// The items that hold it, as they are usually written, those to be preferred first.
     std::string_view names[4];
-    Kind kind = plain;
-    const char* unit = "";
+    Kind kind = plain;      ///< What stands there.
+    const char* unit = "";  ///< Shown behind numbers.
 
+    /// Those of its names that there are.
     Tags tags() const {
         std::size_t size = 0;
         while (size < std::size(names) && !names[size].empty()) ++size;

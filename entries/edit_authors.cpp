@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr std::size_t most_dots_of_surname = 4;
+
 /// "J. B." for "J.B.", "Y.-Z." stays.
 std::string spaced(std::string_view initials) {
     std::string text;
@@ -27,8 +29,10 @@ std::optional<std::string> name_of_file(const std::string& name) {
         const PersonName read = read_person_name(written);
         return !read.doubtful && read.text == name;
     };
-    for (std::size_t dot = name.rfind('.'); dot != std::string::npos && dot > 0;
-         dot = name.rfind('.', dot - 1)) {
+    std::size_t dots = 0;  // of surnames there are few: "A.St. John"
+    for (std::size_t dot = name.rfind('.');
+         dot != std::string::npos && dot > 0 && dots < most_dots_of_surname;
+         dot = name.rfind('.', dot - 1), ++dots) {
         const std::string initials = spaced(std::string_view(name).substr(0, dot + 1));
         std::string surname = one_line(std::string_view(name).substr(dot + 1));
         std::string written = surname + ", " + initials;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "entries/EditedEntry.h"
 #include "entries/cif_tags.h"
@@ -29,6 +30,8 @@ std::vector<Number> numbers(EditedEntry& entry) {
     return numbers;
 }
 
+bool is_deposition(std::string_view tag) { return tag.starts_with(cif_tags::deposition_prefix); }
+
 /// Takes a word and the blank behind it off a text.
 bool take(std::string_view& text, const std::string& word) {
     if (!text.starts_with(word + ' ')) return false;
@@ -36,98 +39,121 @@ bool take(std::string_view& text, const std::string& word) {
     return true;
 }
 
-}  // namespace
-
-void edit_cross_references(EditedEntry& entry, const FieldItems& /*field*/,
-                           const std::string& text) {
-    constexpr std::string_view of_names =
-        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-";
-    const std::string same = DatabaseCrossReference::cross_reference_type_text().text(
+std::string word_for_same_structure() {
+    return DatabaseCrossReference::cross_reference_type_text().text(
         DatabaseCrossReference::same_structure);
-    std::map<std::string, std::pair<std::string, std::string>> wanted;  // tags and numbers by tags
-    for (const std::string& reference : split_list(text, "; ", {})) {
-        std::string_view rest = reference;
-        if (!take(rest, same)) refuse("references like '" + same + " CSD ABCDEF'", reference);
-        const std::size_t blank = std::min(rest.find(' '), rest.size());
-        const std::string_view database = rest.substr(0, blank);
-        const std::string number = one_line(rest.substr(blank));
-        std::string tag(cif_tags::database_prefix);
-        tag += database;
-        const bool is_named = !database.empty() &&
-                              database.find_first_not_of(of_names) == std::string_view::npos &&
-                              !in_lower_case(tag).starts_with(cif_tags::deposition_prefix);
-        if (!is_named || number.empty()) {
-            refuse("references like '" + same + " CSD ABCDEF'", reference);
-        }
-        if (!wanted.try_emplace(in_lower_case(tag), tag, number).second) {
-            refuse("one reference to each database", reference);
-        }
-    }
-    const std::string own = entry.shown(LMRFieldNames::text(LMRFieldNames::identifier));
-    for (const Number& number : numbers(entry)) {
-        const auto found = wanted.find(number.tag);
-        const bool is_shown = !number.tag.starts_with(cif_tags::deposition_prefix) &&
-                              !number.text.empty() && number.text != own;
-        if (found == wanted.end() && !is_shown) continue;
-        const BlockReader::Value value{number.item, "", 0};
-        if (found == wanted.end()) {
-            entry.set(value, std::nullopt);
-        } else {
-            if (found->second.second != number.text) entry.set(value, found->second.second);
-            wanted.erase(found);
-        }
-    }
-    for (const auto& [lower, reference] : wanted) {
-        const std::string_view tag = reference.first;
-        entry.set(just(tag), reference.second);
-    }
 }
 
-void edit_depositions(EditedEntry& entry, const FieldItems& /*field*/, const std::string& text) {
-    constexpr std::string_view archive = "_database_code_depnum_ccdc_archive";
-    const auto word = [](DepositionInfo::DepositionType type) {
-        return DepositionInfo::deposition_type_text().text(type);
-    };
-    const std::string expected = "numbers like '" + word(DepositionInfo::supplementary) +
-                                 " 123456; " + word(DepositionInfo::journal) + " AB1234'";
+std::string word_for(DepositionInfo::DepositionType type) {
+    return DepositionInfo::deposition_type_text().text(type);
+}
+
+struct Reference {
+    std::string tag, number;
+};
+
+/// That of "Same structure CSD ABCDEF".
+Reference reference_of(const std::string& text) {
+    constexpr std::string_view of_names =
+        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-";
+    std::string_view rest = text;
+    const bool is_same = take(rest, word_for_same_structure());
+    const std::size_t blank = std::min(rest.find(' '), rest.size());
+    const std::string_view database = rest.substr(0, blank);
+    Reference reference{std::string(cif_tags::database_prefix), one_line(rest.substr(blank))};
+    reference.tag += database;
+    const bool is_named = !database.empty() && !is_deposition(in_lower_case(reference.tag)) &&
+                          database.find_first_not_of(of_names) == std::string_view::npos;
+    if (!is_same || !is_named || reference.number.empty()) {
+        refuse("references like '" + word_for_same_structure() + " CSD ABCDEF'", text);
+    }
+    return reference;
+}
+
+struct Depositions {
     std::vector<std::string> archived;
-    EditedEntry::Text of_journal;
+    EditedEntry::Text journal{};
+};
+
+/// Those of "Supplementary 123456; Journal AB1234".
+Depositions depositions_of(const std::string& text) {
+    const std::string archived = word_for(DepositionInfo::supplementary);
+    const std::string journal = word_for(DepositionInfo::journal);
+    Depositions depositions;
     for (const std::string& deposition : split_list(text, "; ", {})) {
         std::string_view rest = deposition;
-        if (take(rest, word(DepositionInfo::supplementary))) {
-            archived.emplace_back(rest);
-        } else if (!of_journal && take(rest, word(DepositionInfo::journal))) {
-            of_journal = std::string(rest);
+        if (take(rest, archived)) {
+            depositions.archived.emplace_back(rest);
+        } else if (!depositions.journal && take(rest, journal)) {
+            depositions.journal = std::string(rest);
         } else {
-            refuse(expected, deposition);
+            refuse("numbers like '" + archived + " 123456; " + journal + " AB1234'", deposition);
         }
     }
+    return depositions;
+}
+
+/// Makes the numbers of archives others; one may be added.
+void edit_archived(EditedEntry& entry, const std::vector<std::string>& wanted) {
+    constexpr std::string_view archive = "_database_code_depnum_ccdc_archive";
     std::vector<BlockReader::Value> old;
     std::vector<std::string> old_numbers;
+    bool has_archive = false;
     for (const Number& number : numbers(entry)) {
-        if (number.text.empty() || !number.tag.starts_with(cif_tags::deposition_prefix)) continue;
+        if (number.text.empty() || !is_deposition(number.tag)) continue;
         old.push_back({number.item, number.text, 0});
         old_numbers.push_back(number.text);
+        has_archive = has_archive || number.tag == archive;
     }
-    const std::vector<EditedEntry::Member> members = aligned(old_numbers, archived);
+    const std::vector<EditedEntry::Member> members = aligned(old_numbers, wanted);
+    const auto added = std::count_if(members.begin(), members.end(),
+                                     [](const EditedEntry::Member& one) { return !one.old; });
+    if (added > (has_archive ? 0 : 1)) {
+        throw FieldRefused("expected as many numbers of archives as there are items for them");
+    }
     std::vector<bool> is_kept(old.size());
-    std::size_t added = 0;
     for (const EditedEntry::Member& member : members) {
         if (member.old) is_kept[*member.old] = true;
-        if (!member.old) ++added;
-    }
-    const CifItem* const item = entry.block().item(archive);
-    const bool has_archive = item && item->has_text();
-    if (added > (has_archive ? 0 : 1)) {
-        refuse("as many numbers of archives as there are", text);
-    }
-    for (const EditedEntry::Member& member : members) {
         if (member.old && member.text) entry.set(old[*member.old], member.text);
         if (!member.old) entry.set(just(archive), member.text);
     }
     for (std::size_t i = 0; i < old.size(); ++i) {
         if (!is_kept[i]) entry.set(old[i], std::nullopt);
     }
-    const std::string old_code = entry.block().first_text(just(cif_tags::editor_code));
-    if (of_journal.value_or("") != old_code) entry.set(just(cif_tags::editor_code), of_journal);
+}
+
+}  // namespace
+
+void edit_cross_references(EditedEntry& entry, const FieldItems& /*field*/,
+                           const std::string& text) {
+    std::map<std::string, Reference> wanted;  // by tags in lower case
+    for (const std::string& one : split_list(text, "; ", {})) {
+        Reference reference = reference_of(one);
+        const std::string tag = in_lower_case(reference.tag);
+        if (!wanted.try_emplace(tag, std::move(reference)).second) {
+            refuse("one reference to each database", one);
+        }
+    }
+    const std::string own = entry.shown(LMRFieldNames::text(LMRFieldNames::identifier));
+    for (const Number& number : numbers(entry)) {
+        const BlockReader::Value value{number.item, "", 0};
+        const auto found = wanted.find(number.tag);
+        if (found != wanted.end()) {
+            if (found->second.number != number.text) entry.set(value, found->second.number);
+            wanted.erase(found);
+        } else if (!is_deposition(number.tag) && !number.text.empty() && number.text != own) {
+            entry.set(value, std::nullopt);
+        }
+    }
+    for (const auto& [lower, reference] : wanted) {
+        const std::string_view tag = reference.tag;
+        entry.set(just(tag), reference.number);
+    }
+}
+
+void edit_depositions(EditedEntry& entry, const FieldItems& /*field*/, const std::string& text) {
+    const Depositions wanted = depositions_of(text);
+    edit_archived(entry, wanted.archived);
+    const std::string code = entry.block().first_text(just(cif_tags::editor_code));
+    if (wanted.journal.value_or("") != code) entry.set(just(cif_tags::editor_code), wanted.journal);
 }

@@ -33,6 +33,13 @@ const std::vector<Row>& special_fields() {
     return rows;
 }
 
+std::string trimmed(const std::string& text) {
+    constexpr char white_space[] = " \t\r\n";
+    const std::size_t first = text.find_first_not_of(white_space);
+    if (first == std::string::npos) return "";
+    return text.substr(first, text.find_last_not_of(white_space) - first + 1);
+}
+
 bool is_in_codes(const FieldPart& part) {
     return part.kind == FieldPart::text || part.kind == FieldPart::name;
 }
@@ -81,7 +88,7 @@ void edit_field(const EntryReader& entries, std::size_t index, std::string_view 
     const FieldItems* const field = items_of(label);
     if (!field) throw FieldRefused("is no field");
     EditedEntry entry(entries, index, edits);
-    const std::string wanted = one_line(text).empty() ? "" : text;
+    const std::string wanted = trimmed(text);
     static_cast<void>(written_value(wanted, CifQuoting::bare, {entry.is_version_2()}));
     const std::vector<Row>& rows = special_fields();
     const auto special = std::find_if(rows.begin(), rows.end(),

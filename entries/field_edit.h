@@ -24,7 +24,8 @@ FieldWriting field_writing(std::string_view label);
 
 /// Makes a field of entry `index` say `text`, which is in the codes of CIF text or in the field's
 /// own form, as show tells it; empty: nothing, "?" in the file. Only items whose part of the text
-/// is another are changed; what is missing is added. Throws FieldRefused and UnwritableText, and
-/// `edits` is then as it was.
+/// is another are changed; what is missing is added. Lists are changed row by row; authors may
+/// also stand between semicolons, as files write them: "Smith, John B.; Jones, A.". Throws
+/// FieldRefused and UnwritableText, and `edits` is then as it was.
 void edit_field(const EntryReader& entries, std::size_t index, std::string_view label,
                 const std::string& text, CifEdits& edits);

@@ -10,9 +10,9 @@
 
 /// Which items of a CIF file hold a field, and how its text is made of what they say.
 struct FieldItems {
-    std::string_view label;
-    std::span<const FieldPart> parts;
-    FieldForm form;  ///< Of the parts.
+    std::string_view label;            ///< Of the field.
+    std::span<const FieldPart> parts;  ///< Those that items hold.
+    FieldForm form;                    ///< Of the parts.
     /// Why the field cannot be written, as a clause; null: it can.
     const char* refusal;
 };

@@ -4,7 +4,8 @@
 
 #include "entries/BlockReader.h"
 
-/// A field beyond the catalogue, which a CIF file may tell of an entry besides; items_of() it.
+/// A field beyond the catalogue, which a CIF file may tell of an entry besides.
+/// items_of() tells of its items.
 struct FurtherField {
     const char* label;
     const char* source;      ///< The kind of its texts.
