@@ -34,13 +34,8 @@ std::optional<std::string> name_of_file(const std::string& name) {
          dot != std::string::npos && dot > 0 && dots < most_dots_of_surname;
          dot = name.rfind('.', dot - 1), ++dots) {
         const std::string initials = spaced(std::string_view(name).substr(0, dot + 1));
-        std::string surname = one_line(std::string_view(name).substr(dot + 1));
-        std::string written = surname + ", " + initials;
-        if (!surname.empty() && is_read(written)) return written;
-        const std::size_t blank = surname.rfind(' ');
-        if (blank == std::string::npos) continue;
-        // "Smith, J. Jr"
-        written = surname.substr(0, blank) + ", " + initials + surname.substr(blank);
+        std::string written(name, dot + 1);
+        written.append(", ").append(initials);
         if (is_read(written)) return written;
     }
     if (is_read(name)) return name;

@@ -79,6 +79,7 @@ struct Depositions {
 Depositions depositions_of(const std::string& text) {
     const std::string archived = word_for(DepositionInfo::supplementary);
     const std::string journal = word_for(DepositionInfo::journal);
+    const std::string example = "numbers like '" + archived + " 123456; " + journal + " AB1234'";
     Depositions depositions;
     for (const std::string& deposition : split_list(text, "; ", {})) {
         std::string_view rest = deposition;
@@ -87,7 +88,7 @@ Depositions depositions_of(const std::string& text) {
         } else if (!depositions.journal && take(rest, journal)) {
             depositions.journal = std::string(rest);
         } else {
-            refuse("numbers like '" + archived + " 123456; " + journal + " AB1234'", deposition);
+            refuse(example, deposition);
         }
     }
     return depositions;
