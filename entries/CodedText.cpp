@@ -4,6 +4,7 @@
 
 #include "markup/CifTextRichTextGenerator.h"
 #include "markup/TevoRichTextGenerator.h"
+#include "markup/TextItemToUnicodeGreek.h"
 #include "markup/UnicodeRichTextGenerator.h"
 
 namespace {
@@ -66,6 +67,31 @@ std::string CodedText::with_codes() const {
     if (is_ascii(finder_->text())) return finder_->text();
     CifTextRichTextGenerator generator;
     return item_.mark_up_text(generator);
+}
+
+std::string CodedText::in_utf8() const {
+    std::vector<GreekSlice> greek;
+    finder_->greek(greek);
+    std::vector<ReplacementTextSlice> codes;
+    finder_->replacement_text(codes);
+    const TextItemToUnicodeGreek letters;
+    for (const GreekSlice& letter : greek) {
+        codes.emplace_back(letter.from(), letter.to(), letters.convert(letter.symbol()));
+    }
+    std::sort(codes.begin(), codes.end(),
+              [](const auto& a, const auto& b) { return a.from() < b.from(); });
+    const std::string_view text = finder_->text();
+    std::string result;
+    unsigned int end = 0;
+    for (const ReplacementTextSlice& code : codes) {
+        const std::string character = code.text();
+        if (code.from() < end || is_ascii(character)) continue;
+        result.append(text, end, code.from() - end).append(character);
+        end = code.to();
+    }
+    result += text.substr(end);
+    // What stands beside a code may mean something else beside its character.
+    return CodedText(result).unicode() == unicode() ? result : std::string(text);
 }
 
 std::string with_codes(const std::string& text, bool is_version_2) {

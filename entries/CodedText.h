@@ -25,6 +25,8 @@ public:
     std::string tevo() const;
     /// With codes for what is beyond ASCII, as far as there are any.
     std::string with_codes() const;
+    /// With the characters of UTF-8 for their codes, of which those of styles and ASCII stay.
+    std::string in_utf8() const;
 
     /// Appends a warning for each doubt about a code, with its column in the text, up to ten and
     /// the number of the others.

@@ -3,6 +3,7 @@
 #include <string_view>
 #include <utility>
 
+#include "entries/CodedText.h"
 #include "entries/field_edit.h"
 #include "markup/RichTextTarget.h"
 #include "tasks/EntryFields.h"
@@ -78,7 +79,9 @@ std::string EntryEditor::in_field(std::size_t index, const Field& field, const s
     if (from->note_doubts) from->note_doubts(*finder, notes);
     Losses(target).note_styles(item, notes);
     add(index, field, std::move(notes));
-    return item.mark_up_text(*target.make_generator());
+    std::string coded = item.mark_up_text(*target.make_generator());
+    // Files of CIF 2 hold what others have codes for.
+    return entries_.document().is_version_2() ? CodedText(coded).in_utf8() : coded;
 }
 
 void EntryEditor::edit(std::size_t index, const Field& field, const std::string& text) {

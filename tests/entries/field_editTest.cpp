@@ -216,3 +216,8 @@ TEST(field_edit, KeepsTheRowsOfAuthors) {
                     testing::HasSubstr(std::string("_address\n") + c.rows + "data_a"));
     }
 }
+
+TEST(CodedText, IsSaidInUtf8) {
+    EXPECT_EQ(CodedText("\\a-H~2~O <i>x</i> \\'e \\\\times y &lt; 1 \\%").in_utf8(),
+              "\u03B1-H~2~O <i>x</i> \u00E9 \u00D7 y &lt; 1 \u00B0");
+}
