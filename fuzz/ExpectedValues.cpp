@@ -27,3 +27,20 @@ std::string complaint_of_values(const CifReading& after, const ExpectedValues& e
     }
     return {};
 }
+
+std::string complaint_of_texts(const CifDocument& document, const CifReading& reading) {
+    std::size_t seen = 0;
+    for (std::size_t block = 0; block < document.blocks(); ++block) {
+        for (const CifItem* const item : document.items(block)) {
+            const CifReading::Item& other = reading.items[seen++];
+            for (std::size_t row = 0; row < item->size(); ++row) {
+                const CifValue value = (*item)[row];
+                const auto text = reading.text(other.first + row * other.stride);
+                if (value.is_none() != !text || value.content() != text.value_or("")) {
+                    return value.content() + " is the content of " + std::string(value.raw);
+                }
+            }
+        }
+    }
+    return {};
+}

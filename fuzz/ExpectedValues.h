@@ -17,3 +17,6 @@ ExpectedValues as_they_are(const CifReading& reading);
 
 /// What is read otherwise; empty where nothing is.
 std::string complaint_of_values(const CifReading& after, const ExpectedValues& expected);
+
+/// The text that our reader finds other than what is read; the document has the same items.
+std::string complaint_of_texts(const CifDocument& document, const CifReading& reading);
