@@ -33,7 +33,8 @@ const char* const bodies[] = {
     "2 # 16\n 3 4\n# 17\n5\n#18\n;six\n; #19\n#20\n7 8\n#\n_c_last\n# 21\n;\n# no comment\n;#22\n",
     // Loops in every shape.
     "data_shapes\nloop_\n_s_a _s_b\n_s_c\n1 2 3 4\n5\n6\n\n7 8\n9 10 11 12\nloop_ _s_one 1 2 3\n"
-    "  4\nloop_\n_s_single\n x\nloop_\n_s_row _s_col 1 2\nloop_ _s_none\n_s_nothing\nloop_\n"
+    "  4\nloop_\n_s_single\n x\nloop_\n_s_row _s_col 1 2\nloop_ _s_none # "
+    "_no_tag\n_s_nothing\nloop_\n"
     "_s_x\n_s_y\n  a   'b c'\n  dd  e\n  ?   .\n_s_pair 1 _s_other 2\nloop_\n\t_s_tab\n\t_s_two\n"
     "\t1\t2\n\t3\t4",
     // Blocks, save frames, an empty block, an item twice, keywords in capitals.

@@ -113,6 +113,14 @@ std::string set_rows(EditTrial& trial, Random& random) {
 
 std::string add(EditTrial& trial, Random& random) { return trial.add(random_item(trial, random)); }
 
+std::string edit_all(EditTrial& trial, Random& random) {
+    const std::size_t item = random() % trial.items();
+    const std::vector<EditTrial::Change> changes = random_changes(trial, random);
+    const std::vector<EditTrial::Row> rows = random_rows(trial, item, random);
+    return trial.all_at_once(changes, item, rows,
+                             {random_item(trial, random), random_item(trial, random)});
+}
+
 /// Tries one way to edit on all files in turn.
 void expect_no_complaints(std::string (*edit)(EditTrial&, Random&), unsigned int times) {
     std::vector<EditTrial> trials;
@@ -141,4 +149,6 @@ TEST(EditTrial, SetsValuesAndNothingElse) { expect_no_complaints(set_values, cas
 
 TEST(EditTrial, SetsRowsAndNothingElse) { expect_no_complaints(set_rows, cases / 4); }
 
-TEST(EditTrial, AddsItemsAndNothingElse) { expect_no_complaints(add, cases / 4); }
+TEST(EditTrial, AddsItemsAndNothingElse) { expect_no_complaints(add, cases / 8); }
+
+TEST(EditTrial, DoesAllAtOnce) { expect_no_complaints(edit_all, cases / 8); }
