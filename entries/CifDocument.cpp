@@ -94,6 +94,10 @@ void take_frame(Builder& builder, std::string_view /*name*/) { builder.in_frame 
 void take_frame_end(Builder& builder, std::string_view /*text*/) { builder.in_frame = false; }
 void take_tag(Builder& builder, std::string_view tag) { builder.tag = tag; }
 void take_value(Builder& builder, std::string_view value) { builder.add_pair(value); }
+/// Where it could stand: behind its tag.
+void take_missing(Builder& builder, std::string_view /*nothing*/) {
+    builder.add_pair(builder.tag.substr(builder.tag.size()));
+}
 void take_loop(Builder& builder, std::string_view text) { builder.begin_loop(text.data()); }
 void take_loop_tag(Builder& builder, std::string_view tag) { builder.tags.push_back(tag); }
 void take_loop_value(Builder& builder, std::string_view value) { builder.add_value(value); }
@@ -105,7 +109,7 @@ template <> struct Action<cif_rules::frame_name> : Taken<take_frame> {};
 template <> struct Action<cif_rules::frame_end> : Taken<take_frame_end> {};
 template <> struct Action<cif_rules::item_tag> : Taken<take_tag> {};
 template <> struct Action<cif_rules::item_value> : Taken<take_value> {};
-template <> struct Action<cif_rules::missing_value> : Taken<take_value> {};
+template <> struct Action<cif_rules::missing_value> : Taken<take_missing> {};
 template <> struct Action<cif_rules::cif::str_loop> : Taken<take_loop> {};
 template <> struct Action<cif_rules::loop_tag> : Taken<take_loop_tag> {};
 template <> struct Action<cif_rules::loop_value> : Taken<take_loop_value> {};

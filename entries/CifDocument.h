@@ -30,7 +30,7 @@ enum class CifQuoting { bare, single_quotes, double_quotes, triple_quotes, text_
 
 /// One value as it stands in the bytes of a document.
 struct CifValue {
-    std::string_view raw;  ///< Quotes included; empty for a tag without a value.
+    std::string_view raw;  ///< Quotes included; empty, behind the tag, for one without a value.
 
     CifQuoting quoting() const;
     /// What stands between the quotes, with lines that end with "\n"; nothing for "?" and ".", in

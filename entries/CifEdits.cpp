@@ -33,7 +33,7 @@ const CifItem* neighbour_of(std::string_view tag, const CifBlock::Items& items) 
     const CifItem* found = nullptr;
     std::size_t most = 0;
     for (const CifItem* item : items) {
-        if (item->size() == 0 || (*item)[item->size() - 1].raw.empty()) continue;
+        if (item->size() == 0) continue;
         const std::size_t common = common_words(tag, item->tag());
         if (found && common < most) continue;
         found = item;
@@ -103,7 +103,8 @@ void CifEdits::set(const CifItem& item, std::size_t row, const std::optional<std
     }
     std::string written =
         text ? written_value(*text, value.quoting(), bytes_.place_of(value.raw)) : "?";
-    if (value.raw.empty()) written += bytes_.line_end();  // it was missing before the next line
+    const bool touches_tag = value.raw.empty() && !CifBytes::is_line_end(written.front());
+    if (touches_tag) written = std::string(1, ' ').append(written);
     if (bytes_.touches_comment(bytes_.end_of(value.raw))) written += ' ';
     values_[key] = std::move(written);
 }
@@ -175,6 +176,14 @@ void CifEdits::add(std::size_t block, std::string_view tag, const std::vector<st
     keep({0, block, in_lower_case(tag), std::move(written)}, neighbour);
 }
 
+/// The last column of a loop, which may have no rows.
+const CifItem& CifEdits::last_column(const CifItem& item) const {
+    const CifBlock::Items items = document_.items(document_.block_at(item.origin()));
+    return **std::find_if(items.begin(), items.end(), [&item](const CifItem* other) {
+        return other->origin() == item.origin() && other->column() + 1 == item.columns();
+    });
+}
+
 void CifEdits::set_rows(const CifItem& item, std::vector<CifRow> rows) {
     if (rows.empty()) rows.emplace_back();
     const CifBytes::Values before = values_;
@@ -192,7 +201,8 @@ void CifEdits::set_rows(const CifItem& item, std::vector<CifRow> rows) {
         if (is_one_value) {
             loops_.erase(item.origin());
         } else {
-            loops_[item.origin()] = {&item, std::move(rows)};
+            const bool is_empty = item.size() == 0;  // rows go behind its tags then
+            loops_[item.origin()] = {is_empty ? &last_column(item) : &item, std::move(rows)};
         }
     } catch (...) {
         values_ = before;

@@ -57,6 +57,7 @@ private:
     };
     Neighbour neighbour_of_new(std::size_t block, std::string_view tag) const;
     void keep(Addition added, const Neighbour& item);
+    const CifItem& last_column(const CifItem& item) const;
 
     const CifDocument& document_;
     CifBytes bytes_;

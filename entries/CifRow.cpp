@@ -86,16 +86,6 @@ private:
     std::vector<std::string> rows_;
 };
 
-/// Where the tags of a loop end that has no rows.
-std::size_t end_of_tags(const CifItem& item, const CifBytes& bytes) {
-    const std::string_view all = bytes.all();
-    std::size_t at = bytes.end_of(item.tag());
-    for (std::size_t column = item.column() + 1; column < item.columns(); ++column) {
-        at = all.find_first_of(" \t\r\n", all.find("_", at));
-    }
-    return std::min(at, all.size());
-}
-
 }  // namespace
 
 std::string new_row(const CifItem& item, const CifRow& row, const CifBytes& bytes,
@@ -157,7 +147,7 @@ void append_rows(const CifItem& item, const std::vector<CifRow>& rows, const Cif
         fates[0] = Fate::kept;
         added.append_behind(old.behind(0), old.indent(0), splices);
     } else {
-        added.append_behind(bytes.behind_comment(end_of_tags(item, bytes)), indent, splices);
+        added.append_behind(bytes.behind_comment(bytes.end_of(item.tag())), indent, splices);
     }
     std::size_t next = none;
     for (std::size_t row = item.size(); row-- > 0;) {
@@ -193,7 +183,6 @@ void append_new_loop(const CifItem& item, const std::vector<CifRow>& rows, const
         text += row;
     }
     if (replaced != values.end()) values.erase(replaced);
-    if (raw.empty()) text += bytes.line_end();  // it was missing before the next line
     if (bytes.touches_comment(end)) text += ' ';
     splices.push_back({begin, std::string(bytes.all().substr(begin, end - begin)), text});
 }

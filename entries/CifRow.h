@@ -22,9 +22,9 @@ struct CifRow {
 std::string new_row(const CifItem& item, const CifRow& row, const CifBytes& bytes,
                     std::size_t indent);
 
-/// Appends what makes these the rows of the loop of an item: as many as possible stay where they
-/// are, others are moved with the comment behind them. Of `values`, those of rows that stay stay,
-/// and others are taken. Comments stay.
+/// Appends what makes these the rows of the loop of an item, the last one where it has no rows: as
+/// many as possible stay where they are, others are moved with the comment behind them. Of
+/// `values`, those of rows that stay stay, and others are taken. Comments stay.
 void append_rows(const CifItem& item, const std::vector<CifRow>& rows, const CifBytes& bytes,
                  CifBytes::Values& values, Splices& splices);
 

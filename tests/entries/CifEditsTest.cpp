@@ -61,7 +61,7 @@ TEST(CifEdits, WriteAValueInTheSimplestWayThatHoldsIt) {
         {"data_a\n_x\n;o\n;\n", "\\\na\\ \nb\\", "data_a\n_x\n;\\\n\\\\\n\na\\ \\\n\nb\\\\\n\n;\n"},
         {"#\\#CIF_2.0\ndata_a _x 'o'", "it's", "#\\#CIF_2.0\ndata_a _x it's"},
         {"#\\#CIF_2.0\ndata_a _x 'o'", "a\n;b", "#\\#CIF_2.0\ndata_a _x '''a\n;b'''"},
-        {"data_a\n_x\n_y 1\n", "new", "data_a\n_x\nnew\n_y 1\n"},
+        {"data_a\n_x\n_y 1\n", "new", "data_a\n_x new\n_y 1\n"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.text);
