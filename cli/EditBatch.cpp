@@ -62,6 +62,9 @@ void EditBatch::edit(const Place& place, std::size_t number, Edited& done) const
     if (std::any_of(done.problems.begin(), done.problems.end(), is_error)) return;
     session.apply(change.splices);
     if (!session.is_changed()) return;
+    if (change.is_lasting && !edit_(number, session.entries()).splices.empty()) {
+        throw InputError(place.path + ": edits of it contradict each other");
+    }
     done.bytes = session.bytes();
     done.splices = std::move(change.splices);
 }

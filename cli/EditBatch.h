@@ -16,6 +16,9 @@
 struct FileChange {
     Splices splices;
     std::vector<Problem> problems;
+    /// Whether the same edits change nothing more where they have been made, unless one undoes what
+    /// another did.
+    bool is_lasting = false;
 };
 
 /// Changes the entries of place number `place`, several of different places at the same time.

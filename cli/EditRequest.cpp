@@ -88,6 +88,7 @@ FileChange EditRequest::change_of(std::size_t place, const EntryReader& entries)
     FileChange change;
     EntryChoice choice(entries, change.problems);
     if (!edits.empty()) {
+        change.is_lasting = true;
         std::map<std::string, std::size_t> times;
         for (const EntryEdit& edit : edits[place]) ++times[edit.block];
         for (const EntryEdit& edit : edits[place]) {
