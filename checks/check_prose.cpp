@@ -146,22 +146,34 @@ private:
         finding.repair = splice_of(document_, {place, reference.size()}, codes);
     }
 
-    /// Blanks at the beginnings of lines, and those of lists, are no fault.
+    /// All of them at once. Those at the beginnings of lines and of quoted texts are no fault.
     void note_blanks() {
         const std::string_view raw = value_.raw;
+        std::size_t first = std::string_view::npos, last = 0;
+        std::string repaired;
         for (std::size_t at = raw.find("  "); at != std::string_view::npos;
              at = raw.find("  ", at)) {
             const std::size_t end = std::min(raw.find_first_not_of(' ', at), raw.size());
-            const bool is_inside = at > 1 && end < raw.size() && !is_line_end(raw[at - 1]) &&
-                                   !is_line_end(raw[end]) && raw[at - 1] != ';';
-            if (is_inside) {
-                const std::string_view blanks = raw.substr(at, end - at);
-                CheckFinding& finding = add("blanks-doubled", blanks.data(), std::string(blanks));
-                finding.repair = splice_of(document_, blanks, " ");
-                return;
+            if (is_inside(at, end)) {
+                if (first == std::string_view::npos) first = last = at;
+                repaired.append(raw.substr(last, at - last)).append(" ");
+                last = end;
             }
             at = end;
         }
+        if (first == std::string_view::npos) return;
+        const std::string_view blanks = raw.substr(first, last - first);
+        const std::size_t size = blanks.find_first_not_of(' ');
+        CheckFinding& finding =
+            add("blanks-doubled", blanks.data(), std::string(blanks.substr(0, size)));
+        finding.repair = splice_of(document_, blanks, std::move(repaired));
+    }
+
+    /// Whether text stands before and behind the blanks, in their line.
+    bool is_inside(std::size_t from, std::size_t to) const {
+        const std::string_view raw = value_.raw;
+        return from > 1 && to < raw.size() && !is_line_end(raw[from - 1]) && raw[from - 1] != ';' &&
+               !is_line_end(raw[to]);
     }
 
     static bool is_line_end(char c) { return c == '\n' || c == '\r' || c == '\'' || c == '"'; }

@@ -17,7 +17,7 @@ namespace {
 
 /// Repairs the bytes of a file and checks what they have become: a repair may have hidden another.
 void repair(const EntryFile& file, const WantedChecks& wanted, CheckedFile& checked) {
-    constexpr int most_rounds = 20;
+    constexpr int most_rounds = 10;
     std::string bytes = file.bytes();
     for (int round = 0; round < most_rounds; ++round) {
         const Splices repairs = repairs_of(checked.findings);
