@@ -8,25 +8,6 @@
 #include "fuzz/ExpectedValues.h"
 #include "fuzz/writable_text.h"
 
-namespace {
-
-std::vector<std::string> in_order(std::vector<std::string> comments) {
-    std::sort(comments.begin(), comments.end());
-    return comments;
-}
-
-std::string quoted(const Splices& splices) {
-    std::string text;
-    for (const Splice& splice : splices) {
-        const std::string at = std::to_string(splice.from);
-        text.append("\n at ").append(at).append(" <").append(splice.before);
-        text.append("> becomes <").append(splice.after).append(">");
-    }
-    return text;
-}
-
-}  // namespace
-
 EditTrial::EditTrial(std::string cif) : session_(std::move(cif)) {
     try {
         before_ = read_cif_tokens(session_.bytes());
@@ -209,7 +190,7 @@ std::string EditTrial::set_rows(std::size_t number, const std::vector<Row>& rows
             after.outline.erase(place.first);
         }
         if (after.outline != before_.outline) return "other tags";
-        if (in_order(after.comments) != in_order(before_.comments)) return "other comments";
+        if (!same_in_any_order(after.comments, before_.comments)) return "other comments";
         return complaint_of_values(after, expected);
     });
     return complaint.empty() ? complaint : complaint + plan;
@@ -244,7 +225,7 @@ std::string EditTrial::all_at_once(const std::vector<Change>& changes, std::size
         undo_all();
         return applied(splices, [&](const CifReading& after) -> std::string {
             if (after.outline != expected.outline) return "other tags";
-            if (in_order(after.comments) != in_order(expected.comments)) return "other comments";
+            if (!same_in_any_order(after.comments, expected.comments)) return "other comments";
             ExpectedValues texts;
             for (std::size_t i = 0; i < expected.values.size(); ++i) {
                 texts.push_back({std::nullopt, expected.text(i)});

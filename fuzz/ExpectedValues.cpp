@@ -1,5 +1,7 @@
 #include "fuzz/ExpectedValues.h"
 
+#include <algorithm>
+
 #include "fuzz/writable_text.h"
 
 ExpectedValues as_they_are(const CifReading& reading) {
@@ -43,4 +45,20 @@ std::string complaint_of_texts(const CifDocument& document, const CifReading& re
         }
     }
     return {};
+}
+
+std::string quoted(const Splices& splices) {
+    std::string text;
+    for (const Splice& splice : splices) {
+        const std::string at = std::to_string(splice.from);
+        text.append("\n at ").append(at).append(" <").append(splice.before);
+        text.append("> becomes <").append(splice.after).append(">");
+    }
+    return text;
+}
+
+bool same_in_any_order(std::vector<std::string> a, std::vector<std::string> b) {
+    std::sort(a.begin(), a.end());
+    std::sort(b.begin(), b.end());
+    return a == b;
 }

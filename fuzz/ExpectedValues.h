@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "entries/Splice.h"
 #include "fuzz/CifReading.h"
 
 /// A value that an edit must leave as it stands, or give a text or none.
@@ -20,3 +21,8 @@ std::string complaint_of_values(const CifReading& after, const ExpectedValues& e
 
 /// The text that our reader finds other than what is read; the document has the same items.
 std::string complaint_of_texts(const CifDocument& document, const CifReading& reading);
+
+/// What splices do, for complaints.
+std::string quoted(const Splices& splices);
+
+bool same_in_any_order(std::vector<std::string> a, std::vector<std::string> b);
