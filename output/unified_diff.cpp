@@ -1,7 +1,9 @@
 #include "output/unified_diff.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "markup/internal/controls.h"

@@ -9,14 +9,14 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr const char *file = "file", *block = "block", *fields_of_entry = "fields",
-                     *label = "label", *text = "text";
+constexpr const char *file_key = "file", *block_key = "block", *fields_key = "fields",
+                     *label_key = "label", *text_key = "text";
 
 /// Drops what does not count while it is read: it may be much.
 bool counts(int /*depth*/, Json::parse_event_t event, Json& parsed) {
     if (event != Json::parse_event_t::key) return true;
     const auto is_key = [&](const char* key) { return parsed == key; };
-    const auto keys = {file, block, fields_of_entry, label, text};
+    const auto keys = {file_key, block_key, fields_key, label_key, text_key};
     return std::any_of(keys.begin(), keys.end(), is_key);
 }
 
@@ -54,10 +54,10 @@ const std::string& text_in(const Json& object, const char* key, std::size_t entr
 }
 
 EntryEdit::FieldText field_text(const Json& json, std::size_t entry) {
-    const Field& field = field_named(text_in(json, label, entry));
-    const auto found = json.find(text);
+    const Field& field = field_named(text_in(json, label_key, entry));
+    const auto found = json.find(text_key);
     if (found != json.end() && found->is_null()) return {&field, ""};
-    return {&field, text_in(json, text, entry)};
+    return {&field, text_in(json, text_key, entry)};
 }
 
 }  // namespace
@@ -69,9 +69,9 @@ std::vector<EntryEdit> edits_in_json(std::string_view json) {
     edits.reserve(entries.size());
     for (std::size_t i = 0; i < entries.size(); ++i) {
         EntryEdit& edit = edits.emplace_back();
-        edit.file = text_in(entries[i], file, i);
-        edit.block = text_in(entries[i], block, i);
-        const auto fields = entries[i].find(fields_of_entry);
+        edit.file = text_in(entries[i], file_key, i);
+        edit.block = text_in(entries[i], block_key, i);
+        const auto fields = entries[i].find(fields_key);
         if (fields == entries[i].end() || !fields->is_array()) {
             refuse(i, "an array for \"fields\"");
         }
