@@ -108,7 +108,7 @@ void check_atoms(CheckedEntry& entry) {
         if (!number) number = multiple(others, sum);
         if (number) {
             // Without a certain group it is not known how many the operations should be.
-            if (!entry.entry().entry->crystal_info->z_prime) return;
+            if (entry.entry().entry->crystal_info->z_prime == 0) return;
             entry.add("atoms-multiple", entry.first(cif_tags::z),
                       short_number(z->value * *number) + " by the atoms");
             return;

@@ -44,8 +44,7 @@ private:
     }
 
     void note_missing_value(const CifItem& item) {
-        const char* const behind = item.tag().data() + item.tag().size();
-        add("value-missing", item).repair = splice_of(document_, {behind, 0}, " ?");
+        add("value-missing", item).repair = splice_of(document_, item[0].raw, " ?");
     }
 
     void check_tag(const CifBlock& block, const CifItem& item) {

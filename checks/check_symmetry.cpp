@@ -120,10 +120,10 @@ void ShapedCell::check(CheckedEntry& entry, const std::string& whose) const {
         const CheckedEntry::Value angle = entry.first(cif_tags::cell[3 + i]);
         if (!angle) continue;
         if (!has_angle(i)) {
-            const std::string expected = shape_.angles_are_equal
-                                             ? entry.first(cif_tags::cell[3]).text
-                                             : in_decimals(shape_.angles[i], 0);
-            entry.add("angle-against-symmetry", angle, expected + " degrees, " + whose);
+            std::string expected = shape_.angles_are_equal ? entry.first(cif_tags::cell[3]).text
+                                                           : in_decimals(shape_.angles[i], 0);
+            expected.append(" degrees, ").append(whose);
+            entry.add("angle-against-symmetry", angle, expected);
         } else if (shape_.angles[i] != 0 && angles_[i].uncertainty > 0) {
             entry.add("fixed-angle-uncertain", angle,
                       in_decimals(shape_.angles[i], 0) + " without an uncertainty, " + whose);

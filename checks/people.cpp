@@ -16,8 +16,7 @@ using Key = std::pair<std::string, std::size_t>;  // and the place in the list
 /// The surname such as it is with umlauts and without: "muller" of "Mueller".
 std::string key_of(const Author& author) {
     std::string key;
-    for (std::size_t i = 0; i < author.core.size(); ++i) {
-        const char c = author.core[i];
+    for (const char c : author.core) {
         const bool is_of_umlaut = c == 'e' && !key.empty() &&
                                   std::string_view("aou").find(key.back()) != std::string::npos;
         if (!is_of_umlaut) key += c;

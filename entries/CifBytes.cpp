@@ -23,10 +23,6 @@ CifBytes::CifBytes(const CifDocument& document)
       line_end_(first_line_end(all_)),
       is_version_2_(document.is_version_2()) {}
 
-std::size_t CifBytes::begin_of(std::string_view part) const {
-    return static_cast<std::size_t>(part.data() - all_.data());
-}
-
 /// Looks no further than lines may be long.
 ValuePlace CifBytes::place_of(std::string_view value) const {
     const std::size_t begin = begin_of(value);

@@ -19,16 +19,20 @@ public:
     /// The document must live on.
     explicit CifBytes(const CifDocument& document);
 
-    const std::string_view& all() const { return all_; }
+    std::string_view all() const { return all_; }
     /// As the lines end.
     std::string_view line_end() const { return line_end_; }
     bool is_version_2() const { return is_version_2_; }
 
     /// Where a part of the bytes begins and ends.
     /// @{
-    std::size_t begin_of(std::string_view part) const;
+    std::size_t begin_of(std::string_view part) const { return offset_of(part.data()); }
     std::size_t end_of(std::string_view part) const { return begin_of(part) + part.size(); }
     /// @}
+    /// How far a place is from the first byte.
+    std::size_t offset_of(const char* place) const {
+        return static_cast<std::size_t>(place - all_.data());
+    }
     ValuePlace place_of(std::string_view value) const;
     /// The blanks from which its line begins to a position, where there is nothing else.
     bool only_blanks_before(std::size_t at) const { return indent_before(at).data() != nullptr; }

@@ -111,7 +111,7 @@ void CifEdits::set(const CifItem& item, std::size_t row, const std::optional<std
 
 CifEdits::Neighbour CifEdits::neighbour_of_new(std::size_t block, std::string_view tag) const {
     const CifItem* const item = neighbour_of(tag, document_.items(block));
-    if (!item) return {bytes_.end_of({document_.end_of_heading(block), 0}), 0};
+    if (!item) return {bytes_.offset_of(document_.end_of_heading(block)), 0};
     return {end_of_item(*item, bytes_), common_words(tag, item->tag())};
 }
 

@@ -5,6 +5,7 @@
 
 #include "entries/cif_text.h"
 #include "entries/field_edit.h"
+#include "entries/kept_lines.h"
 #include "suppliers/FieldTextSupplier.h"
 
 EditedEntry::EditedEntry(const EntryReader& entries, std::size_t index, CifEdits& edits)
@@ -28,7 +29,9 @@ std::string EditedEntry::value_of(const FieldPart& part, const std::string& text
 }
 
 void EditedEntry::set(const BlockReader::Value& value, const Text& text) {
-    edits_.set(*value.item, value.row, text);
+    Text written = text;
+    if (text) written = in_kept_lines((*value.item)[value.row].content(), *text);
+    edits_.set(*value.item, value.row, written);
 }
 
 void EditedEntry::set(Tags tags, const Text& text) {

@@ -57,7 +57,10 @@ void edit_parts(EditedEntry& entry, const FieldItems& field, const std::string& 
     const FieldForm::Parts present = parts_of(entry.block(), field);
     const bool version_2 = entry.is_version_2();
     const auto fits = [&](std::size_t i, const std::string& part) {
-        return value_of(field.parts[i], part, version_2).has_value();
+        // Two pages, rather than one with a dash, unless it is there.
+        const bool is_range = field.parts[i].kind == FieldPart::page && part != present[i] &&
+                              part.find('-') != std::string::npos;
+        return !is_range && value_of(field.parts[i], part, version_2).has_value();
     };
     FieldForm::Parts wanted(present.size());
     if (!text.empty() && !field.form.match(text, present, fits, wanted)) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "entries/EditSession.h"
+#include "entries/kept_lines.h"
 
 namespace {
 
@@ -136,6 +137,24 @@ TEST(CifEdits, AddMoveAndRemoveRowsWithAllTheirColumns) {
     EXPECT_EQ(with_rows("data_a\n_n 'b' # c\n_z 1\n", {-1, 0}),
               "data_a\nloop_\n_n\n'new one'\n'b' # c\n_z 1\n");
     EXPECT_EQ(with_rows("data_a\nloop_\n_n\na\nb\nc", {0}), "data_a\nloop_\n_n\na");
+}
+
+TEST(KeptLines, StayWhereNothingOfThemChanges) {
+    const struct {
+        const char *old, *text, *expected;
+    } cases[] = {
+        {"\nfirst line\nsecond line\nthird\n", "first line second word third",
+         "\nfirst line\nsecond word\nthird\n"},
+        {"\nfirst line\n", "other", "\nother\n"},
+        {"4,4-di\nphenyl-\n2-one", "4,4-di phenyl-3-one", "4,4-di\nphenyl-\n3-one"},
+        {"a\nb", "a b c", "a\nb c"},
+        {"a\nb c", "a b", "a\nb"},
+        {"a\nb", "b", "b"},
+        {"a\n\xC3\xA9", "a \xC3\xA8", "a\n\xC3\xA8"},
+        {"a\n-b", "a -c", "a -c"},  // names are broken there
+        {"one line", "other", "other"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(in_kept_lines(c.old, c.text), c.expected) << c.text;
 }
 
 TEST(EditSession, UndoesAndDoesAgain) {
