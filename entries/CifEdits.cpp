@@ -55,19 +55,24 @@ struct ItemStyle {
     }
 };
 
-/// That of the last item before a place that stands in one line, else of the first behind it.
+/// That of the last item before a place that stands in one line, else of the first behind it; of
+/// those with more than a blank before their values, if there are any, since these align them.
 ItemStyle style_at(std::size_t place, const CifBlock::Items& items, const CifBytes& bytes) {
     ItemStyle style;
-    bool found = false;
+    bool found = false, found_aligned = false;
     for (const CifItem* item : items) {
         const std::size_t begin = bytes.begin_of(item->tag());
-        if (found && begin > place) break;
+        if (found_aligned && begin > place) break;
         if (item->in_loop() || !bytes.only_blanks_before(begin)) continue;
         const std::size_t end = bytes.end_of(item->tag());
         const std::size_t value = bytes.begin_of((*item)[0].raw);
         if (bytes.behind_blanks(end) != value || value == end) continue;
-        style = {bytes.indent_before(begin), bytes.all().substr(end, value - end), value - begin};
+        const bool is_aligned = value - end > 1;
+        if (found && !is_aligned && (found_aligned || begin > place)) continue;
+        style = {bytes.indent_before(begin), bytes.all().substr(end, value - end),
+                 is_aligned ? value - begin : 0};
         found = true;
+        found_aligned = is_aligned;
     }
     return style;
 }

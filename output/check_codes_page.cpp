@@ -50,8 +50,8 @@ std::string check_codes_page() {
     std::string page =
         "# What check finds\n\n"
         "Each fault has a code, by which `lmrtext check --only` and `--ignore` choose. Examples\n"
-        "are CIF files, or the items of a block of one; <E9> stands for a byte that is not UTF-8,\n"
-        "<U+0007> for a character that cannot be seen. This page is what\n"
+        "are CIF files, or the items of a block of one; `<E9>` stands for a byte that is not\n"
+        "UTF-8, `<U+0007>` for a character that cannot be seen. This page is what\n"
         "`lmrtext manual --checks` prints.\n";
     for (const CheckSubject& subject : check_subjects()) {
         if (subject.codes().empty()) continue;

@@ -100,6 +100,8 @@ TEST(CifEdits, AddItemsBehindTheirCategoryInItsStyle) {
               "data_a\n_cell_a    1 # x\n_cell_volume 3\n_z 2\n");
     EXPECT_EQ(added("data_a\n  _cell_length_a    1\n_z 2\n", "_cell_b", "3 4"),
               "data_a\n  _cell_length_a    1\n  _cell_b           '3 4'\n_z 2\n");
+    EXPECT_EQ(added("data_a\n_cell_length_a 1\n_z 2\n", "_cell_b", "3"),
+              "data_a\n_cell_length_a 1\n_cell_b 3\n_z 2\n");
     EXPECT_EQ(added("data_a\r\n_x\t1", "_y", "a\nb"), "data_a\r\n_x\t1\r\n_y\r\n;a\r\nb\r\n;");
     EXPECT_EQ(added("data_a # of\ndata_b _x 1", "_y", "2"), "data_a # of\n_y 2\ndata_b _x 1");
     EXPECT_EQ(added("data_a\nloop_\n_publ_author_name\n'A B' # c\n_z 1", "_publ_title", "t"),
