@@ -48,6 +48,11 @@ std::size_t CifBytes::behind_comment(std::size_t at) const {
     return ends_line(end) ? end : at;
 }
 
+std::string_view CifBytes::line_end_at(std::size_t at) const {
+    if (at == all_.size() || !is_line_end(all_[at])) return line_end_;
+    return all_.substr(at, behind_line_end(at) - at);
+}
+
 std::size_t CifBytes::behind_blanks(std::size_t at) const {
     return std::min(all_.find_first_not_of(blanks, at), all_.size());
 }

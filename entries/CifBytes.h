@@ -22,6 +22,8 @@ public:
     std::string_view all() const { return all_; }
     /// As the lines end.
     std::string_view line_end() const { return line_end_; }
+    /// As the line ends in which a position is, where that is its end.
+    std::string_view line_end_at(std::size_t at) const;
     bool is_version_2() const { return is_version_2_; }
 
     /// Where a part of the bytes begins and ends.

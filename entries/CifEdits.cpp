@@ -116,13 +116,14 @@ void CifEdits::set(const CifItem& item, std::size_t row, const std::optional<std
 
 CifEdits::Neighbour CifEdits::neighbour_of_new(std::size_t block, std::string_view tag) const {
     const CifItem* const item = neighbour_of(tag, document_.items(block));
-    if (!item) return {bytes_.offset_of(document_.end_of_heading(block)), 0};
-    return {end_of_item(*item, bytes_), common_words(tag, item->tag())};
+    const std::size_t end =
+        item ? end_of_item(*item, bytes_) : bytes_.offset_of(document_.end_of_heading(block));
+    return {bytes_.behind_comment(end), item ? common_words(tag, item->tag()) : 0};
 }
 
 /// Where it would be if the additions before it were in the file already.
 void CifEdits::keep(Addition added, const Neighbour& item) {
-    added.at = bytes_.behind_comment(item.end);
+    added.at = item.end;
     std::size_t common = item.words_in_common;
     std::size_t nearest = added.at;
     auto neighbour = additions_.end();
@@ -150,11 +151,12 @@ void CifEdits::keep(Addition added, const Neighbour& item) {
 
 void CifEdits::add(std::size_t block, std::string_view tag, const std::string& text) {
     const Neighbour neighbour = neighbour_of_new(block, tag);
+    const std::string_view line_end = bytes_.line_end_at(neighbour.end);
     const std::string line =
         style_at(neighbour.end, document_.items(block), bytes_).before_value(tag);
-    const std::string value = written_value(
-        text, CifQuoting::bare, {bytes_.is_version_2(), bytes_.line_end(), line.size(), 0});
-    std::string written(bytes_.line_end());
+    const std::string value =
+        written_value(text, CifQuoting::bare, {bytes_.is_version_2(), line_end, line.size(), 0});
+    std::string written(line_end);
     const bool in_next_line = CifBytes::is_line_end(value.front());
     written += in_next_line ? line.substr(0, line.find_last_not_of(" \t") + 1) : line;
     written += value;
@@ -164,18 +166,19 @@ void CifEdits::add(std::size_t block, std::string_view tag, const std::string& t
 void CifEdits::add(std::size_t block, std::string_view tag, const std::vector<std::string>& texts) {
     if (texts.size() == 1) return add(block, tag, texts.front());
     const Neighbour neighbour = neighbour_of_new(block, tag);
+    const std::string_view line_end = bytes_.line_end_at(neighbour.end);
     const std::string_view indent = style_at(neighbour.end, document_.items(block), bytes_).indent;
     std::string written;
-    const auto begin_line = [&] { written.append(bytes_.line_end()).append(indent); };
+    const auto begin_line = [&] { written.append(line_end).append(indent); };
     begin_line();
     written += "loop_";
     begin_line();
     written += tag;
     for (const std::string& text : texts) {
         const std::string value = written_value(
-            text, CifQuoting::bare, {bytes_.is_version_2(), bytes_.line_end(), indent.size(), 0});
+            text, CifQuoting::bare, {bytes_.is_version_2(), line_end, indent.size(), 0});
         if (value.front() != ';' && !CifBytes::is_line_end(value.front())) begin_line();
-        if (value.front() == ';') written += bytes_.line_end();
+        if (value.front() == ';') written += line_end;
         written += value;
     }
     keep({0, block, in_lower_case(tag), std::move(written)}, neighbour);

@@ -50,7 +50,7 @@ public:
     void append_behind(std::size_t at, std::string_view indent, Splices& splices) {
         std::string text;
         for (const std::string& row : rows_) {
-            text += bytes_.line_end();
+            text += bytes_.line_end_at(at);
             append(row, indent, text);
         }
         const bool goes_on = !bytes_.ends_line(bytes_.behind_blanks(at));

@@ -46,7 +46,9 @@ std::string in_kept_lines(std::string_view old, const std::string& text) {
     const std::vector<std::size_t> places = places_of(line, old);
     std::string result(old.substr(0, places[same]));
     result.append(text, same, text.size() - same_behind - same);
-    result += old.substr(places[line.size() - same_behind]);
+    const std::string_view rest = old.substr(places[line.size() - same_behind]);
+    const bool is_of_text = same_behind > 0 || rest.find('\n') != std::string_view::npos;
+    if (is_of_text) result += rest;  // and not a blank behind what is no more
     const bool is_read_so = one_line(result) == text && one_line(result, true) == text;
     return is_read_so ? result : text;
 }

@@ -141,7 +141,7 @@ std::size_t end_of_part(std::string_view line) {
 
 /// Appends a line in parts which a reader joins.
 void append_folded(std::string& field, std::string_view line, std::string_view line_end) {
-    for (std::size_t end; (end = end_of_part(line)) < line.size(); line.remove_prefix(end)) {
+    for (std::size_t end = 0; (end = end_of_part(line)) < line.size(); line.remove_prefix(end)) {
         field.append(line.substr(0, end)).append(1, fold).append(line_end);
     }
     field += line;

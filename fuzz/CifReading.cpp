@@ -38,7 +38,7 @@ public:
     }
     void begin_loop() {
         end_item();
-        reading_.outline.push_back("loop_");
+        reading_.outline.emplace_back("loop_");
         in_loop_ = true;
     }
     void add_tag(const std::string& tag) {
@@ -151,7 +151,7 @@ CifReading read_cif_tokens(std::string_view bytes) {
     CifTokens tokens(bytes, reading.is_version_2);
     CifReadingMaker maker(reading);
     std::string_view raw;
-    for (CifTokens::Kind kind; (kind = tokens.next(raw)) != CifTokens::end;) {
+    for (CifTokens::Kind kind{}; (kind = tokens.next(raw)) != CifTokens::end;) {
         if (kind == CifTokens::comment) reading.comments.emplace_back(raw);
         if (kind == CifTokens::word) add_word(std::string(raw), maker);
         if (kind == CifTokens::value) maker.add_value(std::string(raw));

@@ -66,7 +66,7 @@ std::string EditTrial::applied(const Splices& splices, const Check& check) {
 
 std::string EditTrial::same_texts() const {
     const CifDocument& document = session_.entries().document();
-    const std::string misread = complaint_of_texts(document, before_);
+    std::string misread = complaint_of_texts(document, before_);
     if (!misread.empty()) return misread;
     CifEdits all(document);
     for (std::size_t i = 0; i < items(); ++i) {

@@ -54,11 +54,11 @@ public:
         std::vector<std::pair<std::size_t, Text>> values;
     };
     /// Makes these the rows of the loop of an item; none make a row without texts.
-    std::string set_rows(std::size_t item, const std::vector<Row>& rows);
+    std::string set_rows(std::size_t number, const std::vector<Row>& rows);
 
     /// Does all in one go, which gives what one after the other does: values, rows of the loop of
     /// an item, items.
-    std::string all_at_once(const std::vector<Change>& changes, std::size_t item,
+    std::string all_at_once(const std::vector<Change>& changes, std::size_t number,
                             const std::vector<Row>& rows, const std::vector<Added>& added);
 
 private:

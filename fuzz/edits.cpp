@@ -23,7 +23,7 @@ std::string complaint_of_rows(EditTrial& trial, std::size_t number, Input& input
     const std::size_t item = number % trial.items();
     std::vector<EditTrial::Row> rows;
     for (std::size_t i = 0; i < trial.rows(item); ++i) rows.push_back({i, {}});
-    for (unsigned int command; (command = input.byte()) != 0;) {
+    for (unsigned int command = 0; (command = input.byte()) != 0;) {
         const std::size_t size = rows.size(), at = command / 4 % (size + 1);
         const auto place = rows.begin() + static_cast<std::ptrdiff_t>(at);
         if (command % 4 == 0) rows.insert(place, EditTrial::Row());

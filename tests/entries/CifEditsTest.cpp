@@ -102,6 +102,7 @@ TEST(CifEdits, AddItemsBehindTheirCategoryInItsStyle) {
               "data_a\n  _cell_length_a    1\n  _cell_b           '3 4'\n_z 2\n");
     EXPECT_EQ(added("data_a\n_cell_length_a 1\n_z 2\n", "_cell_b", "3"),
               "data_a\n_cell_length_a 1\n_cell_b 3\n_z 2\n");
+    EXPECT_EQ(added("data_a\n_x 1\r\n_z 2", "_x_y", "3"), "data_a\n_x 1\r\n_x_y 3\r\n_z 2");
     EXPECT_EQ(added("data_a\r\n_x\t1", "_y", "a\nb"), "data_a\r\n_x\t1\r\n_y\r\n;a\r\nb\r\n;");
     EXPECT_EQ(added("data_a # of\ndata_b _x 1", "_y", "2"), "data_a # of\n_y 2\ndata_b _x 1");
     EXPECT_EQ(added("data_a\nloop_\n_publ_author_name\n'A B' # c\n_z 1", "_publ_title", "t"),
@@ -152,6 +153,7 @@ TEST(KeptLines, StayWhereNothingOfThemChanges) {
         {"a\nb", "a b c", "a\nb c"},
         {"a\nb c", "a b", "a\nb"},
         {"a\nb", "b", "b"},
+        {"a\nb ", "a c", "a\nc"},
         {"a\n\xC3\xA9", "a \xC3\xA8", "a\n\xC3\xA8"},
         {"a\n-b", "a -c", "a -c"},  // names are broken there
         {"one line", "other", "other"},
