@@ -21,11 +21,17 @@ std::string EditedEntry::shown(std::string_view label) const {
     return id ? FieldTextSupplier(*id).text(entry.entry) : "";
 }
 
-std::string EditedEntry::value_of(const FieldPart& part, const std::string& text) const {
+std::string EditedEntry::value_of(const FieldPart& part, const std::string& text,
+                                  const FieldForm* form) const {
+    if (text == "?" || text == ".") {
+        throw FieldRefused("'" + text + "' stands for no text; an empty one takes it away");
+    }
     const std::optional<std::string> value = ::value_of(part, text, is_version_2());
-    const bool says_nothing = text == "?" || text == ".";
-    if (!value || says_nothing) refuse(expected_of(part), text);
-    return *value;
+    if (value) return *value;
+    std::string expected = expected_of(part);
+    const std::string outline = form ? form->outline() : "...";
+    if (outline != "...") expected.append(" in a text like '").append(outline).append("'");
+    refuse(expected, text);
 }
 
 void EditedEntry::set(const BlockReader::Value& value, const Text& text) {

@@ -27,8 +27,10 @@ public:
     /// The text that the entry has of a field. Reads all of it.
     std::string shown(std::string_view label) const;
 
-    /// What an item has to say for a part to be `text`. Throws FieldRefused where it cannot.
-    std::string value_of(const FieldPart& part, const std::string& text) const;
+    /// What an item has to say for a part to be `text`. Throws FieldRefused where it cannot, with
+    /// the form of a text of several parts.
+    std::string value_of(const FieldPart& part, const std::string& text,
+                         const FieldForm* form = nullptr) const;
     /// Replaces one value.
     void set(const BlockReader::Value& value, const Text& text);
     /// Replaces the first value of the first of the tags that has one, or gives one of the items a

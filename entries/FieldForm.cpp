@@ -190,13 +190,22 @@ bool FieldForm::match(std::string_view text, const Parts& present, const Fits& f
 }
 
 std::string FieldForm::outline() const {
-    std::string text;
-    std::string_view way = ways_.front();
-    while (!way.empty()) {
-        text += take_literal(way);
-        std::size_t part = 0;
-        if (take_part(way, part)) text += "...";
-        while (take_part(way, part)) continue;
+    std::string longest;
+    std::size_t most_places = 0;
+    for (std::string_view way : ways_) {
+        std::string text;
+        std::size_t places = 0;
+        while (!way.empty()) {
+            text += take_literal(way);
+            std::size_t part = 0;
+            if (!take_part(way, part)) continue;
+            text += "...";
+            ++places;
+            while (take_part(way, part)) continue;
+        }
+        if (places <= most_places) continue;
+        most_places = places;
+        longest = std::move(text);
     }
-    return text;
+    return longest;
 }

@@ -27,7 +27,7 @@ public:
     /// The parts of a text, empty where they lack; of several ways one whose parts fit, then that
     /// with most parts as in `present`, then the first. False where the text is not of the form.
     bool match(std::string_view text, const Parts& present, const Fits& fits, Parts& parts) const;
-    /// The first of its ways, with dots for the parts: "a ... b ... c ...".
+    /// The first of its ways with most places for parts, with dots there: "a ... b ... c ...".
     std::string outline() const;
 
 private:

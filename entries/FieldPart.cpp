@@ -1,9 +1,11 @@
 #include "entries/FieldPart.h"
 
 #include <algorithm>
+#include <cmath>
 #include <locale>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include "entries/cif_text.h"
 #include "entries/is_formula.h"
@@ -46,10 +48,14 @@ std::string list_of(BlockReader& block, Tags tags) {
 }
 
 /// The text without the unit behind a number or a range.
-std::string without_unit(const std::string& text, std::string_view unit) {
-    if (unit.empty() || !text.ends_with(unit)) return text;
-    std::string number = one_line(std::string_view(text).substr(0, text.size() - unit.size()));
-    return is_number_or_range(number) ? number : text;
+std::string without_unit(const std::string& text, const FieldPart& part) {
+    for (const std::string_view unit :
+         {std::string_view(part.unit), part.other_units[0], part.other_units[1]}) {
+        if (unit.empty() || !text.ends_with(unit)) continue;
+        std::string number = one_line(std::string_view(text).substr(0, text.size() - unit.size()));
+        if (is_number_or_range(number)) return number;
+    }
+    return text;
 }
 
 /// The fraction that so many per cent are, with as many places.
@@ -65,6 +71,20 @@ bool is_whole(const std::string& text) {
 }
 
 bool is_number(const std::string& text) { return read_number(text).has_value(); }
+
+bool is_number_of(const FieldPart& part, const std::string& text) {
+    const std::optional<UncertainValue> number = read_number(text);
+    return number && number->value > part.above && number->value < part.below;
+}
+
+/// "a number in K above 0".
+std::string expected_number(const FieldPart& part, std::string text) {
+    const std::string_view unit = *part.unit ? part.unit : part.other_units[0];
+    if (!unit.empty()) text.append(" in ").append(unit);
+    if (std::isfinite(part.above)) text.append(" above ").append(printed_text(part.above));
+    if (std::isfinite(part.below)) text.append(" and below ").append(printed_text(part.below));
+    return text;
+}
 
 std::optional<std::string> if_it(bool is_right, const std::string& text) {
     return is_right ? std::optional(text) : std::nullopt;
@@ -112,17 +132,17 @@ std::string normal_text(const FieldPart& part, const std::string& text) {
         const std::optional<Date> date = read_date(text);
         return date ? printed_text(*date) : text;
     }
+    std::string bare = without_unit(text, part);
     if (part.kind == FieldPart::printed) {
-        const std::optional<UncertainValue> number = read_number(text);
+        const std::optional<UncertainValue> number = read_number(bare);
         return number ? printed_text(*number) : text;
     }
-    if (*part.unit) return with_unit(without_unit(text, part.unit), part.unit);
-    return text;
+    return *part.unit ? with_unit(std::move(bare), part.unit) : bare;
 }
 
 std::optional<std::string> value_of(const FieldPart& part, const std::string& text,
                                     bool is_version_2) {
-    const std::string bare = without_unit(text, part.unit);
+    const std::string bare = without_unit(text, part);
     switch (part.kind) {
         case FieldPart::text:
         case FieldPart::name:
@@ -140,7 +160,7 @@ std::optional<std::string> value_of(const FieldPart& part, const std::string& te
         case FieldPart::number:
         case FieldPart::printed:
         case FieldPart::numbers:
-            return if_it(is_number(bare), bare);
+            return if_it(is_number_of(part, bare), bare);
         case FieldPart::range:
         case FieldPart::density:
             return if_it(is_number_or_range(bare), bare);
@@ -148,9 +168,9 @@ std::optional<std::string> value_of(const FieldPart& part, const std::string& te
             if (bare == text && (text[0] == '<' || text[0] == '>')) return std::nullopt;
             return with_codes(bare, is_version_2);
         case FieldPart::count:
-            return if_it(is_whole(text), text);
+            return if_it(is_whole(text) && is_number_of(part, text), text);
         case FieldPart::per_cent:
-            return fraction_of(text);
+            return fraction_of(bare);
         case FieldPart::date:
             return if_it(read_date(text).has_value(), normal_text(part, text));
         default:
@@ -159,7 +179,6 @@ std::optional<std::string> value_of(const FieldPart& part, const std::string& te
 }
 
 std::string expected_of(const FieldPart& part) {
-    std::string unit = *part.unit ? std::string(" in ").append(part.unit) : "";
     switch (part.kind) {
         case FieldPart::text:
         case FieldPart::name:
@@ -173,16 +192,16 @@ std::string expected_of(const FieldPart& part) {
             return "a formula like C12 H22 O11";
         case FieldPart::range:
         case FieldPart::density:
-            return "a number or a range of numbers" + unit;
+            return expected_number(part, "a number or a range of numbers");
         case FieldPart::quantity:
-            return "a text, or a number" + unit;
+            return expected_number(part, "a text, or a number");
         case FieldPart::count:
-            return "a whole number";
+            return expected_number(part, "a whole number");
         case FieldPart::per_cent:
             return "a number of per cent";
         case FieldPart::date:
             return "a date like 2004-07-09";
         default:
-            return "a number" + unit;
+            return expected_number(part, "a number");
     }
 }

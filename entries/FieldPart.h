@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <iterator>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,6 +35,13 @@ struct FieldPart {
     std::string_view names[4];
     Kind kind = plain;      ///< What stands there.
     const char* unit = "";  ///< Shown behind numbers.
+    /// Those that may stand behind numbers besides and are not shown, that which is meant first.
+    std::string_view other_units[2] = {};
+    /// Numbers are between these; what stands in files may be any.
+    /// @{
+    double above = -std::numeric_limits<double>::infinity();
+    double below = std::numeric_limits<double>::infinity();
+    /// @}
 
     /// Those of its names that there are.
     Tags tags() const {

@@ -78,7 +78,7 @@ void edit_parts(EditedEntry& entry, const FieldItems& field, const std::string& 
         const bool vanishes = wanted[i].empty();
         if (vanishes && std::any_of(field.parts.begin(), field.parts.end(), says_it_too)) continue;
         EditedEntry::Text value;
-        if (!vanishes) value = entry.value_of(part, wanted[i]);
+        if (!vanishes) value = entry.value_of(part, wanted[i], &field.form);
         changes.emplace_back(&part, std::move(value));
     }
     // Items may say something that is not shown, and others what they do not.

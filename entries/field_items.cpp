@@ -14,6 +14,8 @@ using Names = LMRFieldNames;
 // Digits among the units would be numbers to searches.
 constexpr char per_millimetre[] = "mm\xE2\x81\xBB\xC2\xB9";
 constexpr char grams_per_volume[] = "g/cm\xC2\xB3";
+constexpr char grams_in_ascii[] = "g/cm3";
+constexpr char angstrom[] = "\xC3\x85";
 
 constexpr std::size_t most_parts = 6;
 
@@ -27,10 +29,18 @@ struct Row {
 constexpr Row single(std::string_view tag, Kind kind, const char* unit = "") {
     return {{{{tag}, kind, unit}}};
 }
+/// Parameter `index` of the cell.
+/// @{
+constexpr FieldPart edge(std::size_t index) {
+    return {{cif_tags::cell[index]}, Kind::printed, "", {angstrom, "A"}, 0};
+}
+constexpr FieldPart angle(std::size_t index) {
+    return {{cif_tags::cell[index]}, Kind::printed, "", {"\xC2\xB0"}, 0, 180};
+}
+/// @}
 constexpr Row computed(const char* refusal) { return {{}, "", refusal}; }
 
 constexpr Row in_no_item = computed("no item of CIF files holds it");
-constexpr auto& cell = cif_tags::cell;
 
 struct CatalogueRow {
     Names::TextID field;
@@ -40,26 +50,27 @@ struct CatalogueRow {
 // Other fields no item holds.
 constexpr CatalogueRow catalogue_rows[] = {
     {Names::identifier, single(cif_tags::identifier, Kind::plain)},
-    {Names::cell_lengths,
-     {{{{cell[0]}, Kind::printed}, {{cell[1]}, Kind::printed}, {{cell[2]}, Kind::printed}},
-      "a $0 b $1 c $2"}},
-    {Names::cell_angles,
-     {{{{cell[3]}, Kind::printed}, {{cell[4]}, Kind::printed}, {{cell[5]}, Kind::printed}},
-      "a $0 b $1 g $2"}},
-    {Names::cell_volume, single(cif_tags::volume, Kind::number)},
+    {Names::cell_lengths, {{edge(0), edge(1), edge(2)}, "a $0 b $1 c $2"}},
+    {Names::cell_angles, {{angle(3), angle(4), angle(5)}, "a $0 b $1 g $2"}},
+    {Names::cell_volume, {{{{cif_tags::volume}, Kind::number, "", {"\xC3\x85\xC2\xB3", "A3"}, 0}}}},
     {Names::space_group, {{{{cif_tags::symbol[0], cif_tags::symbol[1]}, Kind::plain}}}},
     {Names::sohncke_group, computed("is computed from the space group")},
     {Names::reduced_cell_lengths, computed("is computed from the cell and its centring")},
     {Names::reduced_cell_angles, computed("is computed from the cell and its centring")},
     {Names::reduced_cell_volume, computed("is computed from the cell and its centring")},
-    {Names::temperature, {{{{cif_tags::temperature[0], cif_tags::temperature[1]}, Kind::printed}}}},
+    {Names::temperature,
+     {{{{cif_tags::temperature[0], cif_tags::temperature[1]}, Kind::printed, "", {"K"}, 0}}}},
     {Names::temperature_text,
      {{{{cif_tags::temperature[0], cif_tags::temperature[1]}, Kind::words}}}},
     {Names::pressure, single("_diffrn_ambient_pressure", Kind::range, "kPa")},
-    {Names::density_author, single("_exptl_crystal_density_diffrn", Kind::number)},
+    {Names::density_author,
+     {{{{"_exptl_crystal_density_diffrn"}, Kind::number, "", {grams_per_volume, grams_in_ascii}}}}},
     {Names::average_sigma, computed("is computed from the bonds between carbon atoms")},
     {Names::r_factor,
-     {{{{cif_tags::r_factor[0], cif_tags::r_factor[1], cif_tags::r_factor[2]}, Kind::per_cent}}}},
+     {{{{cif_tags::r_factor[0], cif_tags::r_factor[1], cif_tags::r_factor[2]},
+        Kind::per_cent,
+        "",
+        {"%"}}}}},
     {Names::radiation_probe, single("_diffrn_radiation_probe", Kind::text)},
     {Names::radiation_source,
      {{{{"_diffrn_radiation_source", "_diffrn_source", "_diffrn_source_type"}, Kind::text}}}},
@@ -77,7 +88,7 @@ constexpr CatalogueRow catalogue_rows[] = {
     {Names::source, single("_chemical_compound_source", Kind::text)},
     {Names::synonym, {{{{cif_tags::synonyms[0], cif_tags::synonyms[1]}, Kind::name}}}},
     {Names::z_zprime,
-     {{{{cif_tags::z}, Kind::count}, {{}, Kind::computed}}, "Z: $0 Z': $1|Z: $0|$0"}},
+     {{{{cif_tags::z}, Kind::count, "", {}, 0}, {{}, Kind::computed}}, "Z: $0 Z': $1|Z: $0|$0"}},
     {Names::color, single("_exptl_crystal_colour", Kind::text)},
     {Names::habit, single("_exptl_crystal_description", Kind::text)},
     {Names::melting_point,
@@ -115,19 +126,21 @@ constexpr FurtherRow further_rows[] = {
     {"DOI", {{{{"_journal_paper_doi", "_journal_article_doi"}, Kind::plain}}}},
     {"Moiety Formula", single("_chemical_formula_moiety", Kind::formula)},
     {"Formula Weight", single("_chemical_formula_weight", Kind::number)},
-    {"Measured Density", single("_exptl_crystal_density_meas", Kind::density, grams_per_volume)},
+    {"Measured Density",
+     {{{{"_exptl_crystal_density_meas"}, Kind::density, grams_per_volume, {grams_in_ascii}}}}},
     {"F(000)", single("_exptl_crystal_F_000", Kind::number)},
     {"Crystal Size",
      {{{{"_exptl_crystal_size_max"}, Kind::number},
        {{"_exptl_crystal_size_mid"}, Kind::number},
        {{"_exptl_crystal_size_min"}, Kind::number},
        {{"_exptl_crystal_size_rad"}, Kind::number}},
-      "[$0] \xC3\x97 [$1] \xC3\x97 [$2] mm|radius $3 mm"}},
+      "[$0] \xC3\x97 [$1] \xC3\x97 [$2] mm|radius $3 mm|[$0] x [$1] x [$2] mm|[$0] * [$1] * [$2] "
+      "mm"}},
     {"Wavelength",
      {{{{"_diffrn_radiation_wavelength", "_diffrn_radiation_wavelength_value"}, Kind::numbers}},
       "$0 \xC3\x85"}},
     {"Absorption Coefficient",
-     single("_exptl_absorpt_coefficient_mu", Kind::number, per_millimetre)},
+     {{{{"_exptl_absorpt_coefficient_mu"}, Kind::number, per_millimetre, {"mm-1"}}}}},
     {"Absorption Correction",
      {{{{"_exptl_absorpt_correction_type"}, Kind::plain},
        {{"_exptl_absorpt_correction_T_min"}, Kind::number},
@@ -145,7 +158,9 @@ constexpr FurtherRow further_rows[] = {
     {"wR-Factor (%)",
      {{{{"_refine_ls_wR_factor_ref", "_refine_ls_wR_factor_gt", "_refine_ls_wR_factor_obs",
          "_refine_ls_wR_factor_all"},
-        Kind::per_cent}}}},
+        Kind::per_cent,
+        "",
+        {"%"}}}}},
     {"Goodness Of Fit",
      {{{{"_refine_ls_goodness_of_fit_ref", "_refine_ls_goodness_of_fit_gt",
          "_refine_ls_goodness_of_fit_obs", "_refine_ls_goodness_of_fit_all"},

@@ -157,7 +157,15 @@ TEST(field_edit, SaysWhyItRefuses) {
         const char *label, *text, *reason;
     } cases[] = {
         {"Cell Lengths", "5 6 7", "expected a text like 'a ... b ... c ...', not '5 6 7'"},
-        {"Cell Lengths", "a 5 b x c 7", "expected a number, not 'x'"},
+        {"Cell Lengths", "a 5 b x c 7",
+         "expected a number in \u00C5 above 0 in a text like 'a ... b ... c ...', not 'x'"},
+        {"Cell Lengths", "a -5.1 b 6 c 7",
+         "expected a number in \u00C5 above 0 in a text like 'a ... b ... c ...', not '-5.1'"},
+        {"Cell Lengths", "a 5 \u00C5 b 6 A c 7", "unchanged"},
+        {"Cell Angles", "a 90\u00B0 b 90 g 90", "unchanged"},
+        {"Cell Angles", "a 90 b 90 g 190",
+         "expected a number in \u00B0 above 0 and below 180 in a text like 'a ... b ... g ...', "
+         "not '190'"},
         {"Cell Volume", "211", "is computed from the cell"},
         {"Cell Volume", "210", "unchanged"},
         {"Reduced Cell Volume", "211", "is computed from the cell and its centring"},
@@ -168,14 +176,21 @@ TEST(field_edit, SaysWhyItRefuses) {
         {"Space Group", "P9", "expected the symbol of a space group, not 'P9'"},
         {"Space Group", "P 1", "unchanged"},
         {"Z, Z'", "Z: 4 Z': 9", "Z' is computed from Z and the space group"},
-        {"Z, Z'", "Z: 2.5", "expected a whole number, not '2.5'"},
+        {"Z, Z'", "Z: 2.5",
+         "expected a whole number above 0 in a text like 'Z: ... Z': ...', not '2.5'"},
+        {"Z, Z'", "Z: 0",
+         "expected a whole number above 0 in a text like 'Z: ... Z': ...', not '0'"},
         {"Formula", "C6 Hh2", "expected a formula like C12 H22 O11, not 'C6 Hh2'"},
-        {"Temperature (K)", "cold", "expected a number, not 'cold'"},
+        {"Temperature (K)", "cold", "expected a number in K above 0, not 'cold'"},
+        {"Theta Range", "2.0-30.0\u00B0",
+         "expected a number in a text like '... to ...\u00B0', not '2.0-30.0'"},
+        {"Crystal Size", "0.3 by 0.2 mm",
+         "expected a number in a text like '... \u00D7 ... \u00D7 ... mm', not '0.3 by 0.2'"},
         {"Temperature (text)", "293",
          "expected words, as a number is the text of Temperature (K), not '293'"},
         {"Pressure", "high", "expected a number or a range of numbers in kPa, not 'high'"},
         {"Accession Date", "9/7/2004", "expected a date like 2004-07-09, not '9/7/2004'"},
-        {"Color", "?", "expected a text, not '?'"},
+        {"Color", "?", "'?' stands for no text; an empty one takes it away"},
         {"Synonym", "x",
          "expected as many values as there are, as _chemical_name_common and "
          "_chemical_name_mineral hold them"},
@@ -187,12 +202,31 @@ TEST(field_edit, SaysWhyItRefuses) {
          "expected names like 'J.Smith, R.von Dreele' or 'Smith, John; von Dreele, R.', not "
          "'Smith'"},
         {"Literature Reference", "Acta Cryst. C60, m258",
-         "expected a page like 12 or m258, not 'Acta Cryst. C60, m258'"},
+         "expected a page like 12 or m258 in a text like '<j>...</j><v>...</v><y>...</y>"
+         "<p>...-...</p>', not 'Acta Cryst. C60, m258'"},
         {"Cross References", "CSD ABCDEF",
          "expected references like 'Same structure CSD ABCDEF', not 'CSD ABCDEF'"},
         {"R-Factor (%)", "low", "expected a number of per cent, not 'low'"},
     };
     for (const auto& c : cases) EXPECT_EQ(refusal(cell, c.label, c.text), c.reason) << c.label;
+}
+
+TEST(field_edit, UnderstandsWhatIsUsuallyTyped) {
+    const struct {
+        const char *label, *text, *shown;
+    } cases[] = {
+        {"Temperature (K)", "120(1) K", "120(1)"},
+        {"R-Factor (%)", "3.07 %", "3.07"},
+        {"wR-Factor (%)", "10.5%", "10.5"},
+        {"Density (author)", "1.234 g/cm3", "1.234"},
+        {"Measured Density", "2.80 g/cm3", "2.80 g/cm\u00B3"},
+        {"Absorption Coefficient", "0.55 mm-1", "0.55 mm\u207B\u00B9"},
+        {"Crystal Size", "0.3 x 0.2 x 0.1 mm", "0.3 \u00D7 0.2 \u00D7 0.1 mm"},
+        {"Crystal Size", "0.3 * 0.2 mm", "0.3 \u00D7 0.2 mm"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(shown(edited("data_x\n_cell_length_a 5", c.label, c.text), c.label), c.shown);
+    }
 }
 
 TEST(field_edit, KeepsTheRowsOfAuthors) {
