@@ -1,5 +1,6 @@
 #include "tasks/EntryEditor.h"
 
+#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -25,37 +26,52 @@ const Source& kind_written(const Field& field, const FieldText& now) {
     return has_styles(field) ? *row_named(sources(), cif_text) : *now.source;
 }
 
+/// Throws std::invalid_argument for what a text of that kind cannot be.
+TextItem item_of(const Source& kind, const THandle<InputTextStyleFinder>& finder,
+                 const std::string& text) {
+    try {
+        return {finder, text};
+    } catch (const std::exception&) {
+        throw std::invalid_argument(std::string("expected ") + kind.help);
+    }
+}
+
 }  // namespace
 
 void EntryEditor::set(std::size_t index, const Field& field, const std::string& text,
                       const Source* from) {
-    try {
-        edit(index, field, in_field(index, field, text, from));
-    } catch (const std::exception& error) {
-        refuse(index, field, error);
-    }
+    attempt(index, field, [&] { edit(index, field, in_field(index, field, text, from)); });
 }
 
 void EntryEditor::update(std::size_t index, const Field& field, const std::string& text) {
-    try {
+    attempt(index, field, [&] {
         const std::string now = text_of(entry(index), field).text;
         if (now != text && as_in_json(now) != text) edit(index, field, text);
-    } catch (const std::exception& error) {
-        refuse(index, field, error);
-    }
+    });
 }
 
 void EntryEditor::replace(std::size_t index, const Field& field, const std::string& old,
                           const std::string& text, const Source* from) {
-    try {
+    attempt(index, field, [&] {
         const FieldText now = text_of(entry(index), field);
         if (now.text.empty()) return;
         const TextReplacement part(kind_written(field, now), now.text, old);
         if (!part.is_there()) return;
         const bool is_ready = !part.is_seen() && !from;
         edit(index, field, part.with(is_ready ? text : in_field(index, field, text, from)));
+    });
+}
+
+template <class Edit>
+void EntryEditor::attempt(std::size_t index, const Field& field, const Edit& edit) {
+    const std::size_t noted = problems_.size();
+    try {
+        edit();
     } catch (const std::exception& error) {
-        refuse(index, field, error);
+        problems_.resize(noted);
+        Problem problem;
+        problem.what = error.what();
+        add(index, field, {std::move(problem)});
     }
 }
 
@@ -73,7 +89,7 @@ std::string EntryEditor::in_field(std::size_t index, const Field& field, const s
     const RichTextTarget& target = *row_named(rich_text_targets(), cif_text);
     const bool stays = !has_styles(field) || from->name == cif_text;
     const THandle<InputTextStyleFinder> finder = from->make_finder();
-    const TextItem item(finder, text);  // throws for what it cannot be
+    const TextItem item = item_of(*from, finder, text);
     if (stays) return text;
     std::vector<Problem> notes;
     if (from->note_doubts) from->note_doubts(*finder, notes);
@@ -103,10 +119,4 @@ void EntryEditor::add(std::size_t index, const Field& field, std::vector<Problem
         problem.column = 0;
         problems_.push_back(std::move(problem));
     }
-}
-
-void EntryEditor::refuse(std::size_t index, const Field& field, const std::exception& error) {
-    Problem problem;
-    problem.what = error.what();
-    add(index, field, {std::move(problem)});
 }

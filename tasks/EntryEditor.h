@@ -38,11 +38,13 @@ public:
 
 private:
     const CifEntry& entry(std::size_t index);
+    /// Does an edit of a field; where it throws, that alone is what there is to say of it.
+    template <class Edit>
+    void attempt(std::size_t index, const Field& field, const Edit& edit);
     std::string in_field(std::size_t index, const Field& field, const std::string& text,
                          const Source* from);
     void edit(std::size_t index, const Field& field, const std::string& text);
     void add(std::size_t index, const Field& field, std::vector<Problem> problems);
-    void refuse(std::size_t index, const Field& field, const std::exception& error);
 
     const EntryReader& entries_;
     CifEdits edits_;

@@ -49,7 +49,7 @@ std::string TextReplacement::with(const std::string& by) const {
         std::string result = with(by, hidden);
         if (shown(result) == wanted) return result;
     }
-    throw std::invalid_argument("'" + old_ + "' stands across codes in '" + text_ + "'");
+    throw std::invalid_argument("replacing '" + old_ + "' would change more of the text than that");
 }
 
 /// With what stands where the part is seen replaced.
@@ -73,6 +73,11 @@ std::string TextReplacement::with(const std::string& by, const Hidden& hidden) c
     return result.append(text_, done);
 }
 
+/// A part may be none of the kind, which its whole is: "9.5" of "a 9.5 b 8 c 7".
 std::string TextReplacement::shown(const std::string& text) const {
-    return DisplayedText(TextItem(kind_.make_finder(), text)).text();
+    try {
+        return DisplayedText(TextItem(kind_.make_finder(), text)).text();
+    } catch (const std::exception&) {
+        return text;
+    }
 }

@@ -22,8 +22,7 @@ public:
     bool is_seen() const { return is_seen_; }
     /// @}
     /// The text with `by`, of the same kind, in its place. Throws std::invalid_argument where a
-    /// reader would see something else changed, too, and what the new text fails with. O(n + k m)
-    /// for k places.
+    /// reader would see something else changed, too. O(n + k m) for k places.
     std::string with(const std::string& by) const;
 
 private:

@@ -83,6 +83,26 @@ TEST_F(Set, ChangesTheValueAlone) {
     }
 }
 
+TEST_F(Set, ReplacesPartsOfFieldsInAFormOfTheirOwn) {
+    const std::string parts =
+        "data_a\n_cell_length_a 5.1\n_cell_length_b 6\n_cell_length_c 7\n"
+        "_cell_angle_alpha 90\n_cell_angle_beta 90\n_cell_angle_gamma 90\n"
+        "_journal_name_full 'Acta Crystallographica'\n_journal_volume 66\n_journal_year 2010\n"
+        "_journal_page_first m1\n";
+    const struct {
+        const char *arguments, *line;
+    } cases[] = {
+        {"'Cell Lengths' --replace 5.1 --value 5.2", "_cell_length_a 5.2\n"},
+        {"'Literature Reference' --replace Crystallographica --value Cryst.",
+         "_journal_name_full 'Acta Cryst.'\n"},
+    };
+    for (const auto& c : cases) {
+        file("parts.cif", parts);
+        EXPECT_EQ(run("set parts.cif --field " + std::string(c.arguments)).err, "");
+        EXPECT_THAT(read("parts.cif"), HasSubstr(c.line));
+    }
+}
+
 TEST_F(Set, TellsADiffInColoursOnATerminal) {
     const std::string change = "set --dry-run --field color --value blue one.cif";
     EXPECT_EQ(run(change).out,
@@ -137,6 +157,12 @@ TEST_F(Set, WhatIsWrongIsOneLineAndChangesNothing) {
         {color + "/dev/null", "/dev/null: is no regular file"},
         {color + "packed.cif.gz", "packed.cif.gz: is a gzip file"},
         {"--field color --value \"$(printf '\\001')\" one.cif", "one.cif: data_I: Color: "},
+        {"--field color --value \"$(printf 'a\\377b')\" one.cif",
+         "one.cif: data_I: Color: not UTF-8, which no CIF file holds"},
+        {"--field color --replace dark --value=- two.cif",
+         "two.cif: data_II: Color: replacing 'dark' would change more of the text than that"},
+        {"--field 'cell lengths' --from cell-lengths --value 5 one.cif",
+         "one.cif: data_I: Cell Lengths: expected cell lengths behind labels: a 5.1 b 7.25(1) c 9"},
         {"--field 'r-factor (%)' --value red one.cif",
          "one.cif: data_I: R-Factor (%): expected a number"},
         {"--field 'reduced cell volume' --value 5 one.cif",
