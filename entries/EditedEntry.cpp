@@ -139,27 +139,35 @@ std::vector<std::string> split_list(std::string_view text, std::string_view sepa
 }
 
 std::vector<EditedEntry::Member> aligned(const std::vector<std::string>& old,
-                                         const std::vector<std::string>& wanted) {
-    std::map<std::string_view, std::vector<std::size_t>> places;  // the last first
-    for (std::size_t i = old.size(); i > 0; --i) places[old[i - 1]].push_back(i - 1);
+                                         const std::vector<std::string>& wanted,
+                                         const std::vector<TextKey>& keys) {
     std::vector<EditedEntry::Member> members(wanted.size());
     std::vector<bool> is_kept(old.size());
+    const auto pair_by = [&](const TextKey& key) {
+        std::map<std::string, std::vector<std::size_t>> places;  // the last first
+        for (std::size_t i = old.size(); i > 0; --i) {
+            if (!is_kept[i - 1]) places[key(old[i - 1])].push_back(i - 1);
+        }
+        places.erase("");
+        for (std::size_t i = 0; i < wanted.size(); ++i) {
+            if (members[i].old) continue;
+            const auto found = places.find(key(wanted[i]));
+            if (found == places.end() || found->second.empty()) continue;
+            members[i].old = found->second.back();
+            is_kept[*members[i].old] = true;
+            found->second.pop_back();
+        }
+    };
+    pair_by([](const std::string& text) { return text; });
     for (std::size_t i = 0; i < wanted.size(); ++i) {
-        const auto found = places.find(wanted[i]);
-        if (found == places.end() || found->second.empty()) continue;
-        members[i].old = found->second.back();
-        is_kept[*members[i].old] = true;
-        found->second.pop_back();
+        if (!members[i].old) members[i].text = wanted[i];
     }
+    for (const TextKey& key : keys) pair_by(key);
     std::size_t next = 0;  // what stood behind the one before
-    for (std::size_t i = 0; i < wanted.size(); ++i) {
-        EditedEntry::Member& member = members[i];
-        if (!member.old) {
-            member.text = wanted[i];
-            if (next < old.size() && !is_kept[next]) {
-                member.old = next;
-                is_kept[next] = true;
-            }
+    for (EditedEntry::Member& member : members) {
+        if (!member.old && next < old.size() && !is_kept[next]) {
+            member.old = next;
+            is_kept[next] = true;
         }
         if (member.old) next = *member.old + 1;
     }

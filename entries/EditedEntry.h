@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -64,10 +65,13 @@ std::vector<std::string> split_list(std::string_view text, std::string_view sepa
                                     const std::vector<std::string>& old);
 /// Throws FieldRefused: "expected WHAT, not 'TEXT'".
 [[noreturn]] void refuse(const std::string& expected, std::string_view text);
-/// Which text of `old` each of `wanted` is: an equal one, or one that is gone from the same place,
-/// with another text. Linear.
+/// What is the same of two texts of which one may have become the other; empty: nothing.
+using TextKey = std::function<std::string(const std::string& text)>;
+/// Which text of `old` each of `wanted` is: an equal one, or else, with another text, one with the
+/// same key, the first key first, or one that is gone from the same place. O(n log n).
 std::vector<EditedEntry::Member> aligned(const std::vector<std::string>& old,
-                                         const std::vector<std::string>& wanted);
+                                         const std::vector<std::string>& wanted,
+                                         const std::vector<TextKey>& keys = {});
 
 // Each makes the field that its name says another; texts are in the form of the field, and none
 // throws anything but FieldRefused, before it changes anything.

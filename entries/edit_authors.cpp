@@ -1,8 +1,10 @@
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <set>
 #include <string_view>
 
+#include "entries/CodedText.h"
 #include "entries/EditedEntry.h"
 #include "entries/PersonName.h"
 #include "entries/cif_text.h"
@@ -82,6 +84,49 @@ std::vector<std::string> names_of_file(const std::string& text,
     return written;
 }
 
+/// The letters of a text in lower case, without marks and accents.
+std::string bare_letters(const std::string& text) {
+    std::string letters;
+    bool in_reference = false;  // "&#x2019;"
+    for (const char c : in_lower_case(CodedText(text).with_codes())) {
+        if (c == '&' || c == ';') in_reference = c == '&';
+        if (!in_reference && c >= 'a' && c <= 'z') letters += c;
+    }
+    return letters;
+}
+
+std::string key_of_surname(const std::string& name) {
+    const std::string read = read_person_name(name).text;
+    const std::string written = name_of_file(read).value_or(read);
+    return bare_letters(written.substr(0, written.find(',')));
+}
+
+/// With the first initial.
+std::string key_of_name(const std::string& name) {
+    const std::string surname = key_of_surname(name);
+    if (surname.empty()) return surname;
+    return surname + '.' + bare_letters(read_person_name(name).text).substr(0, 1);
+}
+
+/// Names between semicolons as they are given, or as files write them where they are in the form of
+/// the field; `fields` are the old ones in that.
+std::vector<std::string> given_names(const std::string& text, const std::vector<std::string>& old,
+                                     const std::vector<std::string>& fields) {
+    std::map<std::string_view, std::string_view> known;  // those that stand so first
+    for (const std::string& name : old) known.emplace(name, name);
+    for (std::size_t i = 0; i < old.size(); ++i) known.emplace(fields[i], old[i]);
+    std::vector<std::string> names = split_list(text, ";", old);
+    for (std::string& name : names) {
+        const auto found = known.find(name);
+        if (found != known.end()) {
+            name = found->second;
+        } else if (name.find(',') == std::string::npos) {
+            name = new_name(name).value_or(name);
+        }
+    }
+    return names;
+}
+
 /// A new name with the given names of the old one in whose place it stands, where they have its
 /// initials: they may be written out there.
 std::string with_given_names_of(const std::string& old, const std::string& name) {
@@ -98,16 +143,17 @@ void edit_authors(EditedEntry& entry, const FieldItems& field, const std::string
     const FieldPart& part = field.parts.front();
     const std::vector<BlockReader::Value> old = entry.values(part.tags());
     const bool as_given = text.find(';') != std::string::npos;
-    std::vector<std::string> decoded, old_names;
+    std::vector<std::string> decoded, in_field;
     decoded.reserve(old.size());
-    old_names.reserve(old.size());
+    in_field.reserve(old.size());
     for (const BlockReader::Value& value : old) {
         decoded.push_back(entry.block().decoded(value));
-        old_names.push_back(as_given ? decoded.back() : read_person_name(decoded.back()).text);
+        in_field.push_back(read_person_name(decoded.back()).text);
     }
     const std::vector<std::string> names =
-        as_given ? split_list(text, ";", old_names) : names_of_file(text, old_names);
-    std::vector<EditedEntry::Member> members = aligned(old_names, names);
+        as_given ? given_names(text, decoded, in_field) : names_of_file(text, in_field);
+    std::vector<EditedEntry::Member> members =
+        aligned(as_given ? decoded : in_field, names, {key_of_name, key_of_surname});
     for (EditedEntry::Member& member : members) {
         if (!member.text) continue;
         if (member.old && !as_given) {

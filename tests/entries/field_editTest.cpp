@@ -243,6 +243,9 @@ TEST(field_edit, KeepsTheRowsOfAuthors) {
         {"J.Smith, A.New, K.M\u00FCller, Who",
          "'Smith, John' here\n'New, A.' ?\n'M\\\"uller, Karl' 'there, 5'\nWho ?\n"},
         {"Smith, John; M\u00FCller, K. X.", "'Smith, John' here\n'M\\\"uller, K. X.' 'there, 5'\n"},
+        {"Smith, John; K.M\u00FCller; Who; R.Franklin",
+         "'Smith, John' here\n'M\\\"uller, Karl' 'there, 5'\nWho ?\n'Franklin, R.' ?\n"},
+        {"K.Muller, A.New", "'Muller, Karl' 'there, 5'\n'New, A.' ?\n"},
         {"John Smith, Rosalind Franklin", "'Smith, John' here\n'Franklin, Rosalind' 'there, 5'\n"},
     };
     for (const auto& c : cases) {
