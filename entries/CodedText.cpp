@@ -6,6 +6,7 @@
 #include "markup/TevoRichTextGenerator.h"
 #include "markup/TextItemToUnicodeGreek.h"
 #include "markup/UnicodeRichTextGenerator.h"
+#include "markup/ascii_text.h"
 
 namespace {
 
@@ -66,7 +67,7 @@ std::string CodedText::tevo() const {
 std::string CodedText::with_codes() const {
     if (is_ascii(finder_->text())) return finder_->text();
     CifTextRichTextGenerator generator;
-    return item_.mark_up_text(generator);
+    return with_references(item_.mark_up_text(generator));
 }
 
 std::string CodedText::in_utf8() const {
@@ -101,7 +102,9 @@ std::string with_codes(const std::string& text, bool is_version_2) {
     }
     const TextItem item(make_handle<InputTextStyleFinder>(), text);
     CifTextRichTextGenerator generator;
-    return item.mark_up_text(generator);
+    std::string coded = item.mark_up_text(generator);
+    if (!is_version_2) coded = with_references(coded);
+    return coded;
 }
 
 void CodedText::append_doubts(std::vector<Problem>& problems) const {

@@ -23,7 +23,7 @@ public:
     std::string unicode() const;
     /// In the database's own mark-up; what is beyond ASCII is in UTF-8.
     std::string tevo() const;
-    /// With codes for what is beyond ASCII, as far as there are any.
+    /// In ASCII: with codes for what is beyond it, or references by number, "&#x4E2D;".
     std::string with_codes() const;
     /// With the characters of UTF-8 for their codes, of which those of styles and ASCII stay.
     std::string in_utf8() const;

@@ -216,6 +216,8 @@ TEST(field_edit, UnderstandsWhatIsUsuallyTyped) {
         const char *label, *text, *shown;
     } cases[] = {
         {"Temperature (K)", "120(1) K", "120(1)"},
+        {"Color", "\u7D05 \u00E9", "&#x7D05; \\'e"},
+        {"Author(s)", "P.O\u2019Neil", "P.O\u2019Neil"},
         {"R-Factor (%)", "3.07 %", "3.07"},
         {"wR-Factor (%)", "10.5%", "10.5"},
         {"Density (author)", "1.234 g/cm3", "1.234"},
