@@ -18,6 +18,7 @@ struct CheckFinding {
     const CheckCode* code;
     Problem problem;                 ///< Where, what was found, what was expected.
     std::optional<Splice> repair{};  ///< Of the bytes of the file, where one is safe.
+    unsigned long count = 1;         ///< Above 1 it stands for so many that are not told.
     /// Of the first character of what was found, and of what the repair replaces.
     /// @{
     FileRegion region{};

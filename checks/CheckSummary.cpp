@@ -12,7 +12,7 @@ void CheckSummary::take(const CheckFindings& findings) {
     for (const CheckFinding& finding : findings) {
         const auto index = static_cast<std::size_t>(finding.code - check_codes().data());
         Counts& counts = counts_[index];
-        ++counts.findings;
+        counts.findings += finding.count;
         if (finding.repair) ++counts.repairs;
         if (!seen[index]) ++counts.files;
         seen[index] = true;

@@ -7,7 +7,7 @@
 /// How often each fault has been found in some files.
 class CheckSummary {
 public:
-    /// Of one fault.
+    /// Of one fault. Repairs are those of the findings that are told, findings all.
     struct Counts {
         const CheckCode* code;
         unsigned long findings = 0, repairs = 0, files = 0;

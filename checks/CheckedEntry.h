@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "checks/CheckFinding.h"
+#include "checks/FoundFaults.h"
 #include "entries/CifDocument.h"
 #include "entries/CifEdits.h"
 #include "entries/CifEntry.h"
@@ -27,7 +27,7 @@ public:
 
     /// Items that its block lacks are those of `common`, which may be null. All must live on.
     CheckedEntry(const CifDocument& document, const CifEntry& entry, const CifBlock* common,
-                 CheckFindings& findings)
+                 FoundFaults& findings)
         : document_(document), entry_(entry), common_(common), findings_(findings) {}
 
     const CifDocument& document() const { return document_; }
@@ -61,7 +61,7 @@ private:
     const CifDocument& document_;
     const CifEntry& entry_;
     const CifBlock* common_;
-    CheckFindings& findings_;
+    FoundFaults& findings_;
 };
 
 // The checks of each subject, which the codes of the same subject tell of.
@@ -74,6 +74,6 @@ void check_symmetry(CheckedEntry& entry);
 void check_measurement(CheckedEntry& entry);
 /// Of the whole file, once.
 /// @{
-void check_file(const CifDocument& document, CheckFindings& findings);
-void check_text(const CifDocument& document, CheckFindings& findings);
+void check_file(const CifDocument& document, FoundFaults& findings);
+void check_text(const CifDocument& document, FoundFaults& findings);
 /// @}

@@ -3,12 +3,11 @@
 #include <stdexcept>
 #include <utility>
 
-CheckFinding& add_finding(CheckFindings& findings, const CifDocument& document,
-                          std::string_view code, const char* place, std::string found,
-                          std::string expected) {
+CheckFinding& add_finding(FoundFaults& findings, const CifDocument& document, std::string_view code,
+                          const char* place, std::string found, std::string expected) {
     const CheckCode* const row = check_code(code);
     if (!row) throw std::logic_error("no such code: '" + std::string(code) + "'");
-    CheckFinding& finding = findings.emplace_back(CheckFinding{row, {}});
+    CheckFinding& finding = findings.add({row, {}});
     Problem& problem = finding.problem;
     problem.level = row->level;
     problem.code = row->code;

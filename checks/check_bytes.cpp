@@ -22,19 +22,16 @@ const char* end_of_longest(std::string_view line) {
     });
 }
 
-constexpr std::size_t most_findings = 1000;  // of control characters; of more it is no text at all
-
 }  // namespace
 
-void check_bytes(const CifDocument& document, CheckFindings& findings) {
+void check_bytes(const CifDocument& document, FoundFaults& findings) {
     std::string_view rest = document.bytes();
-    std::size_t found = 0;
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find('\n'), rest.size());
         std::string_view line = rest.substr(0, end);
         rest.remove_prefix(std::min(end + 1, rest.size()));
         const auto* const forbidden = std::find_if(line.begin(), line.end(), is_forbidden);
-        if (forbidden != line.end() && found++ < most_findings) {
+        if (forbidden != line.end()) {
             add_finding(findings, document, "control-character", forbidden,
                         std::string(1, *forbidden));
         }

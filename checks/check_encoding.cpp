@@ -13,7 +13,6 @@
 namespace {
 
 constexpr std::size_t most_of_a_value = 10;
-constexpr std::size_t most_values = 1000;  // of more the whole file is so
 
 bool is_beyond_ascii(char c) { return static_cast<unsigned char>(c) >= 0x80; }
 
@@ -23,13 +22,16 @@ bool has_beyond_ascii(std::string_view text) {
 
 class EncodingCheck {
 public:
-    EncodingCheck(const CifDocument& document, CheckFindings& findings)
-        : document_(document), findings_(findings), is_ascii_(!document.is_version_2()) {}
+    EncodingCheck(const CifDocument& document, FoundFaults& findings)
+        : document_(document),
+          findings_(findings),
+          no_edits_(document),
+          is_ascii_(!document.is_version_2()) {}
 
     void check(const CifItem& item) {
         for (std::size_t row = 0; row < item.size(); ++row) {
             const std::string_view raw = item[row].raw;
-            if (!has_beyond_ascii(raw) || values_++ >= most_values) continue;
+            if (!has_beyond_ascii(raw)) continue;
             const bool is_utf8 = check_utf8(item, raw);
             if (is_utf8 && is_ascii_) note_character(item, row);
         }
@@ -65,7 +67,7 @@ private:
         const std::optional<std::string> coded = text_in_ascii(item[row].text());
         if (!coded) return;
         try {
-            CifEdits edits(document_);
+            CifEdits edits(no_edits_);
             edits.set(item, row, *coded);
             const Splices splices = edits.splices();
             if (splices.size() == 1) finding.repair = splices.front();
@@ -81,14 +83,14 @@ private:
     }
 
     const CifDocument& document_;
-    CheckFindings& findings_;
+    FoundFaults& findings_;
+    CifEdits no_edits_;  // to begin with: to ask for the bytes costs a line
     bool is_ascii_;
-    std::size_t values_ = 0;  // that are not of ASCII
 };
 
 }  // namespace
 
-void check_encoding(const CifDocument& document, CheckFindings& findings) {
+void check_encoding(const CifDocument& document, FoundFaults& findings) {
     if (!has_beyond_ascii(document.bytes())) return;
     EncodingCheck check(document, findings);
     for (std::size_t block = 0; block < document.blocks(); ++block) {

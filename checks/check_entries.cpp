@@ -28,7 +28,7 @@ constexpr EntryCheck entry_checks[] = {
 /// Likewise in a file.
 struct FileCheck {
     std::span<const CheckCode> (*codes)();
-    void (*check)(const CifDocument& document, CheckFindings& findings);
+    void (*check)(const CifDocument& document, FoundFaults& faults);
 };
 
 constexpr FileCheck file_checks[] = {
@@ -96,48 +96,30 @@ private:
 };
 
 /// Takes the problems that reading has found of an entry.
-void take_problems(CifEntry& entry, CheckFindings& findings) {
+void take_problems(CifEntry& entry, FoundFaults& faults) {
     for (Problem& problem : entry.problems) {
-        findings.push_back({&code_named(problem.code), std::move(problem)});
+        faults.add({&code_named(problem.code), std::move(problem)});
     }
-}
-
-/// In the order of the file, each fault once, however many have found it.
-void put_in_order(CheckFindings& findings) {
-    const auto place = [](const CheckFinding& finding) {
-        return finding.problem.offset.value_or(0);
-    };
-    std::stable_sort(findings.begin(), findings.end(),
-                     [&](const CheckFinding& a, const CheckFinding& b) {
-                         if (place(a) != place(b)) return place(a) < place(b);
-                         return std::string_view(a.code->code) < b.code->code;
-                     });
-    const auto is_same = [&](const CheckFinding& a, const CheckFinding& b) {
-        return a.code == b.code && place(a) == place(b);
-    };
-    findings.erase(std::unique(findings.begin(), findings.end(), is_same), findings.end());
 }
 
 }  // namespace
 
-CheckFindings check_entries(const EntryReader& entries, const WantedChecks& wanted) {
-    CheckFindings findings;
+CheckFindings check_entries(const EntryReader& entries, const WantedChecks& wanted,
+                            std::size_t most) {
+    FoundFaults faults(wanted, most);
     const CifDocument& document = entries.document();
     for (const FileCheck& row : file_checks) {
-        if (wanted.contain_any(row.codes())) row.check(document, findings);
+        if (wanted.contain_any(row.codes())) row.check(document, faults);
     }
     for (std::size_t i = 0; i < entries.size(); ++i) {
         CifEntry entry = entries[i];
-        CheckedEntry checked(document, entry, entries.common_block_of(i), findings);
+        CheckedEntry checked(document, entry, entries.common_block_of(i), faults);
         for (const EntryCheck& row : entry_checks) {
             if (wanted.contain_any(row.codes())) row.check(checked);
         }
-        take_problems(entry, findings);
+        take_problems(entry, faults);
     }
-    std::erase_if(findings, [&](const CheckFinding& finding) {
-        return !wanted.contain(*finding.code, finding.problem.level);
-    });
-    put_in_order(findings);
+    CheckFindings findings = faults.take();
     Regions regions(document);
     for (CheckFinding& finding : findings) regions.note(finding);
     return findings;

@@ -12,7 +12,7 @@ namespace {
 
 class FileCheck {
 public:
-    FileCheck(const CifDocument& document, CheckFindings& findings)
+    FileCheck(const CifDocument& document, FoundFaults& findings)
         : document_(document), findings_(findings) {}
 
     void check_block(std::size_t index) {
@@ -59,13 +59,13 @@ private:
     }
 
     const CifDocument& document_;
-    CheckFindings& findings_;
+    FoundFaults& findings_;
     std::unordered_set<std::string> names_;
 };
 
 }  // namespace
 
-void check_file(const CifDocument& document, CheckFindings& findings) {
+void check_file(const CifDocument& document, FoundFaults& findings) {
     FileCheck check(document, findings);
     for (std::size_t block = 0; block < document.blocks(); ++block) check.check_block(block);
 }

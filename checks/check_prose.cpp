@@ -59,7 +59,7 @@ std::size_t size_of_reference(std::string_view text) {
 /// One value, and what it is called.
 class ProseCheck {
 public:
-    ProseCheck(const CifDocument& document, CheckFindings& findings, const CifItem& item,
+    ProseCheck(const CifDocument& document, FoundFaults& findings, const CifItem& item,
                std::size_t row, Prose prose)
         : document_(document),
           findings_(findings),
@@ -179,7 +179,7 @@ private:
     static bool is_line_end(char c) { return c == '\n' || c == '\r' || c == '\'' || c == '"'; }
 
     const CifDocument& document_;
-    CheckFindings& findings_;
+    FoundFaults& findings_;
     CifValue value_;
     std::string tag_;
     Prose prose_;
@@ -188,7 +188,7 @@ private:
 
 }  // namespace
 
-void check_prose(const CifDocument& document, CheckFindings& findings) {
+void check_prose(const CifDocument& document, FoundFaults& findings) {
     for (std::size_t block = 0; block < document.blocks(); ++block) {
         for (const CifItem* item : document.items(block)) {
             const Prose prose = prose_of(in_lower_case(item->tag()));

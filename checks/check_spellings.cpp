@@ -21,7 +21,7 @@ struct Spelling {
 
 class SpellingCheck {
 public:
-    SpellingCheck(const CifDocument& document, CheckFindings& findings)
+    SpellingCheck(const CifDocument& document, FoundFaults& findings)
         : document_(document), findings_(findings) {}
 
     void check(std::size_t block, const CifItem& item) {
@@ -52,13 +52,13 @@ private:
     }
 
     const CifDocument& document_;
-    CheckFindings& findings_;
+    FoundFaults& findings_;
     std::unordered_map<std::string, Spelling> spellings_;
 };
 
 }  // namespace
 
-void check_spellings(const CifDocument& document, CheckFindings& findings) {
+void check_spellings(const CifDocument& document, FoundFaults& findings) {
     if (document.blocks() < 2) return;
     SpellingCheck check(document, findings);
     for (std::size_t index = 0; index < document.blocks(); ++index) {

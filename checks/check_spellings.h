@@ -1,7 +1,7 @@
 #pragma once
 
-#include "checks/CheckFinding.h"
+#include "checks/FoundFaults.h"
 #include "entries/CifDocument.h"
 
 /// Finds names of people and substances that are spelt otherwise in a block before.
-void check_spellings(const CifDocument& document, CheckFindings& findings);
+void check_spellings(const CifDocument& document, FoundFaults& findings);

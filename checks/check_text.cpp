@@ -4,7 +4,7 @@
 #include "checks/check_prose.h"
 #include "checks/check_spellings.h"
 
-void check_text(const CifDocument& document, CheckFindings& findings) {
+void check_text(const CifDocument& document, FoundFaults& findings) {
     check_bytes(document, findings);
     check_encoding(document, findings);
     check_prose(document, findings);

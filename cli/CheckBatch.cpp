@@ -15,6 +15,9 @@
 
 namespace {
 
+/// How many repairs of one code are done at a time.
+constexpr std::size_t most_repairs = 20 * FoundFaults::most_told;
+
 /// Repairs the bytes of a file and checks what they have become: a repair may have hidden another.
 void repair(const EntryFile& file, const WantedChecks& wanted, CheckedFile& checked) {
     constexpr int most_rounds = 10;
@@ -25,8 +28,9 @@ void repair(const EntryFile& file, const WantedChecks& wanted, CheckedFile& chec
         if (round == 0) checked.file.emplace(file.path());
         checked.repairs += repairs.size();
         bytes = spliced(bytes, repairs);
-        checked.findings = check_entries(EntryReader(bytes), wanted);
+        checked.findings = check_entries(EntryReader(bytes), wanted, most_repairs);
     }
+    checked.findings = first_of_each_code(std::move(checked.findings), FoundFaults::most_told);
     checked.bytes = std::move(bytes);
 }
 
@@ -36,7 +40,8 @@ CheckedFile checked_file(const Place& place, const CheckBatch::Wanted& wanted) {
     try {
         const EntryFile file(place.path);
         if (file.entries()) {
-            checked.findings = check_entries(*file.entries(), wanted.checks);
+            const std::size_t most = wanted.repair ? most_repairs : FoundFaults::most_told;
+            checked.findings = check_entries(*file.entries(), wanted.checks, most);
             if (wanted.repair) repair(file, wanted.checks, checked);
         } else if (file.cif_error()) {
             checked.is_cif = false;

@@ -18,7 +18,7 @@ Case checked(const char* name, unsigned int size, const char* head, const char* 
                 const auto entry = std::make_shared<CifEntry>((*reader)[0]);
                 return [=] {
                     static_cast<void>(bytes);
-                    CheckFindings findings;
+                    FoundFaults findings;
                     CheckedEntry checked(reader->document(), *entry, nullptr, findings);
                     check(checked);
                 };

@@ -106,3 +106,35 @@ TEST(CheckEntries, TellsOnceWhatEntriesHaveInCommon) {
     EXPECT_EQ(std::count(codes.begin(), codes.end(), "year-invalid"), 1);
     EXPECT_EQ(std::count(codes.begin(), codes.end(), "not-a-number"), 2);
 }
+
+TEST(CheckEntries, CountsWhatIsBeyondAThousandOfACode) {
+    const struct {
+        const char* code;
+        std::string head, unit;
+        unsigned long count;  // of units
+        std::string more;
+    } cases[] = {
+        {"item-twice", "data_a\n_a 1\n", "_a 1\n", 3000, "2,000 more of these"},
+        {"block-empty", "", "data_a\n", 1000, ""},
+        {"block-empty", "", "data_a\n", 1001, "1 more of these"},
+        {"control-character", "data_a\n_a 1\n", "#\x01\n", 9000, "8,000 more of these"},
+        {"not-ascii", "data_a\nloop_\n_a\n", "'\xC3\xA9'\n", 1500, "500 more of these"},
+        {"lone-mark", "data_a\nloop_\n_chemical_name_common\n", "H~2\n", 2500,
+         "1,500 more of these"},  // which reading and checking find both
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.code);
+        std::string file = c.head;
+        for (unsigned long i = 0; i < c.count; ++i) file += c.unit;
+        CheckFindings of_code;
+        for (const CheckFinding& finding : findings_in(file)) {
+            if (std::string(finding.code->code) == c.code) of_code.push_back(finding);
+        }
+        const auto heads =
+            static_cast<unsigned long>(std::count(c.head.begin(), c.head.end(), '\n'));
+        ASSERT_EQ(of_code.size(), c.more.empty() ? 1000U : 1001U);
+        EXPECT_EQ(of_code.back().problem.line, heads + of_code.size());
+        EXPECT_EQ(of_code.back().count, c.count - of_code.size() + 1);
+        EXPECT_EQ(of_code.size() > 1000 ? of_code.back().problem.what : "", c.more);
+    }
+}
