@@ -17,11 +17,12 @@ public:
 
     void check_block(std::size_t index) {
         const std::string_view name = document_.name_of(index);
+        const char* const heading = document_.heading_of(index);
         const bool is_new = names_.insert(in_lower_case(name)).second;
-        if (!is_new) add("block-twice", name.data(), std::string(name));
+        if (!is_new) add("block-twice", heading, std::string(name));
         const CifBlock block = document_.block(index);
         const CifBlock::Items items = document_.items(index);
-        if (items.empty()) add("block-empty", name.data(), "");
+        if (items.empty()) add("block-empty", heading, "");
         for (const CifItem* repeated : block.repetitions()) add("item-twice", *repeated);
         const char* loop = nullptr;
         for (const CifItem* item : items) {

@@ -163,7 +163,7 @@ CifDocument::CifDocument(std::string_view bytes) : bytes_(bytes) {
         throw CifError(line_of(bytes.data() + place), message, code_of(message),
                        column_of(bytes.data() + place));
     }
-    if (contents_.blocks.empty()) throw CifError(1, "expected a data block");
+    if (contents_.blocks.empty()) throw CifError(1, "expected a data block", "not-cif", 1);
 }
 
 std::size_t CifDocument::end_of_items(std::size_t block) const {

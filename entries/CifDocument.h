@@ -153,6 +153,8 @@ public:
     std::string_view bytes() const { return bytes_; }
     /// Whether it says that it is of version 2 of CIF.
     bool is_version_2() const;
+    /// Where its name stands, or what stands for one; `index` is below blocks().
+    const char* heading_of(std::size_t index) const { return contents_.blocks[index].heading; }
     /// Where the heading of a block ends; `index` is below blocks().
     const char* end_of_heading(std::size_t index) const;
     /// The items of a block, outside save frames, in the order of the file; `index` is below

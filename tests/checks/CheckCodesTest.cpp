@@ -82,6 +82,10 @@ TEST(CheckEntries, TellsWhereEachFaultStands) {
         {"data_a\r\n_publ_section_title\r\n;\\\r\nfol\\\r\nded~2\r\n;\r\n", "lone-mark", 5, 4, 4},
         {"data_a\nloop_\n_cell_length_a\n_cell_length_b\n1 2\n3\n", "loop-not-full", 2, 1, 1},
         {"#\x01\ndata_a\n_cell_length_a 1\n", "control-character", 1, 2, 2},
+        {"data_\n", "block-empty", 1, 6, 6},
+        {"data_\n_x 1\ndata_\n_x 2\n", "block-twice", 3, 6, 6},
+        {"data_a\n_x 1\nglobal_\n", "block-empty", 3, 1, 1},
+        {"", "not-cif", 1, 1, 1},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.file);
