@@ -87,17 +87,46 @@ std::string_view take_literal(std::string_view& way) {
     return literal;
 }
 
+/// A way with dots for its parts, of which those side by side are one.
+std::string outline_of(std::string_view way) {
+    std::string text;
+    while (!way.empty()) {
+        text += take_literal(way);
+        std::size_t part = 0;
+        if (take_part(way, part)) text += "...";
+        while (take_part(way, part)) continue;
+    }
+    return text;
+}
+
+/// How many bytes of a way are no parts.
+std::size_t literals_in(std::string_view way) {
+    std::size_t size = 0;
+    for (std::size_t part = 0; !way.empty();) {
+        size += take_literal(way).size();
+        while (take_part(way, part)) continue;
+    }
+    return size;
+}
+
 /// Finds the ways in which a text is of a form.
 class Matcher {
 public:
-    Matcher(const FieldForm::Parts& present, const FieldForm::Fits& fits, FieldForm::Parts& best)
-        : present_(present), fits_(fits), best_(best) {}
+    Matcher(const FieldForm::Parts& present, const FieldForm::Fits& fits)
+        : present_(present), fits_(fits) {}
 
     void match(std::string_view way, std::string_view text) {
         parts_.assign(present_.size(), "");
+        literals_ = literals_in(way);
         go_on(way, text);
     }
-    bool has_matched() const { return score_ >= 0; }
+    /// The parts of the best way; null: none.
+    const FieldForm::Parts* best() const {
+        const bool has_slip =
+            misfit_.is_there && (!fit_.is_there || misfit_.literals > fit_.literals);
+        const Match& match = has_slip ? misfit_ : fit_;
+        return match.is_there ? &match.parts : nullptr;
+    }
 
 private:
     void go_on(std::string_view way, std::string_view text) {
@@ -131,27 +160,40 @@ private:
     }
 
     void keep() {
-        int score = most_parts;
+        Match match{true, parts_, 0, literals_, 0};
+        bool fits = true;
         for (std::size_t i = 0; i < parts_.size(); ++i) {
             if (parts_[i] == present_[i]) {
-                ++score;
-            } else if (score >= most_parts && !parts_[i].empty() && !fits_(i, parts_[i])) {
-                score -= most_parts;
+                ++(parts_[i].empty() ? match.absent : match.same);
+            } else if (fits && !parts_[i].empty()) {
+                fits = fits_(i, parts_[i]);
             }
         }
-        if (score <= score_) return;
-        score_ = score;
-        best_ = parts_;
+        Match& best = fits ? fit_ : misfit_;
+        if (!best.is_there || best.is_worse_than(match)) best = std::move(match);
     }
 
+    struct Match {
+        bool is_there = false;
+        FieldForm::Parts parts{};
+        std::size_t same = 0;      // parts as they are present
+        std::size_t literals = 0;  // in bytes
+        std::size_t absent = 0;    // parts that are not present either
+
+        bool is_worse_than(const Match& other) const {
+            if (same != other.same) return same < other.same;
+            if (literals != other.literals) return literals < other.literals;
+            return absent < other.absent;
+        }
+    };
+
     static constexpr unsigned int most = 1000;  // of a text made to have more
-    static constexpr int most_parts = 10;
 
     const FieldForm::Parts& present_;
     const FieldForm::Fits& fits_;
-    FieldForm::Parts& best_;
     FieldForm::Parts parts_;
-    int score_ = -1;
+    std::size_t literals_ = 0;
+    Match fit_, misfit_;
     unsigned int tries_ = 0;
 };
 
@@ -184,28 +226,18 @@ std::string FieldForm::text_of(const Parts& parts) const {
 
 bool FieldForm::match(std::string_view text, const Parts& present, const Fits& fits,
                       Parts& parts) const {
-    Matcher matcher(present, fits, parts);
+    Matcher matcher(present, fits);
     for (const std::string& way : ways_) matcher.match(way, text);
-    return matcher.has_matched();
+    const Parts* const best = matcher.best();
+    if (best) parts = *best;
+    return best != nullptr;
 }
 
 std::string FieldForm::outline() const {
     std::string longest;
-    std::size_t most_places = 0;
-    for (std::string_view way : ways_) {
-        std::string text;
-        std::size_t places = 0;
-        while (!way.empty()) {
-            text += take_literal(way);
-            std::size_t part = 0;
-            if (!take_part(way, part)) continue;
-            text += "...";
-            ++places;
-            while (take_part(way, part)) continue;
-        }
-        if (places <= most_places) continue;
-        most_places = places;
-        longest = std::move(text);
+    for (const std::string& way : ways_) {
+        std::string text = outline_of(way);
+        if (text.size() > longest.size()) longest = std::move(text);
     }
     return longest;
 }

@@ -25,9 +25,11 @@ public:
     /// where there is none.
     std::string text_of(const Parts& parts) const;
     /// The parts of a text, empty where they lack; of several ways one whose parts fit, then that
-    /// with most parts as in `present`, then the first. False where the text is not of the form.
+    /// with most parts as in `present`, then that which says most beside them. One that says more,
+    /// and whose parts do not fit, goes before: it has a slip. False where the text is not of the
+    /// form.
     bool match(std::string_view text, const Parts& present, const Fits& fits, Parts& parts) const;
-    /// The first of its ways with most places for parts, with dots there: "a ... b ... c ...".
+    /// The longest of its ways, with dots for the parts: "a ... b ... c ...".
     std::string outline() const;
 
 private:

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <set>
@@ -127,9 +128,22 @@ std::vector<std::string> given_names(const std::string& text, const std::vector<
     return names;
 }
 
+/// Whether a surname is the other but for accents, or, where it is long, a run of a few letters.
+bool is_spelled_anew(const std::string& old, const std::string& name) {
+    constexpr std::size_t letters_a_slip = 5;
+    const std::string a = key_of_surname(old), b = key_of_surname(name);
+    const auto [in_a, in_b] = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+    const auto behind = std::mismatch(a.rbegin(), std::make_reverse_iterator(in_a), b.rbegin(),
+                                      std::make_reverse_iterator(in_b));
+    const auto same = (in_a - a.begin()) + (behind.first - a.rbegin());
+    const std::size_t longer = std::max(a.size(), b.size());
+    return longer - static_cast<std::size_t>(same) <= longer / letters_a_slip;
+}
+
 /// A new name with the given names of the old one in whose place it stands, where they have its
-/// initials: they may be written out there.
+/// initials and it is the same person: they may be written out there.
 std::string with_given_names_of(const std::string& old, const std::string& name) {
+    if (!is_spelled_anew(old, name)) return name;
     const std::size_t given = old.find(','), end_of_surname = name.find(',');
     if (given == std::string::npos || end_of_surname == std::string::npos) return name;
     std::string longer = name.substr(0, end_of_surname) + old.substr(given);

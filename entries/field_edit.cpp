@@ -44,6 +44,20 @@ bool is_in_codes(const FieldPart& part) {
     return part.kind == FieldPart::text || part.kind == FieldPart::name;
 }
 
+/// Whether pages stand in the place of all else that there is of a reference: what is no page, such
+/// as a year, looks like one, too.
+bool is_page_instead(const FieldItems& field, const FieldForm::Parts& present,
+                     const FieldForm::Parts& wanted) {
+    bool has_page = false, has_other = false;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        const bool is_page = field.parts[i].kind == FieldPart::page;
+        if (!wanted[i].empty() && (!is_page || !present[i].empty())) return false;
+        has_page = has_page || !wanted[i].empty();
+        has_other = has_other || !present[i].empty();
+    }
+    return has_page && has_other;
+}
+
 }  // namespace
 
 FieldWriting field_writing(std::string_view label) {
@@ -64,6 +78,9 @@ void edit_parts(EditedEntry& entry, const FieldItems& field, const std::string& 
     };
     FieldForm::Parts wanted(present.size());
     if (!text.empty() && !field.form.match(text, present, fits, wanted)) {
+        refuse("a text like '" + field.form.outline() + "'", text);
+    }
+    if (is_page_instead(field, present, wanted)) {
         refuse("a text like '" + field.form.outline() + "'", text);
     }
     std::vector<std::pair<const FieldPart*, EditedEntry::Text>> changes;

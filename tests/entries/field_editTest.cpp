@@ -152,7 +152,8 @@ TEST(field_edit, SaysWhyItRefuses) {
     const std::string cell =
         "data_x\n_cell_length_a 5\n_cell_length_b 6\n_cell_length_c 7\n_cell_angle_alpha 90\n"
         "_cell_angle_beta 90\n_cell_angle_gamma 90\n_symmetry_space_group_name_H-M 'P 1'\n"
-        "_cell_formula_units_Z 2\n_chemical_name_common x\n_chemical_name_mineral y\n";
+        "_cell_formula_units_Z 2\n_journal_year 2000\n_chemical_name_common "
+        "x\n_chemical_name_mineral y\n";
     const struct {
         const char *label, *text, *reason;
     } cases[] = {
@@ -184,6 +185,8 @@ TEST(field_edit, SaysWhyItRefuses) {
         {"Temperature (K)", "cold", "expected a number in K above 0, not 'cold'"},
         {"Theta Range", "2.0-30.0\u00B0",
          "expected a number in a text like '... to ...\u00B0', not '2.0-30.0'"},
+        {"Absorption Correction", "multi-scan, T 0,5 to 0.9",
+         "expected a number in a text like '..., T ... to ...', not '0,5'"},
         {"Crystal Size", "0.3 by 0.2 mm",
          "expected a number in a text like '... \u00D7 ... \u00D7 ... mm', not '0.3 by 0.2'"},
         {"Temperature (text)", "293",
@@ -202,8 +205,10 @@ TEST(field_edit, SaysWhyItRefuses) {
          "expected names like 'J.Smith, R.von Dreele' or 'Smith, John; von Dreele, R.', not "
          "'Smith'"},
         {"Literature Reference", "Acta Cryst. C60, m258",
-         "expected a page like 12 or m258 in a text like '<j>...</j><v>...</v><y>...</y>"
-         "<p>...-...</p>', not 'Acta Cryst. C60, m258'"},
+         "expected a text like '<j>...</j><v>...</v><y>...</y><p>...-...</p>', not 'Acta Cryst. "
+         "C60, m258'"},
+        {"Literature Reference", "2001",
+         "expected a text like '<j>...</j><v>...</v><y>...</y><p>...-...</p>', not '2001'"},
         {"Cross References", "CSD ABCDEF",
          "expected references like 'Same structure CSD ABCDEF', not 'CSD ABCDEF'"},
         {"R-Factor (%)", "low", "expected a number of per cent, not 'low'"},
@@ -247,6 +252,7 @@ TEST(field_edit, KeepsTheRowsOfAuthors) {
         {"Smith, John; M\u00FCller, K. X.", "'Smith, John' here\n'M\\\"uller, K. X.' 'there, 5'\n"},
         {"Smith, John; K.M\u00FCller; Who; R.Franklin",
          "'Smith, John' here\n'M\\\"uller, Karl' 'there, 5'\nWho ?\n'Franklin, R.' ?\n"},
+        {"J.Mueller, K.Mueller", "'Mueller, J.' here\n'Mueller, Karl' 'there, 5'\n"},
         {"K.Muller, A.New", "'Muller, Karl' 'there, 5'\n'New, A.' ?\n"},
         {"John Smith, Rosalind Franklin", "'Smith, John' here\n'Franklin, Rosalind' 'there, 5'\n"},
     };
