@@ -153,7 +153,9 @@ std::optional<std::string> value_of(const FieldPart& part, const std::string& te
             if (is_number(text)) return std::nullopt;
             return with_codes(text, is_version_2);
         case FieldPart::page:
-            if (text.find_first_of(" <>") != std::string::npos) return std::nullopt;
+            if (!has_digit(text) || text.find_first_of(" <>") != std::string::npos) {
+                return std::nullopt;
+            }
             return with_codes(text, is_version_2);
         case FieldPart::formula:
             return if_it(is_formula(text), text);
@@ -165,7 +167,7 @@ std::optional<std::string> value_of(const FieldPart& part, const std::string& te
         case FieldPart::density:
             return if_it(is_number_or_range(bare), bare);
         case FieldPart::quantity:
-            if (bare == text && (text[0] == '<' || text[0] == '>')) return std::nullopt;
+            if (text.find_first_of("<>") != std::string::npos) return std::nullopt;
             return with_codes(bare, is_version_2);
         case FieldPart::count:
             return if_it(is_whole(text) && is_number_of(part, text), text);

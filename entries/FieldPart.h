@@ -17,12 +17,12 @@ struct FieldPart {
         name,      ///< Likewise, one that is broken over lines at its hyphens.
         plain,     ///< Any text, in UTF-8.
         words,     ///< Likewise, but no number.
-        page,      ///< Likewise, without blanks or tags.
+        page,      ///< Likewise, with a digit, without blanks or tags.
         formula,   ///< Of a compound.
         number,    ///< With or without its uncertainty, and its unit behind it.
         range,     ///< Likewise, or two with a dash between.
         density,   ///< Likewise; what has no digits says nothing.
-        quantity,  ///< Likewise, or any text.
+        quantity,  ///< Likewise, or any text without < and >.
         printed,   ///< A number as records print it.
         count,     ///< A number without decimals.
         per_cent,  ///< A number that is a fraction in the file.

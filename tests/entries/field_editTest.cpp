@@ -209,6 +209,8 @@ TEST(field_edit, SaysWhyItRefuses) {
          "C60, m258'"},
         {"Literature Reference", "2001",
          "expected a text like '<j>...</j><v>...</v><y>...</y><p>...-...</p>', not '2001'"},
+        {"Literature Reference", "Acta",
+         "expected a text like '<j>...</j><v>...</v><y>...</y><p>...-...</p>', not 'Acta'"},
         {"Cross References", "CSD ABCDEF",
          "expected references like 'Same structure CSD ABCDEF', not 'CSD ABCDEF'"},
         {"R-Factor (%)", "low", "expected a number of per cent, not 'low'"},
@@ -233,6 +235,18 @@ TEST(field_edit, UnderstandsWhatIsUsuallyTyped) {
     };
     for (const auto& c : cases) {
         EXPECT_EQ(shown(edited("data_x\n_cell_length_a 5", c.label, c.text), c.label), c.shown);
+    }
+}
+
+TEST(field_edit, FindsThePartsOfATextThatMayBeOne) {
+    const char* const cases[][3] = {
+        {"Absorption Correction", "multi-scan, T 0.5 to 0.9",
+         "_exptl_absorpt_correction_T_max 0.9"},
+        {"Absorption Correction", "T up to 0.9", "_exptl_absorpt_correction_T_max 0.9"},
+        {"Melting Point", "> 340 K, < 350 K", "_chemical_melting_point_gt 340"},
+    };
+    for (const auto& [label, text, line] : cases) {
+        EXPECT_THAT(edited("data_x", label, text), testing::HasSubstr(line));
     }
 }
 
