@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <unordered_set>
@@ -24,6 +25,7 @@ public:
         const CifBlock::Items items = document_.items(index);
         if (items.empty()) add("block-empty", heading, "");
         for (const CifItem* repeated : block.repetitions()) add("item-twice", *repeated);
+        repaired_.clear();
         const char* loop = nullptr;
         for (const CifItem* item : items) {
             check_tag(block, *item);
@@ -55,13 +57,17 @@ private:
         finding.problem.found = item.tag();
         finding.problem.item.clear();
         finding.problem.expected = *known;
-        if (block.find(in_lower_case(*known))) return;  // it would be there twice
+        std::string repaired = in_lower_case(*known);
+        if (block.find(repaired)) return;  // it would be there twice
+        std::replace(repaired.begin(), repaired.end(), '.', '_');
+        if (!repaired_.insert(std::move(repaired)).second) return;
         finding.repair = splice_of(document_, item.tag(), *known);
     }
 
     const CifDocument& document_;
     FoundFaults& findings_;
     std::unordered_set<std::string> names_;
+    std::unordered_set<std::string> repaired_;  // tags that the block will have
 };
 
 }  // namespace
