@@ -126,15 +126,11 @@ CheckFindings check_entries(const EntryReader& entries, const WantedChecks& want
 }
 
 CheckFinding finding_of(const CifError& error) {
-    CheckFinding finding{&code_named(error.code()), {}};
+    CheckFinding finding{&code_named(error.problem().code), error.problem()};
     Problem& problem = finding.problem;
-    problem.code = finding.code->code;
     problem.level = finding.code->level;
-    problem.line = error.line();
-    problem.column = error.column();
-    problem.what = error.what();
-    finding.region.line = finding.region.end_line = std::max(error.line(), 1UL);
-    finding.region.column = finding.region.end_column = std::max(error.column(), 1UL);
+    if (problem.what.empty()) problem.what = finding.code->summary;
+    finding.region = {problem.line, problem.column, problem.line, problem.column};
     return finding;
 }
 

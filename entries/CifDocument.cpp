@@ -10,12 +10,7 @@ namespace {
 namespace pegtl = tao::pegtl;
 
 constexpr char rows_not_full[] = "Wrong number of values in the loop";
-
-/// What checks call what the grammar finds.
-const char* code_of(const std::string& message) {
-    if (message == rows_not_full) return "loop-not-full";
-    return message.rfind("unterminated", 0) == 0 ? "not-terminated" : "not-cif";
-}
+constexpr std::string_view unterminated = "unterminated";
 
 /// Takes what the grammar finds, in the order of the file.
 struct Builder {
@@ -24,7 +19,9 @@ struct Builder {
     std::string_view tag{};                // of the present item that is not in a loop
     std::vector<std::string_view> tags{};  // of the present loop
     const char* origin = nullptr;          // of the present loop
+    const char* opening = nullptr;         // of the present value in quotes or text field
     std::size_t first = 0;                 // of its values
+    std::size_t values_of_loop = 0;        // of the last one that has ended
 
     void add_block(std::string_view name, const char* heading) {
         contents.blocks.push_back({name, heading, contents.items.size(), contents.doubts.size()});
@@ -63,13 +60,13 @@ struct Builder {
     /// Returns whether each row is full.
     bool end_loop() {
         const std::size_t columns = tags.size();
-        const std::size_t rows = (contents.values.size() - first) / columns;
-        const bool is_full = contents.values.size() == first + rows * columns;
+        values_of_loop = contents.values.size() - first;
+        const std::size_t rows = values_of_loop / columns;
         for (std::size_t i = 0; i < columns && !in_frame; ++i) {
             contents.items.emplace_back(tags[i], origin, contents.values, first, i, columns, rows);
         }
         if (in_frame) contents.values.resize(first);
-        return is_full;
+        return values_of_loop == rows * columns;
     }
 };
 
@@ -136,9 +133,18 @@ const char* message_of_field(const Builder& builder, const char* place) {
     return "expected a tag behind the text field, which ends at the ';' that begins this line";
 }
 
+template <class Rule>
+constexpr std::string_view message_of = cif_rules::message<Rule> ? cif_rules::message<Rule> : "";
+
 /// Says what was expected.
 template <class Rule>
 struct Control : pegtl::normal<Rule> {
+    static void start(const cif_rules::Input& in, Builder& builder) {
+        if constexpr (message_of<Rule>.substr(0, unterminated.size()) == unterminated) {
+            const bool is_triple = message_of<Rule>.find("triple") != std::string_view::npos;
+            builder.opening = in.current() - (is_triple ? 3 : 1);
+        }
+    }
     static void raise(const cif_rules::Input& in, const Builder& builder) {
         const char* message = cif_rules::message<Rule>;
         if (std::is_same_v<Rule, cif_rules::end>) {
@@ -149,6 +155,30 @@ struct Control : pegtl::normal<Rule> {
     }
 };
 
+/// What checks tell of it, and where: what does not end stands before the place.
+Problem problem_of(const Builder& builder, const std::string& message, std::string_view bytes,
+                   std::size_t& place) {
+    Problem problem;
+    problem.code = "not-cif";
+    if (!builder.contents.blocks.empty()) problem.block = builder.contents.blocks.back().name;
+    if (message == rows_not_full) {
+        problem.code = "loop-not-full";
+        problem.item = in_lower_case(builder.tags.front());
+        problem.found = std::to_string(builder.values_of_loop).append(" values");
+        problem.expected = "rows of ";
+        problem.expected += std::to_string(builder.tags.size());
+    } else if (message.rfind(unterminated, 0) == 0) {
+        problem.code = "not-terminated";
+        const bool is_list = message.find("list") != std::string::npos;  // told where it begins
+        if (!is_list) place = static_cast<std::size_t>(builder.opening - bytes.data());
+        const std::string_view rest = bytes.substr(place);
+        problem.found = rest.substr(0, rest.find_first_of("\r\n"));
+    } else {
+        problem.what = message;
+    }
+    return problem;
+}
+
 }  // namespace
 
 CifDocument::CifDocument(std::string_view bytes) : bytes_(bytes) {
@@ -158,12 +188,19 @@ CifDocument::CifDocument(std::string_view bytes) : bytes_(bytes) {
         // Not gemmi's own actions: they copy every value and lose where it stood.
         pegtl::parse<cif_rules::file, Action, Control>(cif_rules::Input(bytes), builder);
     } catch (const pegtl::parse_error& error) {
-        const std::size_t place = error.positions().front().byte;
+        std::size_t place = error.positions().front().byte;
         const std::string message(error.message());
-        throw CifError(line_of(bytes.data() + place), message, code_of(message),
-                       column_of(bytes.data() + place));
+        const unsigned long line = line_of(bytes.data() + place);
+        Problem problem = problem_of(builder, message, bytes, place);
+        problem.line = line_of(bytes.data() + place);
+        problem.column = column_of(bytes.data() + place);
+        throw CifError(line, message, std::move(problem));
     }
-    if (contents_.blocks.empty()) throw CifError(1, "expected a data block", "not-cif", 1);
+    if (!contents_.blocks.empty()) return;
+    Problem problem;
+    problem.code = "not-cif";
+    problem.line = problem.column = 1;
+    throw CifError(1, "expected a data block", std::move(problem));
 }
 
 std::size_t CifDocument::end_of_items(std::size_t block) const {
@@ -190,13 +227,6 @@ CifBlock CifDocument::common_block(std::size_t first, std::size_t last) const {
     return {contents_.blocks[first].name, std::move(items)};
 }
 
-std::size_t CifDocument::block_at(const char* place) const {
-    const auto behind = std::upper_bound(
-        contents_.blocks.begin(), contents_.blocks.end(), place,
-        [](const char* at, const Contents::Block& block) { return at < block.heading; });
-    return static_cast<std::size_t>(behind - contents_.blocks.begin()) - 1;
-}
-
 std::vector<CifDocument::Doubt> CifDocument::doubts(std::size_t index) const {
     const std::size_t first = contents_.blocks[index].first_doubt;
     const std::size_t end = index + 1 < contents_.blocks.size()
@@ -206,32 +236,6 @@ std::vector<CifDocument::Doubt> CifDocument::doubts(std::size_t index) const {
     return {doubts + first, doubts + end};
 }
 
-unsigned long CifDocument::line_of(const char* place) const {
-    if (line_ends_.empty()) {
-        for (std::size_t i = 0; i < bytes_.size(); ++i) {
-            const bool carriage_return = bytes_[i] == '\r' && bytes_.substr(i + 1, 1) != "\n";
-            if (carriage_return || bytes_[i] == '\n') line_ends_.push_back(&bytes_[i]);
-        }
-        line_ends_.push_back(bytes_.data() + bytes_.size());
-    }
-    const auto end = std::lower_bound(line_ends_.begin(), line_ends_.end(), place);
-    return static_cast<unsigned long>(end - line_ends_.begin()) + 1;
-}
-
-unsigned long CifDocument::column_of(const char* place) const {
-    const unsigned long line = line_of(place);
-    const char* const begin = line == 1 ? bytes_.data() : line_ends_[line - 2] + 1;
-    return static_cast<unsigned long>(place - begin) + 1;
-}
-
 bool CifDocument::is_version_2() const {
     return cif_rules::Input(without_byte_order_mark(bytes_)).is_version_2();
-}
-
-const char* CifDocument::end_of_heading(std::size_t index) const {
-    const Contents::Block& block = contents_.blocks[index];
-    const bool has_name = block.name.data() == block.heading;  // else "data_" or "global_"
-    if (has_name) return block.heading + block.name.size();
-    const bool is_global = block.name.empty();
-    return block.heading + (is_global ? std::string_view("global_").size() : 0);
 }

@@ -4,25 +4,25 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "entries/Problem.h"
 
 /// Bytes are not a CIF file; what() says why.
 class CifError : public std::runtime_error {
 public:
-    /// `line` counts from 1.
-    CifError(unsigned long line, const std::string& reason, const char* code = "not-cif",
-             unsigned long column = 0)
-        : std::runtime_error(reason), line_(line), column_(column), code_(code) {}
+    /// `line`, from 1, is where reading ended. The problem is what checks tell: its code, what was
+    /// found where, as of quotes that do not close, and what was expected.
+    CifError(unsigned long line, const std::string& reason, Problem problem)
+        : std::runtime_error(reason), line_(line), problem_(std::move(problem)) {}
 
     unsigned long line() const { return line_; }
-    /// In bytes, from 1; 0: not known.
-    unsigned long column() const { return column_; }
-    /// What checks call it.
-    const char* code() const { return code_; }
+    const Problem& problem() const { return problem_; }
 
 private:
-    unsigned long line_, column_;
-    const char* code_;
+    unsigned long line_;
+    Problem problem_;
 };
 
 /// What sets a value off from what stands around it. Lists and tables are bare.

@@ -96,7 +96,8 @@ struct loop_values : pegtl::sor<pegtl::plus<pegtl::seq<loop_value, pegtl::must<v
                                 pegtl::at<pegtl::sor<cif::keyword, pegtl::eof>>> {};  // none: wrong, but seen
 struct loop_tags : pegtl::plus<pegtl::seq<loop_tag, whitespace>> {};
 struct loop : pegtl::if_must<cif::str_loop, whitespace, loop_tags, loop_values, pegtl::opt<cif::str_stop, ws_or_eof>> {};
-struct item : pegtl::if_must<item_tag, whitespace, value_or_none> {};
+struct item_tag_end : whitespace {};
+struct item : pegtl::if_must<item_tag, item_tag_end, value_or_none> {};
 struct frame_name : pegtl::plus<cif::nonblank_ch> {};
 struct frame_end : cif::str_save {};
 struct frame : pegtl::if_must<cif::str_save, frame_name, whitespace, pegtl::star<pegtl::sor<item, loop>>, frame_end, ws_or_eof> {};
@@ -124,6 +125,8 @@ template <>
 inline constexpr const char* message<field_tail> = "unterminated text field";
 template <>
 inline constexpr const char* message<value_end> = "expected a blank behind the value";
+template <>
+inline constexpr const char* message<item_tag_end> = "expected a value behind the tag";
 template <>
 inline constexpr const char* message<value_or_none> = "expected a value";
 template <>

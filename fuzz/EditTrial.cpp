@@ -12,7 +12,7 @@ EditTrial::EditTrial(std::string cif) : session_(std::move(cif)) {
     try {
         before_ = read_cif_tokens(session_.bytes());
     } catch (const std::runtime_error& error) {
-        throw CifError(1, error.what());
+        throw CifError(1, error.what(), {});
     }
     for (std::size_t i = 0; i < items(); ++i) {
         for (std::size_t row = 0; row < rows(i); ++row) places_.push_back({i, row});
