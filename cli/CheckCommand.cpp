@@ -63,7 +63,8 @@ private:
         add_row_option(command, choices, "--level", level_, std::span<const LevelRow>(levels),
                        "How grave findings must be to be told; warning unless given");
         command.add_flag("--fix", repairs_,
-                         "Do the repairs that are safe, in the files, and tell what is left");
+                         "Do in the files the repairs of what --level tells that are safe, and "
+                         "tell what is left");
         command.add_flag(
             "--backup", keeps_backups_,
             "With --fix keep each file that changes as it was, with ~ behind its name");
@@ -115,7 +116,7 @@ private:
         CheckSummary summary;
         unsigned long found = 0;
         bool good = true;
-        if (!is_summary_) output.write(layout->head());
+        if (!is_summary_) output.write(layout->head(LMRTEXT_VERSION));
         while (const std::optional<CheckedFile> file = batch.next()) {
             if (!file->trouble.empty()) report(file->trouble);
             good = good && file->trouble.empty() && file->is_cif;

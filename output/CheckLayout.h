@@ -15,7 +15,8 @@ public:
     CheckLayout& operator=(const CheckLayout&) = delete;
     virtual ~CheckLayout();
 
-    virtual std::string head() const { return ""; }
+    /// `version` is that of the program.
+    virtual std::string head(const std::string& /*version*/) const { return ""; }
     /// The file is that of its problem.
     virtual std::string finding(const CheckFinding& finding) const = 0;
     /// Between two findings.

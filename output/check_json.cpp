@@ -11,7 +11,7 @@ Json json_of(const Splice& repair) {
 
 class CheckJson : public CheckLayout {
 public:
-    std::string head() const override { return "["; }
+    std::string head(const std::string& /*version*/) const override { return "["; }
 
     std::string finding(const CheckFinding& finding) const override {
         const Problem& problem = finding.problem;

@@ -55,10 +55,10 @@ Json fix_of(const CheckFinding& finding) {
 
 class Sarif : public CheckLayout {
 public:
-    std::string head() const override {
+    std::string head(const std::string& version) const override {
         Json rules = Json::array();
         for (const CheckCode& code : check_codes()) rules.push_back(rule_of(code));
-        const Json driver{{"name", "lmrtext"}, {"rules", std::move(rules)}};
+        const Json driver{{"name", "lmrtext"}, {"version", version}, {"rules", std::move(rules)}};
         return "{\n\"$schema\": "
                "\"https://docs.oasis-open.org/sarif/sarif/v2.1.0/os/schemas/"
                "sarif-schema-2.1.0.json\",\n\"version\": \"2.1.0\",\n\"runs\": [{\n"
