@@ -61,7 +61,8 @@ private:
         add_codes_option(command, "--only", only_, "Look for these alone: 'item-twice,not-utf8'");
         add_codes_option(command, "--ignore", ignored_, "Do not look for these");
         add_row_option(command, choices, "--level", level_, std::span<const LevelRow>(levels),
-                       "How grave findings must be to be told; warning unless given");
+                       "How grave findings must be to be told; warning unless given, with "
+                       "--only note");
         command.add_flag("--fix", repairs_,
                          "Do in the files the repairs of what --level tells that are safe, and "
                          "tell what is left");
@@ -110,7 +111,7 @@ private:
     /// Checks one file after the other; returns the exit status.
     int check(std::vector<Place> places, TextOutput& output) const {
         CheckBatch batch(std::move(places), jobs_,
-                         {WantedChecks(level_->level, only_, ignored_), repairs_, keeps_backups_});
+                         {WantedChecks(level(), only_, ignored_), repairs_, keeps_backups_});
         Progress progress(progress_ && !output.is_terminal(), "files", batch.size());
         const std::unique_ptr<CheckLayout> layout = to_->make();
         CheckSummary summary;
@@ -134,6 +135,12 @@ private:
         return found > 0 ? exit_failure : exit_success;
     }
 
+    /// Codes that are named are told whatever their level.
+    Problem::Level level() const {
+        if (level_) return level_->level;
+        return only_.empty() ? Problem::Level::warning : Problem::Level::note;
+    }
+
     static std::string repairs_in_words(std::size_t count) {
         return std::to_string(count) + (count == 1 ? " repair" : " repairs");
     }
@@ -144,7 +151,7 @@ private:
     }
 
     const CheckOutput* to_ = row_named(check_outputs(), "text");
-    const LevelRow* level_ = row_named(std::span<const LevelRow>(levels), "warning");
+    const LevelRow* level_ = nullptr;  // null: not given
     std::vector<const CheckCode*> only_, ignored_;
     bool repairs_ = false;
     bool keeps_backups_ = false;

@@ -35,7 +35,8 @@ TEST_F(Program, ChecksFiles) {
         {"a.cif good.cif", 1, slip},
         {"--level note --jobs 2 good.cif a.cif", 1, slip + blanks},
         {"--level error a.cif", 0, ""},
-        {"--only blanks-doubled,item-twice --level note a.cif", 1, blanks},
+        {"--only blanks-doubled,item-twice a.cif", 1, blanks},
+        {"--only blanks-doubled --level warning a.cif", 0, ""},
         {"--ignore blanks-doubled --level note a.cif", 1, slip},
         {"bad.cif a.cif", 2,
          "bad.cif:2:17: error: not-terminated: data_a: a quotation or text field does not end: "
