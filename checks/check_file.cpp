@@ -24,7 +24,7 @@ public:
         const CifBlock block = document_.block(index);
         const CifBlock::Items items = document_.items(index);
         if (items.empty()) add("block-empty", heading, "");
-        for (const CifItem* repeated : block.repetitions()) add("item-twice", *repeated);
+        for (const CifItem* repeated : block.repetitions()) note_repetition(block, *repeated);
         repaired_.clear();
         const char* loop = nullptr;
         for (const CifItem* item : items) {
@@ -44,6 +44,15 @@ private:
         CheckFinding& finding = add(code, item.tag().data(), "");
         finding.problem.item = in_lower_case(item.tag());
         return finding;
+    }
+
+    void note_repetition(const CifBlock& block, const CifItem& item) {
+        CheckFinding& finding = add("item-twice", item);
+        if (item.size() > 0) finding.problem.found = item[0].content();
+        const CifItem* const first = block.find(item.tag());
+        if (!first || first == &item) return;
+        finding.problem.expected = "only the one in line ";
+        finding.problem.expected += std::to_string(document_.line_of(first->tag().data()));
     }
 
     void note_missing_value(const CifItem& item) {

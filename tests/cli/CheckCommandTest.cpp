@@ -19,6 +19,7 @@ TEST_F(Program, ChecksFiles) {
     file("good.cif", "data_a\n_journal_volume 5\n");
     file("bad.cif", "data_a\n_journal_volume 'x\n");
     file("full.cif", "data_a\nloop_\n_X\n_y\n1 2 3\n");
+    file("twice.cif", "data_a\n_X 1\n_x 2\n");
     file("tag.cif", "data_a\n_z");
     const std::string slip =
         "a.cif:2:1: warning: tag-misspelt: data_a: a known tag is written like this one: "
@@ -45,6 +46,9 @@ TEST_F(Program, ChecksFiles) {
         {"full.cif", 2,
          "full.cif:2:1: error: loop-not-full: data_a: _x: the last row of the loop is not full: "
          "'3 values'; expected rows of 2\n"},
+        {"twice.cif", 1,
+         "twice.cif:3:1: error: item-twice: data_a: _x: the item is given again: '2'; expected "
+         "only the one in line 2\n"},
         {"tag.cif", 2, "tag.cif:2:3: error: not-cif: data_a: expected a value behind the tag\n"},
         {"none.cif", 2, ""},
         {"--only tag-mispelt a.cif", 2, ""},
