@@ -169,7 +169,8 @@ void SpaceGroupReader::compare(const char* code, const CifItem& item,
     }
     const gemmi::SpaceGroup* const other = group_of(operations);
     const std::size_t own = static_cast<std::size_t>(setting_.group->operations().order());
-    if (other) {
+    // One that is found in spite of a slip in a list has not all of its operations.
+    if (other && other->operations().all_ops_sorted() == operations) {
         warn(code, item, *other);
     } else if (operations.size() != own) {
         warn(

@@ -74,6 +74,9 @@ TEST(SpaceGroup, WarnsWhereItemsDisagreeAndThenGivesNoZPrime) {
          "the symbol P21/c has 4 operations, not 3", 0},
         {symbol_item("P -1") + operations_item("x,y,z\n1/4-x,-y,-z\n"),
          "the symbol P -1 has other operations", 0},
+        {symbol_item("C 1 2 1") +
+             operations_item("x,y,z\n-x,y,-z\n1/2+x,1/2+y,z\n1/2-x,1/2+y,1/2-z\n"),
+         "the symbol C 1 2 1 has other operations", 0},
         {symbol_item("P -1") + "_space_group_name_H-M_alt 'P 1'\n",
          "the symbol P 1 is of number 1, not 2", 0},
         {"_space_group_name_Hall '-P 1'\n_space_group_IT_number 1\n",
