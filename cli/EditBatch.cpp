@@ -13,6 +13,16 @@ namespace {
 
 bool is_error(const Problem& problem) { return problem.level == Problem::Level::error; }
 
+/// That of edits of a field; what is found is the block that entries have in common.
+Problem contradiction(Problem problem) {
+    problem.what = "the edits contradict each other";
+    if (!problem.found.empty()) {
+        problem.what += "; entries share what stands in data_" + problem.found;
+        problem.found.clear();
+    }
+    return problem;
+}
+
 }  // namespace
 
 EditBatch::EditBatch(std::vector<Place> places, unsigned int jobs, EditEntries edit)
@@ -62,8 +72,13 @@ void EditBatch::edit(const Place& place, std::size_t number, Edited& done) const
     if (std::any_of(done.problems.begin(), done.problems.end(), is_error)) return;
     session.apply(change.splices);
     if (!session.is_changed()) return;
-    if (change.is_lasting && !edit_(number, session.entries()).splices.empty()) {
-        throw InputError(place.path + ": edits of it contradict each other");
+    if (change.is_lasting) {
+        const FileChange again = edit_(number, session.entries());
+        if (!again.splices.empty()) {
+            done.problems = {contradiction(again.first.value_or(Problem{}))};
+            done.problems.back().file = done.file->path();
+            return;
+        }
     }
     done.bytes = session.bytes();
     done.splices = std::move(change.splices);

@@ -19,6 +19,7 @@ struct FileChange {
     /// Whether the same edits change nothing more where they have been made, unless one undoes what
     /// another did.
     bool is_lasting = false;
+    std::optional<Problem> first{};  ///< The first field that changes, without what is wrong.
 };
 
 /// Changes the entries of place number `place`, several of different places at the same time.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <map>
 #include <system_error>
 #include <utility>
@@ -27,7 +28,7 @@ class EntryChoice {
 public:
     /// What is wrong goes to the problems.
     EntryChoice(const EntryReader& entries, std::vector<Problem>& problems)
-        : names_(entries), problems_(problems) {}
+        : entries_(entries), names_(entries), problems_(problems) {}
 
     /// None where there are several.
     std::optional<std::size_t> only() {
@@ -41,7 +42,11 @@ public:
         const std::vector<std::size_t> found = names_.named(name);
         if (found.size() == 1) return found.front();
         if (found.empty()) {
-            refuse(no_such("block", name, nearest_word(name, names_.all()), ""));
+            refuse(is_common(name)
+                       ? "'" + name +
+                             "' is no entry: it holds what entries have in common; choose one of " +
+                             list_of(names_.all())
+                       : no_such("block", name, nearest_word(name, names_.all()), ""));
         } else if (found.size() != times) {
             refuse(std::to_string(found.size()) + " blocks have the name '" + name + "'");
         } else {
@@ -51,8 +56,17 @@ public:
     }
 
 private:
+    /// Whether a block that is no entry has that name.
+    bool is_common(const std::string& name) const {
+        const CifDocument& document = entries_.document();
+        for (std::size_t i = 0; i < document.blocks(); ++i) {
+            if (document.name_of(i) == name) return true;
+        }
+        return false;
+    }
     void refuse(std::string what) { problems_.emplace_back().what = std::move(what); }
 
+    const EntryReader& entries_;
     EntryNames names_;
     std::vector<Problem>& problems_;
     std::map<std::string, std::size_t> chosen_;  // how often, of several blocks with one name
@@ -103,8 +117,9 @@ FileChange EditRequest::change_of(std::size_t place, const EntryReader& entries)
         const auto entry = block.empty() ? choice.only() : choice.named(block, 1);
         if (entry) change_entry(*entry, editor);
     }
-    change.problems.insert(change.problems.end(), editor.problems().begin(),
-                           editor.problems().end());
+    std::vector<Problem> problems = editor.problems();
+    std::move(problems.begin(), problems.end(), std::back_inserter(change.problems));
+    change.first = editor.first_change();
     change.splices = editor.splices();
     return change;
 }

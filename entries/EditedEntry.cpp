@@ -37,7 +37,7 @@ std::string EditedEntry::value_of(const FieldPart& part, const std::string& text
 void EditedEntry::set(const BlockReader::Value& value, const Text& text) {
     Text written = text;
     if (text) written = in_kept_lines((*value.item)[value.row].content(), *text);
-    edits_.set(*value.item, value.row, written);
+    edits_of(*value.item).set(*value.item, value.row, written);
 }
 
 void EditedEntry::set(Tags tags, const Text& text) {
@@ -50,8 +50,8 @@ void EditedEntry::set(Tags tags, const Text& text) {
     for (const std::string_view tag : tags) {
         const CifItem* const item = block_.item(tag);
         if (!item) continue;
-        if (item->size() > 0) return edits_.set(*item, 0, text);
-        return edits_.set_rows(*item, {{std::nullopt, {{item, text}}}});
+        if (item->size() > 0) return edits_of(*item).set(*item, 0, text);
+        return edits_of(*item).set_rows(*item, {{std::nullopt, {{item, text}}}});
     }
     edits_.add(entries_.block_of(index_), in_style(tags.front()), *text);
 }
@@ -102,7 +102,13 @@ void EditedEntry::set_list(Tags tags, const std::vector<BlockReader::Value>& old
     for (std::size_t row = 0; item->in_loop() && row < item->size(); ++row) {
         if ((*item)[row].text().empty()) rows.push_back({row, {}});
     }
-    edits_.set_rows(*item, std::move(rows));
+    edits_of(*item).set_rows(*item, std::move(rows));
+}
+
+CifEdits& EditedEntry::edits_of(const CifItem& item) {
+    const std::size_t block = entries_.document().block_at(item.origin());
+    if (block != entries_.block_of(index_)) changed_common_block_ = block;
+    return edits_;
 }
 
 std::string EditedEntry::in_style(std::string_view tag) const {

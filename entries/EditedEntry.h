@@ -38,6 +38,9 @@ public:
     /// value that has none, or adds one. No text: all that the tags have is gone.
     void set(Tags tags, const Text& text);
 
+    /// The block of what was changed, if it is not the entry's own.
+    std::optional<std::size_t> changed_common_block() const { return changed_common_block_; }
+
     /// What a list has to become: an old value, with another text or as it is, or a new one.
     struct Member {
         std::optional<std::size_t> old{};  ///< Which of the old ones.
@@ -51,6 +54,8 @@ public:
                   const std::vector<Member>& wanted);
 
 private:
+    /// The edits, of which the next is of this item.
+    CifEdits& edits_of(const CifItem& item);
     /// The tag in the style of the block's own: "_cell.length_a" beside "_cell.length_b".
     std::string in_style(std::string_view tag) const;
 
@@ -58,6 +63,7 @@ private:
     std::size_t index_;
     BlockReader block_;
     CifEdits& edits_;
+    std::optional<std::size_t> changed_common_block_;
 };
 
 /// The texts between separators; one of `old` counts whole, separators and all.

@@ -103,8 +103,9 @@ void edit_parts(EditedEntry& entry, const FieldItems& field, const std::string& 
     for (const auto& [part, value] : changes) entry.set(part->tags(), value);
 }
 
-void edit_field(const EntryReader& entries, std::size_t index, std::string_view label,
-                const std::string& text, CifEdits& edits) {
+std::optional<std::size_t> edit_field(const EntryReader& entries, std::size_t index,
+                                      std::string_view label, const std::string& text,
+                                      CifEdits& edits) {
     const FieldItems* const field = items_of(label);
     if (!field) throw FieldRefused("is no field");
     EditedEntry entry(entries, index, edits);
@@ -120,4 +121,5 @@ void edit_field(const EntryReader& entries, std::size_t index, std::string_view 
         // What stands there may stay, whatever it is.
         if (entry.shown(label) != wanted) throw;
     }
+    return entry.changed_common_block();
 }

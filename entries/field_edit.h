@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -26,6 +28,8 @@ FieldWriting field_writing(std::string_view label);
 /// own form, as show tells it; empty: nothing, "?" in the file. Only items whose part of the text
 /// is another are changed; what is missing is added. Lists are changed row by row; authors may
 /// also stand between semicolons, as files write them: "Smith, John B.; Jones, A.". Throws
-/// FieldRefused and UnwritableText, and `edits` is then as it was.
-void edit_field(const EntryReader& entries, std::size_t index, std::string_view label,
-                const std::string& text, CifEdits& edits);
+/// FieldRefused and UnwritableText, and `edits` is then as it was. Returns the block of what it
+/// changes where entries have that in common, else nothing.
+std::optional<std::size_t> edit_field(const EntryReader& entries, std::size_t index,
+                                      std::string_view label, const std::string& text,
+                                      CifEdits& edits);

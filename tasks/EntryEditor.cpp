@@ -1,5 +1,7 @@
 #include "tasks/EntryEditor.h"
 
+#include <algorithm>
+#include <set>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
@@ -69,9 +71,8 @@ void EntryEditor::attempt(std::size_t index, const Field& field, const Edit& edi
         edit();
     } catch (const std::exception& error) {
         problems_.resize(noted);
-        Problem problem;
-        problem.what = error.what();
-        add(index, field, {std::move(problem)});
+        problems_.push_back(problem_of(index, field));
+        problems_.back().what = error.what();
     }
 }
 
@@ -109,7 +110,49 @@ void EntryEditor::edit(std::size_t index, const Field& field, const std::string&
         kind.note_doubts(*finder, doubts);
         add(index, field, std::move(doubts));
     }
-    edit_field(entries_, index, field.label, text, edits_);
+    const std::optional<std::size_t> common =
+        edit_field(entries_, index, field.label, text, edits_);
+    if (common) {
+        Shared& shared = shared_[{entries_.common_block_of(index), &field}];
+        shared.block = *common;
+        shared.entries.push_back(index);
+    }
+    if (first_change_ || edits_.empty()) return;
+    first_change_ = problem_of(index, field);
+    if (common) first_change_->found = entries_.document().name_of(*common);
+}
+
+std::vector<Problem> EntryEditor::problems() const {
+    std::vector<Problem> problems = problems_;
+    if (shared_.empty()) return problems;
+    std::map<const CifBlock*, std::vector<std::size_t>> sharers;
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+        sharers[entries_.common_block_of(i)].push_back(i);
+    }
+    for (const auto& [place, shared] : shared_) {
+        const std::vector<std::size_t>& all = sharers[place.first];
+        const std::set<std::size_t> edited(shared.entries.begin(), shared.entries.end());
+        if (edited.size() == all.size()) continue;
+        Problem& note = problems.emplace_back(problem_of(shared.entries.front(), *place.second));
+        note.level = Problem::Level::note;
+        note.what = "stands in data_";
+        note.what.append(entries_.document().name_of(shared.block)).append(", and so changes for ");
+        const auto other = std::find_if(all.begin(), all.end(), [&edited](std::size_t entry) {
+            return edited.count(entry) == 0;
+        });
+        note.what += entries_.document().name_of(entries_.block_of(*other));
+        const std::size_t more = all.size() - edited.size() - 1;
+        if (more > 0) note.what.append(" and ").append(std::to_string(more)).append(" more");
+        note.what += ", too";
+    }
+    return problems;
+}
+
+Problem EntryEditor::problem_of(std::size_t index, const Field& field) const {
+    Problem problem;
+    problem.block = std::string(entries_.document().name_of(entries_.block_of(index)));
+    problem.item = field.label;
+    return problem;
 }
 
 void EntryEditor::add(std::size_t index, const Field& field, std::vector<Problem> problems) {

@@ -2,8 +2,10 @@
 
 #include <cstddef>
 #include <exception>
+#include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "entries/CifEdits.h"
@@ -34,7 +36,10 @@ public:
 
     /// What is to be done to the bytes of the file.
     Splices splices() const { return edits_.splices(); }
-    const std::vector<Problem>& problems() const { return problems_; }
+    /// With a note for each field that changes for entries of which no edit was asked for.
+    std::vector<Problem> problems() const;
+    /// The first field that an edit changes, and where it stands if entries have it in common.
+    const std::optional<Problem>& first_change() const { return first_change_; }
 
 private:
     const CifEntry& entry(std::size_t index);
@@ -44,11 +49,21 @@ private:
     std::string in_field(std::size_t index, const Field& field, const std::string& text,
                          const Source* from);
     void edit(std::size_t index, const Field& field, const std::string& text);
+    Problem problem_of(std::size_t index, const Field& field) const;
     void add(std::size_t index, const Field& field, std::vector<Problem> problems);
+
+    /// An edit of what entries have in common.
+    struct Shared {
+        std::size_t block;
+        std::vector<std::size_t> entries;  // those that were edited
+    };
+    using SharedFields = std::map<std::pair<const CifBlock*, const Field*>, Shared>;
 
     const EntryReader& entries_;
     CifEdits edits_;
     std::optional<std::size_t> index_;  // of the entry that was read last
     std::optional<CifEntry> entry_;
     std::vector<Problem> problems_;
+    SharedFields shared_;
+    std::optional<Problem> first_change_;
 };

@@ -83,6 +83,30 @@ TEST_F(Set, ChangesTheValueAlone) {
     }
 }
 
+TEST_F(Set, TellsWhatEntriesShare) {
+    const std::string both =
+        "data_global\n_publ_author_name 'Adams, B.'\ndata_I\n_atom_site_label C1\n"
+        "data_II\n_atom_site_label C2\n";
+    file("both.cif", both);
+    const std::string note =
+        "lmrtext: both.cif: note: data_I: Author(s): stands in data_global, and so changes for II, "
+        "too\n";
+    EXPECT_EQ(run("set both.cif --field 'author(s)' --value C.Dean --entry I --dry-run").err, note);
+    EXPECT_EQ(run("set both.cif --field 'author(s)' --replace Adams --value Evans --dry-run").err,
+              "");
+    EXPECT_THAT(
+        run("set both.cif --field 'author(s)' --value C.Dean --entry global").err,
+        HasSubstr(
+            "'global' is no entry: it holds what entries have in common; choose one of I, II\n"));
+    const std::string show =
+        "show --to json --view internal both.cif >edits.json; sed -i '0,/B.Adams/s//C.Dean/' "
+        "edits.json; ";
+    EXPECT_EQ(run(show + "'" PROGRAM "' set --edits edits.json").err,
+              "lmrtext: both.cif: data_II: Author(s): the edits contradict each other; entries "
+              "share what stands in data_global\n");
+    EXPECT_EQ(read("both.cif"), both);
+}
+
 TEST_F(Set, ReplacesPartsOfFieldsInAFormOfTheirOwn) {
     const std::string parts =
         "data_a\n_cell_length_a 5.1\n_cell_length_b 6\n_cell_length_c 7\n"
@@ -171,7 +195,7 @@ TEST_F(Set, WhatIsWrongIsOneLineAndChangesNothing) {
         {"--edits cut.json", "cut.json: JSON is cut short"},
         {"--edits label.json", "label.json: no such field: 'Colr'; did you mean 'Color'?"},
         {"--edits text.json", "text.json: expected a text for \"text\" in entry 1"},
-        {"--edits twice.json", "one.cif: edits of it contradict each other"},
+        {"--edits twice.json", "one.cif: data_I: Color: the edits contradict each other"},
         {"--edits comma.json", "comma.json: not JSON: line 1, column "},
         {"--edits block.json", "one.cif: no such block: 'III'"},
         {"--edits none.json", "none.json: expected an array of entries"},
