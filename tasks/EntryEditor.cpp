@@ -88,10 +88,11 @@ std::string EntryEditor::in_field(std::size_t index, const Field& field, const s
     if (!from && has_styles(field)) from = row_named(sources(), pasted);
     if (!from) return text;
     const RichTextTarget& target = *row_named(rich_text_targets(), cif_text);
-    const bool stays = !has_styles(field) || from->name == cif_text;
+    const bool is_coded = from->name == cif_text;
     const THandle<InputTextStyleFinder> finder = from->make_finder();
     const TextItem item = item_of(*from, finder, text);
-    if (stays) return text;
+    if (!has_styles(field)) return is_coded ? CodedText(text).unicode() : text;
+    if (is_coded) return text;
     std::vector<Problem> notes;
     if (from->note_doubts) from->note_doubts(*finder, notes);
     Losses(target).note_styles(item, notes);

@@ -119,6 +119,8 @@ TEST_F(Set, ReplacesPartsOfFieldsInAFormOfTheirOwn) {
         {"'Cell Lengths' --replace 5.1 --value 5.2", "_cell_length_a 5.2\n"},
         {"'Literature Reference' --replace Crystallographica --value Cryst.",
          "_journal_name_full 'Acta Cryst.'\n"},
+        {"'Author(s)' --from cif-text --value 'A.M\\\"uller'",
+         "_publ_author_name 'M\\\"uller, A.'\n"},
     };
     for (const auto& c : cases) {
         file("parts.cif", parts);
