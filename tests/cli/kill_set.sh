@@ -26,7 +26,7 @@ all_without_values() {
 
 whole=$(all_without_values)
 written=0 killed=0
-for ((round = 1; written < 1000; ++round)); do
+for ((round = 1; written < 1000 || killed == 0; ++round)); do
     "$program" set -j 2 --field Color --value "v$round" "${files[@]}" &
     process=$!
     sleep "0.$((RANDOM % 2))$((RANDOM % 10))$((RANDOM % 10))"
@@ -38,5 +38,4 @@ for ((round = 1; written < 1000; ++round)); do
     [[ $(all_without_values) == "$whole" ]] || { echo "round $round: a file is not whole"; exit 1; }
     written=$((written + $(cat "${files[@]}" | grep -cx "_exptl_crystal_colour v$round" || true)))
 done
-[[ $killed -gt 0 ]] || { echo "nothing was killed"; exit 1; }
 echo "$written writes in $round rounds, $killed killed"
