@@ -104,7 +104,7 @@ std::string key_of_surname(const std::string& name) {
 
 /// With the first initial.
 std::string key_of_name(const std::string& name) {
-    const std::string surname = key_of_surname(name);
+    std::string surname = key_of_surname(name);
     if (surname.empty()) return surname;
     return surname + '.' + bare_letters(read_person_name(name).text).substr(0, 1);
 }
