@@ -37,7 +37,7 @@ void Comparison::run() {
     }
     good_ = good_ && left_.stream().good() && right_.stream().good();
     output_.write(options_.only_summary ? layout_->summary(summary_, options_.wanted)
-                                        : layout_->foot());
+                                        : layout_->foot_with(summary_, options_.wanted));
 }
 
 void Comparison::compare_named() {
@@ -104,10 +104,8 @@ void Comparison::tell_of(const EntryTexts& entry, Verdict verdict) {
     if (!options_.only_summary) write(layout_->only({entry.file, entry.block}, verdict), {});
 }
 
-void Comparison::write(const std::string& text, std::vector<Problem> notes) {
-    if (losses_) losses_->note_characters(text, notes, true);
+void Comparison::write(LaidOutPart part, std::vector<Problem> notes) {
+    if (losses_) losses_->note_characters(part.text, notes, true);
     good_ = report(notes) && good_;
-    if (has_written_) output_.write(layout_->separator());
-    output_.write(text);
-    has_written_ = true;
+    output_.write(layout_->add(std::move(part)));
 }

@@ -49,7 +49,7 @@ private:
     void compare_paired();
     void compare(const EntryPair& pair);
     void tell_of(const EntryTexts& entry, Verdict verdict);
-    void write(const std::string& text, std::vector<Problem> notes);
+    void write(LaidOutPart part, std::vector<Problem> notes);
 
     const CompareOptions& options_;
     ComparedSide &left_, &right_;
@@ -57,5 +57,5 @@ private:
     std::unique_ptr<ComparisonLayout> layout_;
     std::optional<Losses> losses_;  // of a target
     ComparisonSummary summary_;
-    bool good_ = true, same_ = true, has_written_ = false;
+    bool good_ = true, same_ = true;
 };

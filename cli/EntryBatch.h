@@ -10,13 +10,14 @@
 
 #include "cli/EntryFile.h"
 #include "cli/PlaceGroups.h"
+#include "output/LaidOutPart.h"
 
 /// What became of some entries of a file.
 struct ProcessedEntries {
-    std::string output;
-    std::vector<Problem> problems;  ///< With the name of the file.
-    unsigned long count = 0;        ///< Of entries.
-    unsigned long matched = 0;      ///< Of these, where something is looked for.
+    std::vector<LaidOutPart> parts;  ///< Of the document that is written.
+    std::vector<Problem> problems;   ///< With the name of the file.
+    unsigned long count = 0;         ///< Of entries.
+    unsigned long matched = 0;       ///< Of these, where something is looked for.
 };
 
 /// Makes something of entries of a file, several of one or of several at the same time.

@@ -133,11 +133,12 @@ private:
                                      : finder_->is_in(entry);
             note_problems(file, entry, fields, matches, done.problems);
             if (!matches) continue;
-            if (done.matched++ > 0 && form_ == Form::entries) done.output += layout->separator();
-            if (form_ == Form::files && done.matched == 1) done.output = file + '\n';
+            ++done.matched;
             if (form_ != Form::entries) continue;
-            done.output += layout->entry(file, std::string(entry.block.name()), fields.fields);
+            done.parts.push_back(
+                layout->entry(file, std::string(entry.block.name()), fields.fields));
         }
+        if (form_ == Form::files && done.matched > 0) done.parts.push_back({file + '\n'});
         return done;
     }
 
@@ -171,12 +172,13 @@ private:
         for (ProcessedEntries done; batch.next(done);) {
             count += done.count;
             progress.update(count, batch.places_read());
-            if (done.matched == 0) continue;
-            if (is_document && matched > 0) output.write(layout->separator());
-            // Of a file with many entries there are several results.
-            if (is_document || done.output != written) output.write(done.output);
-            if (form_ == Form::files) written = done.output;
             matched += done.matched;
+            for (LaidOutPart& part : done.parts) {
+                // Of a file with many entries there are several results.
+                if (form_ == Form::files && part.text == written) continue;
+                if (form_ == Form::files) written = part.text;
+                output.write(layout->add(std::move(part)));
+            }
         }
         if (is_document) output.write(layout->foot());
         if (form_ == Form::count) output.write(std::to_string(matched) + '\n');

@@ -69,10 +69,11 @@ private:
             for (const EntryField& field : fields.fields) {
                 if (losses) losses->note_styles(field.item, done.problems);
             }
-            if (done.count++ > 0) done.output += layout->separator();
-            done.output += layout->entry(file, std::string(entry.block.name()), fields.fields);
+            done.parts.push_back(
+                layout->entry(file, std::string(entry.block.name()), fields.fields));
+            if (losses) losses->note_characters(done.parts.back().text, done.problems, true);
         }
-        if (losses) losses->note_characters(done.output, done.problems, true);
+        done.count = entries.size();
         return done;
     }
 
@@ -91,8 +92,7 @@ private:
         unsigned long count = 0;
         output.write(layout->head("Crystal structures"));
         for (ProcessedEntries done; batch.next(done);) {
-            if (count > 0) output.write(layout->separator());
-            output.write(done.output);
+            for (LaidOutPart& part : done.parts) output.write(layout->add(std::move(part)));
             count += done.count;
             progress.update(count, batch.places_read());
         }

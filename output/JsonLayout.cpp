@@ -138,7 +138,7 @@ Json json_of(const ComparisonLayout::Side& side) {
     return {{"file", side.file}, {"block", side.block}};
 }
 
-std::string written(const Json& json) { return '\n' + harmless_json(json); }
+LaidOutPart written(const Json& json) { return {'\n' + harmless_json(json)}; }
 
 }  // namespace
 
@@ -148,7 +148,7 @@ std::string JsonLayout::head(const std::string& /*title*/) { return "["; }
 std::string JsonLayout::foot() { return "\n]\n"; }
 std::string JsonLayout::separator() const { return ","; }
 
-std::string JsonLayout::entry(const std::string& file, const std::string& block,
+LaidOutPart JsonLayout::entry(const std::string& file, const std::string& block,
                               const std::vector<EntryField>& fields) {
     Json json{{"file", file}, {"block", block}, {"fields", Json::array()}};
     for (const EntryField& field : fields) {
@@ -161,7 +161,7 @@ std::string JsonLayout::entry(const std::string& file, const std::string& block,
     return written(json);
 }
 
-std::string JsonLayout::comparison(const Side& left, const Side& right, PairingReason reason,
+LaidOutPart JsonLayout::comparison(const Side& left, const Side& right, PairingReason reason,
                                    const EntryComparison& compared) {
     Json json{{"left", json_of(left)},
               {"right", json_of(right)},
@@ -174,7 +174,7 @@ std::string JsonLayout::comparison(const Side& left, const Side& right, PairingR
     return written(json);
 }
 
-std::string JsonLayout::only(const Side& entry, Verdict verdict) {
+LaidOutPart JsonLayout::only(const Side& entry, Verdict verdict) {
     const bool is_left = verdict == Verdict::only_left;
     return written({{"left", is_left ? json_of(entry) : Json()},
                     {"right", is_left ? Json() : json_of(entry)},

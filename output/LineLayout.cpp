@@ -23,7 +23,7 @@ LineLayout::LineLayout(const RichTextTarget& target)
 
 LineLayout::~LineLayout() = default;
 
-std::string LineLayout::entry(const std::string& file, const std::string& block,
+LaidOutPart LineLayout::entry(const std::string& file, const std::string& block,
                               const std::vector<EntryField>& fields) {
     std::string lines = title(file + ": data_" + block);
     for (const EntryField& field : fields) {
@@ -32,10 +32,10 @@ std::string LineLayout::entry(const std::string& file, const std::string& block,
         const std::string indent = target_.layout.indent + std::string("    ");
         append_row(lines, indent.c_str(), "found", written(reason_of(field.matches)));
     }
-    return lines + target_.layout.foot;
+    return {lines + target_.layout.foot};
 }
 
-std::string LineLayout::comparison(const Side& left, const Side& right, PairingReason reason,
+LaidOutPart LineLayout::comparison(const Side& left, const Side& right, PairingReason reason,
                                    const EntryComparison& compared) {
     std::string lines =
         title(name_of(left) + " and " + name_of(right) + " (" + clause_of(reason) + ')');
@@ -52,7 +52,7 @@ std::string LineLayout::comparison(const Side& left, const Side& right, PairingR
             append_differences(lines, field);
         }
     }
-    return lines + target_.layout.foot;
+    return {lines + target_.layout.foot};
 }
 
 /// The two texts of a field, and why they differ.
@@ -68,10 +68,10 @@ void LineLayout::append_differences(std::string& lines, const ComparedField& fie
     append_row(lines, "  ", "why", written(FindingSentences(left, right).reasons(field.findings)));
 }
 
-std::string LineLayout::only(const Side& entry, Verdict verdict) {
+LaidOutPart LineLayout::only(const Side& entry, Verdict verdict) {
     // Where entries end with a foot, lines that follow each other would be one paragraph.
     const char* const end = *target_.layout.foot ? "\n\n" : "\n";
-    return written(name_of(entry) + ": " + words_of(verdict)) + end;
+    return {written(name_of(entry) + ": " + words_of(verdict)) + end};
 }
 
 std::string LineLayout::written(const std::string& text) const {

@@ -4,22 +4,23 @@
 
 #include "markup/RichTextTarget.h"
 #include "output/ComparisonLayout.h"
+#include "output/EntryLayout.h"
 #include "tasks/DifferenceMarks.h"
 
 /// A title for each entry and a row for each field, in the mark-up of a target. Titles and labels
 /// are text, which is escaped where the target escapes.
-class LineLayout : public ComparisonLayout {
+class LineLayout : public EntryLayout, public ComparisonLayout {
 public:
     explicit LineLayout(const RichTextTarget& target);
     ~LineLayout() override;
 
-    std::string entry(const std::string& file, const std::string& block,
+    LaidOutPart entry(const std::string& file, const std::string& block,
                       const std::vector<EntryField>& fields) override;
     /// Rows begin with "<" and ">" where the sides differ, with "~" where they do in nothing that
     /// counts and with "=" where they are the same; below those that differ stands why.
-    std::string comparison(const Side& left, const Side& right, PairingReason reason,
+    LaidOutPart comparison(const Side& left, const Side& right, PairingReason reason,
                            const EntryComparison& compared) override;
-    std::string only(const Side& entry, Verdict verdict) override;
+    LaidOutPart only(const Side& entry, Verdict verdict) override;
 
 private:
     std::string written(const std::string& text) const;

@@ -83,7 +83,7 @@ std::string TableLayout::head(const std::string& /*title*/) {
     return row(texts);
 }
 
-std::string TableLayout::entry(const std::string& file, const std::string& block,
+LaidOutPart TableLayout::entry(const std::string& file, const std::string& block,
                                const std::vector<EntryField>& fields) {
     std::vector<std::string> texts{written(file), written(block)};
     auto field = fields.begin();
@@ -93,7 +93,7 @@ std::string TableLayout::entry(const std::string& file, const std::string& block
         text = field->item.mark_up_text(generator_);
         ++field;
     }
-    return row(texts);
+    return {row(texts)};
 }
 
 std::string TableLayout::written(const std::string& text) {

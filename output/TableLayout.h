@@ -23,7 +23,7 @@ public:
     ~TableLayout() override;
 
     std::string head(const std::string& title) override;
-    std::string entry(const std::string& file, const std::string& block,
+    LaidOutPart entry(const std::string& file, const std::string& block,
                       const std::vector<EntryField>& fields) override;
 
 private:

@@ -14,10 +14,6 @@ constexpr char all_entries[] = "Entries";
 
 const char* name_of_column(std::size_t verdict) { return name_of(static_cast<Verdict>(verdict)); }
 
-bool has_any(const Counts& counts) {
-    return std::any_of(counts.begin(), counts.end(), [](unsigned long count) { return count > 0; });
-}
-
 void append_cell(std::string& row, const std::string& text) {
     row.append(column_width - std::min(column_width - 1, text.size()), ' ').append(text);
 }
@@ -35,6 +31,10 @@ Json json_of(const Counts& counts) {
 }
 
 }  // namespace
+
+bool has_any(const Counts& counts) {
+    return std::any_of(counts.begin(), counts.end(), [](unsigned long count) { return count > 0; });
+}
 
 std::string summary_as_text(const ComparisonSummary& summary, std::span<const Field> compared) {
     std::size_t width = std::strlen(all_entries);

@@ -35,6 +35,7 @@ std::string harmless(std::string_view json) {
 
 }  // namespace
 
-std::string harmless_json(const nlohmann::ordered_json& json) {
-    return harmless(json.dump(1, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
+std::string harmless_json(const nlohmann::ordered_json& json, bool in_lines) {
+    return harmless(
+        json.dump(in_lines ? 1 : -1, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
 }

@@ -4,5 +4,6 @@
 #include <string>
 
 /// nlohmann's JSON with escapes, which stand only in strings, for what would act where it is shown
-/// and for what would end a script of a page that embeds it; what is not UTF-8 is replaced.
-std::string harmless_json(const nlohmann::ordered_json& json);
+/// and for what would end a script of a page that embeds it; what is not UTF-8 is replaced. In
+/// lines with indents, or in one without blanks.
+std::string harmless_json(const nlohmann::ordered_json& json, bool in_lines = true);

@@ -3,9 +3,10 @@
 #include <string>
 #include <vector>
 
+#include "output/ComparisonPage.h"
+#include "output/EntryPage.h"
 #include "output/JsonLayout.h"
 #include "output/LineLayout.h"
-#include "output/PageLayout.h"
 #include "output/TableLayout.h"
 #include "tasks/row_named.h"
 
@@ -69,13 +70,15 @@ std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_fi
         for (const Field& field : wanted) labels.emplace_back(field.label);
         return row_named(std::span<const OwnForm>(own_forms), output.name)->make(labels, positions);
     }
-    if (own_file) return make_comparison_layout(output);
+    if (own_file && output.target->use == RichTextTarget::Use::page) {
+        return std::make_unique<EntryPage>();
+    }
     return std::make_unique<LineLayout>(*output.target);
 }
 
 std::unique_ptr<ComparisonLayout> make_comparison_layout(const Output& output,
                                                          std::optional<TextPositions> positions) {
     if (!output.target) return std::make_unique<JsonLayout>(positions);
-    if (output.target->use == RichTextTarget::Use::page) return std::make_unique<PageLayout>();
+    if (output.target->use == RichTextTarget::Use::page) return std::make_unique<ComparisonPage>();
     return std::make_unique<LineLayout>(*output.target);
 }

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "output/ComparisonLayout.h"
+#include "output/EntryLayout.h"
 #include "output/Output.h"
 #include "output/TextPositions.h"
 

@@ -11,6 +11,9 @@ public:
     explicit ColorStyle(TextItem::ColorName color) : color_(color) {}
     ~ColorStyle() override;
 
+    /// As it was given.
+    TextItem::ColorName color() const { return color_; }
+
     Kind kind() const override { return Kind::color; }
     std::string start_tag(const RichTextTagFactory& factory) const override;
     std::string end_tag(const RichTextTagFactory& factory) const override;

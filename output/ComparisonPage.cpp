@@ -1,0 +1,166 @@
+#include "output/ComparisonPage.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "output/comparison_summary.h"
+#include "output/finding_sentences.h"
+#include "output/html_text.h"
+#include "text/TextItem.h"
+
+namespace {
+
+using Counts = ComparisonSummary::Counts;
+
+/// Why the two texts differ; empty where they are equal.
+std::string reasons_of(const ComparedField& field) {
+    if (field.findings.empty()) return {};
+    const ComparedText left(*field.left), right(*field.right);
+    return FindingSentences(left, right).reasons(field.findings);
+}
+
+bool is_difference(const ComparedField& field) {
+    return field.verdict != Verdict::equal && field.verdict != Verdict::equivalent;
+}
+
+std::string counted(std::size_t count) {
+    if (count == 0) return "no field differs";
+    return count == 1 ? "1 field differs" : std::to_string(count) + " fields differ";
+}
+
+std::string summary_row(const std::string& label, const Counts& counts) {
+    std::string row = "<tr><th scope=\"row\">" + label + "</th>";
+    for (const unsigned long count : counts) {
+        row.append(count > 0 ? "<td>" : "<td class=\"none\">").append(std::to_string(count));
+        row += "</td>";
+    }
+    return row += "</tr>\n";
+}
+
+std::string table_head(const std::string& left, const std::string& right) {
+    return "<thead><tr><th scope=\"col\">Field</th><th scope=\"col\">" + left +
+           "</th><th scope=\"col\">" + right + "</th></tr></thead>\n";
+}
+
+/// A pair or an entry by itself; title and source are mark-up.
+std::string article(const std::string& anchor, const std::string& title,
+                    const std::string& source) {
+    return "<article class=\"pair\" id=\"" + anchor + "\" aria-labelledby=\"" + anchor +
+           ".top\">\n<header>\n<h2 id=\"" + anchor + ".top\">" + title +
+           "</h2>\n<p class=\"source\">" + source + "</p>\n</header>\n";
+}
+
+std::string listed(const std::string& anchor, const std::string& title, const std::string& what) {
+    return "<li><a href=\"#" + anchor + "\">" + title + "</a><p>" + what + "</p></li>\n";
+}
+
+}  // namespace
+
+ComparisonPage::ComparisonPage()
+    : PageDocument(comparison_script), marks_(rich_text_target_for(RichTextTarget::Use::page)) {}
+
+ComparisonPage::~ComparisonPage() = default;
+
+LaidOutPart ComparisonPage::comparison(const Side& left, const Side& right, PairingReason reason,
+                                       const EntryComparison& compared) {
+    const std::string anchor = slug(left.block, "pair");
+    const std::string left_title = isolated("data_" + left.block);
+    const std::string right_title = isolated("data_" + right.block);
+    const std::string title = left_title + " and " + right_title;
+    std::string rows[3];  // what differs, what is equivalent, what is equal
+    std::size_t equals = 0, differences = 0;
+    for (const ComparedField& field : compared.fields) {
+        const bool differs = is_difference(field), is_equal = field.verdict == Verdict::equal;
+        rows[differs ? 0 : is_equal ? 2 : 1] += row(anchor, field);
+        differences += differs ? 1 : 0;
+        equals += is_equal ? 1 : 0;
+        if (differs) differing_.push_back(slug_of_label(field.label));
+    }
+    std::string text = article(anchor, title,
+                               isolated(without_folders(left.file)) + " and " +
+                                   isolated(without_folders(right.file)) + ", " +
+                                   clause_of(reason) + ": " + counted(differences));
+    const std::string head = table_head(left_title, right_title);
+    if (!rows[0].empty() || !rows[1].empty()) {
+        text.append("<table class=\"sides\">\n").append(head).append(rows[0]).append(rows[1]);
+        text += "</table>\n";
+    }
+    if (equals > 0) {
+        text.append("<details><summary>").append(std::to_string(equals));
+        text.append(equals == 1 ? " field is" : " fields are").append(" equal</summary>\n");
+        text.append("<table class=\"sides\">\n").append(head).append(rows[2]);
+        text += "</table>\n</details>\n";
+    }
+    return {text + "</article>\n", anchor, listed(anchor, title, counted(differences))};
+}
+
+LaidOutPart ComparisonPage::only(const Side& entry, Verdict verdict) {
+    const std::string anchor = slug(entry.block, "entry");
+    const std::string title = isolated("data_" + entry.block), words = words_of(verdict);
+    return {article(anchor, title, isolated(without_folders(entry.file)) + ", " + words) +
+                "</article>\n",
+            anchor, listed(anchor, title, words)};
+}
+
+std::string ComparisonPage::add(LaidOutPart part) {
+    PageDocument::add(std::move(part));
+    for (const std::string& field : std::exchange(differing_, {})) {
+        first_.emplace(field, last_anchor() + '.' + field);
+    }
+    return {};
+}
+
+std::string ComparisonPage::foot_with(const ComparisonSummary& summary,
+                                      std::span<const Field> compared) {
+    top_ =
+        "<section class=\"summary\" aria-labelledby=\"summary-title\">\n"
+        "<h2 id=\"summary-title\">Summary</h2>\n"
+        "<table id=\"summary\">\n<thead><tr><th scope=\"col\">How many</th>";
+    for (std::size_t i = 0; i < summary.entries.size(); ++i) {
+        top_.append("<th scope=\"col\">").append(words_of(static_cast<Verdict>(i)));
+        top_ += "</th>";
+    }
+    top_.append("</tr></thead>\n<tbody>\n").append(summary_row("Entries", summary.entries));
+    for (std::size_t i = 0; i < summary.fields.size(); ++i) {
+        if (!has_any(summary.fields[i])) continue;
+        std::string label = escaped(compared[i].label);
+        const auto first = first_.find(slug_of_label(compared[i].label));
+        if (first != first_.end()) {
+            label.insert(0, "<a href=\"#" + first->second + "\">").append("</a>");
+        }
+        top_ += summary_row(label, summary.fields[i]);
+    }
+    top_ += "</tbody>\n</table>\n</section>\n";
+    return foot();
+}
+
+std::string ComparisonPage::summary(const ComparisonSummary& summary,
+                                    std::span<const Field> compared) {
+    head("Comparison");
+    return foot_with(summary, compared);
+}
+
+std::string ComparisonPage::row(const std::string& anchor, const ComparedField& field) const {
+    const std::string id = anchor + '.' + slug_of_label(field.label);
+    std::string row = "<tbody class=\"field ";
+    row.append(name_of(field.verdict)).append("\" id=\"").append(id);
+    row.append("\" tabindex=\"-1\">\n<tr><th scope=\"row\"><a class=\"label\" href=\"#").append(id);
+    row.append("\">").append(escaped(field.label)).append("</a> <span class=\"verdict\">");
+    row.append(words_of(field.verdict)).append("</span></th><td class=\"left\">");
+    row.append(cell(field.left, field.findings, DifferenceMarks::left));
+    row.append("</td><td class=\"right\">");
+    row.append(cell(field.right, field.findings, DifferenceMarks::right)).append("</td></tr>\n");
+    const std::string reasons = reasons_of(field);
+    if (!reasons.empty()) {
+        row.append("<tr class=\"why\"><td></td><td colspan=\"2\">").append(escaped(reasons));
+        row += "</td></tr>\n";
+    }
+    return row += "</tbody>\n";
+}
+
+std::string ComparisonPage::cell(const std::optional<TextItem>& item,
+                                 const std::vector<Finding>& findings,
+                                 DifferenceMarks::Side side) const {
+    if (!item) return "<span class=\"none\">no text</span>";
+    return marks_.marked(*item, findings, side).mark_up_text(generator_);
+}

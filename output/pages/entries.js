@@ -1,0 +1,348 @@
+"use strict";
+
+// Search, order and copying in a page of entries, which can be read without.
+{
+    const forms = [
+        ["unicode", "Unicode", "unicode"],
+        ["html", "HTML", "html5"],
+        ["latex", "LaTeX", "latex"],
+        ["markdown", "Markdown", "markdown"],
+        ["tevo", "Tevo", "tevo"],
+        ["cif-text", "CIF text", "cif-text"],
+    ];
+    const orders = [
+        ["given", "as given"],
+        ["name", "name"],
+        ["formula", "formula"],
+        ["length", "cell length"],
+        ["year", "year"],
+    ];
+
+    const element = (name, attributes = {}, ...children) => {
+        const made = document.createElement(name);
+        for (const [key, value] of Object.entries(attributes)) made.setAttribute(key, value);
+        made.append(...children);
+        return made;
+    };
+
+    // Texts are folded cluster by cluster: a character and the marks on it.
+    const table = new Map();
+    const cluster = /\P{M}\p{M}*|\p{M}+/gu;
+
+    const readTable = () => {
+        const folding = document.getElementById("folding");
+        for (const [result, characters] of Object.entries(JSON.parse(folding.textContent))) {
+            for (const character of characters) table.set(character, result);
+        }
+    };
+
+    const foldedBase = (character) => table.get(character) ?? character;
+
+    const foldedCluster = (text) => {
+        const [base, ...marks] = text.normalize("NFD");
+        if (marks.length === 0) return foldedBase(text);
+        const isBar = (mark) => mark === "\u0304" || mark === "\u0305";
+        if (/\d/.test(base) && isBar(marks[0])) return "-" + base;
+        const [composed, ...others] = text.normalize("NFC");
+        return foldedBase(composed) + (/\p{L}/u.test(base) ? "" : others.join(""));
+    };
+
+    const folded = (text) =>
+        text
+            .replace(/[^\0-\x7f]\p{M}*|[\0-\x7f]\p{M}+/gu, foldedCluster)
+            .replaceAll("`", "'")
+            .replaceAll('"', "''")
+            .replace(/\s+/g, " ")
+            .toLowerCase();
+
+    // A bar over a digit is a style of the page, and a character of the text.
+    const textOf = (node) => {
+        const text = node.data;
+        return node.parentElement.closest(".bar") ? text.replace(/\S/gu, "$&\u0305") : text;
+    };
+
+    const textNodes = (root) => {
+        const walker = document.createTreeWalker(root, NodeFilter.SHOW_TEXT);
+        const nodes = [];
+        while (walker.nextNode()) nodes.push(walker.currentNode);
+        return nodes;
+    };
+
+    const searched = ".value, .cell td:not(.unit)";
+    const searchedInIndex = "a, span:not(.length)";
+
+    const foldedText = (root) => {
+        const texts = [];
+        for (const value of root.querySelectorAll(searched)) {
+            const bars = value.querySelector(".bar");
+            texts.push(folded(bars ? textNodes(value).map(textOf).join("") : value.textContent));
+        }
+        return texts.join("\n");
+    };
+
+    // The places of a text, folded, and where each of its characters stands in the nodes.
+    const placesIn = (value) => {
+        let text = "";
+        const places = [];
+        for (const node of textNodes(value)) {
+            const isBar = node.parentElement.closest(".bar") !== null;
+            for (const match of node.data.matchAll(cluster)) {
+                const shown = isBar && /\d/.test(match[0]) ? "-" + match[0] : folded(match[0]);
+                if (shown === " " && text.endsWith(" ")) continue;
+                const place = { node, from: match.index, to: match.index + match[0].length };
+                for (let i = 0; i < shown.length; ++i) places.push(place);
+                text += shown;
+            }
+        }
+        return { text, places };
+    };
+
+    const rangesIn = (value, words) => {
+        const { text, places } = placesIn(value);
+        const ranges = [];
+        for (const word of words) {
+            let at = text.indexOf(word);
+            for (; at >= 0; at = text.indexOf(word, at + word.length)) {
+                const first = places[at];
+                const last = places[at + word.length - 1];
+                const range = new Range();
+                range.setStart(first.node, first.from);
+                range.setEnd(last.node, last.to);
+                ranges.push(range);
+            }
+        }
+        return ranges;
+    };
+
+    const addSearch = (articles, lines) => {
+        readTable();
+        const list = document.querySelector("#index ol");
+        const main = document.querySelector("main");
+        const texts = new Array(articles.length);
+        const near = new Set();
+        let words = [];
+
+        const input = element("input", { id: "search", type: "search", autocomplete: "off" });
+        const order = element("select", { id: "order" });
+        for (const [value, shown] of orders) order.append(element("option", { value }, shown));
+        const count = element("output", { id: "count", for: "search" });
+        const tools = element(
+            "div",
+            { class: "tools", role: "search" },
+            element("label", { for: "search" }, "Search"),
+            input,
+            element("label", { for: "order" }, "Sort by"),
+            order,
+            count,
+        );
+        document.querySelector("header.page").after(tools);
+
+        const textAt = (i) => (texts[i] ??= foldedText(articles[i]));
+
+        // While nothing else is to be done, so that the first key is answered soon.
+        const prepare = (from) => {
+            requestIdleCallback?.((deadline) => {
+                let i = from;
+                while (i < articles.length && deadline.timeRemaining() > 1) textAt(i++);
+                if (i < articles.length) prepare(i);
+            });
+        };
+
+        const highlight = () => {
+            if (!CSS.highlights) return;
+            const found = new Highlight();
+            for (const root of words.length > 0 ? near : []) {
+                if (root.hidden) continue;
+                const values = root.matches("li") ? searchedInIndex : searched;
+                for (const value of root.querySelectorAll(values)) {
+                    for (const range of rangesIn(value, words)) found.add(range);
+                }
+            }
+            CSS.highlights.set("found", found);
+        };
+
+        const show = () => {
+            words = folded(input.value).split(" ").filter(Boolean);
+            let shown = 0;
+            for (let i = 0; i < articles.length; ++i) {
+                const text = words.length > 0 ? textAt(i) : "";
+                const matches = words.every((word) => text.includes(word));
+                if (matches) ++shown;
+                if (articles[i].hidden !== matches) continue;
+                articles[i].hidden = lines[i].hidden = !matches;
+            }
+            count.value = `${shown} of ${articles.length} entries`;
+            highlight();
+        };
+
+        const keys = {
+            given: (i) => i,
+            name: (i) => lines[i].querySelector("a").textContent,
+            formula: (i) =>
+                (lines[i].querySelector(".formula") ?? articles[i].querySelector(".formula .value"))
+                    ?.textContent,
+            length: (i) => Number(lines[i].dataset.length ?? NaN),
+            year: (i) => Number(lines[i].dataset.year ?? NaN),
+        };
+        const collator = new Intl.Collator("en", { numeric: true, ignorePunctuation: true });
+        const isMissing = (key) => key === undefined || key === "" || Number.isNaN(key);
+
+        const sort = () => {
+            const entries = articles.map((article, i) => ({ i, key: keys[order.value](i) }));
+            entries.sort((a, b) => {
+                if (isMissing(a.key) || isMissing(b.key)) return isMissing(a.key) - isMissing(b.key);
+                return typeof a.key === "number" ? a.key - b.key : collator.compare(a.key, b.key);
+            });
+            for (const [parent, children] of [
+                [list, lines],
+                [main, articles],
+            ]) {
+                const sorted = document.createDocumentFragment();
+                for (const { i } of entries) sorted.append(children[i]);
+                parent.append(sorted);
+            }
+        };
+
+        let isHighlighting = false;
+        const highlightSoon = () => {
+            if (isHighlighting) return;
+            isHighlighting = true;
+            requestAnimationFrame(() => {
+                isHighlighting = false;
+                highlight();
+            });
+        };
+        document.addEventListener("contentvisibilityautostatechange", (event) => {
+            if (event.skipped) near.delete(event.target);
+            else near.add(event.target);
+            if (words.length > 0) highlightSoon();
+        });
+        input.addEventListener("input", show);
+        order.addEventListener("change", sort);
+        input.addEventListener("keydown", (event) => {
+            if (event.key === "Escape") {
+                input.value = "";
+                show();
+            } else if (event.key === "Enter") {
+                list.querySelector("li:not([hidden]) a")?.click();
+            }
+        });
+        document.addEventListener("keydown", (event) => {
+            const isTyping = event.target.matches("input, select, [role=menuitem]");
+            if (event.key !== "/" || isTyping || event.ctrlKey || event.metaKey) return;
+            event.preventDefault();
+            input.focus();
+        });
+        show();
+        prepare(0);
+    };
+
+    const addCopying = () => {
+        const said = element("output", { id: "said" });
+        document.body.append(said);
+        const button = element(
+            "button",
+            { type: "button", class: "copy", "aria-haspopup": "menu", "aria-expanded": "false" },
+            "Copy",
+        );
+        const menu = element("div", { class: "menu", role: "menu", hidden: "" });
+        for (const [form, shown] of forms) {
+            menu.append(
+                element(
+                    "button",
+                    { type: "button", role: "menuitem", tabindex: "-1", "data-form": form },
+                    shown,
+                ),
+            );
+        }
+        document.body.append(menu);
+        let field = null;
+
+        const textAs = (form) => {
+            const texts = JSON.parse(field.dataset.forms ?? "{}");
+            const target = forms.find(([name]) => name === form)[2];
+            const value = field.querySelector(".value");
+            const shown = target === "html5" ? value?.innerHTML : texts.unicode;
+            return texts[target] ?? shown ?? value.textContent;
+        };
+
+        const close = () => {
+            menu.hidden = true;
+            button.setAttribute("aria-expanded", "false");
+        };
+
+        const offer = (event) => {
+            const next = event.target.closest?.(".field");
+            if (!next || next === field || !menu.hidden) return;
+            if (event.type === "pointerover" && document.activeElement === button) return;
+            field = next;
+            const label = field.dataset.field;
+            button.setAttribute("aria-label", `Copy ${label}`);
+            menu.setAttribute("aria-label", `Copy ${label} as`);
+            field.querySelector(".label").after(button);
+        };
+
+        const open = () => {
+            const place = button.getBoundingClientRect();
+            menu.hidden = false;
+            const right = document.documentElement.clientWidth - menu.offsetWidth - 8;
+            const bottom = document.documentElement.clientHeight - menu.offsetHeight - 8;
+            menu.style.left = `${Math.max(8, Math.min(place.left, right))}px`;
+            menu.style.top = `${Math.max(8, Math.min(place.bottom + 4, bottom))}px`;
+            button.setAttribute("aria-expanded", "true");
+            menu.firstElementChild.focus();
+        };
+
+        const write = async (text) => {
+            try {
+                await navigator.clipboard.writeText(text);
+                return true;
+            } catch {
+                return false;
+            }
+        };
+
+        const copy = async (item) => {
+            const done = await write(textAs(item.dataset.form));
+            said.value = done ? `Copied as ${item.textContent}` : "The clipboard is not to be had";
+            setTimeout(() => (said.value = ""), 4000);
+            close();
+            button.focus();
+        };
+
+        document.addEventListener("pointerover", offer);
+        document.addEventListener("focusin", offer);
+        button.addEventListener("click", () => (menu.hidden ? open() : close()));
+        menu.addEventListener("click", (event) => {
+            const item = event.target.closest("[role=menuitem]");
+            if (item) copy(item);
+        });
+        menu.addEventListener("keydown", (event) => {
+            const items = [...menu.children];
+            const at = items.indexOf(document.activeElement);
+            const to = {
+                ArrowDown: (at + 1) % items.length,
+                ArrowUp: (at + items.length - 1) % items.length,
+                Home: 0,
+                End: items.length - 1,
+            }[event.key];
+            if (to !== undefined) {
+                event.preventDefault();
+                items[to].focus();
+            } else if (event.key === "Escape" || event.key === "Tab") {
+                event.preventDefault();
+                close();
+                button.focus();
+            }
+        });
+        document.addEventListener("pointerdown", (event) => {
+            if (!menu.hidden && !menu.contains(event.target) && event.target !== button) close();
+        });
+        document.addEventListener("scroll", close, { capture: true, passive: true });
+    };
+
+    const articles = [...document.querySelectorAll("main > article")];
+    const lines = [...document.querySelectorAll("#index li")];
+    if (lines.length > 0) addSearch(articles, lines);
+    addCopying();
+}
