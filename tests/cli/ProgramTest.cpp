@@ -307,7 +307,7 @@ TEST_F(Program, ShowReportsWhatIsNoCifAndShowsTheOthers) {
                  "odd.cif:2: data_x: _cell_formula_units_z: expected a number, not '~a^b~c^'\n"));
     const std::string page = contents(folder_ / "page.html");
     EXPECT_THAT(page, StartsWith("<!DOCTYPE html>\n"));
-    EXPECT_THAT(page, HasSubstr("<dd>xδ-ok</dd>"));
+    EXPECT_THAT(page, HasSubstr(">xδ-ok</h2>"));
     EXPECT_THAT(page, HasSubstr("<dd>Platinum(IV) oxide - β</dd>"));
     EXPECT_THAT(page, EndsWith("</html>\n"));
     EXPECT_EQ(run("show -o page.html missing.cif empty.cif").status, 1);
