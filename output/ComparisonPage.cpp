@@ -23,9 +23,18 @@ bool is_difference(const ComparedField& field) {
     return field.verdict != Verdict::equal && field.verdict != Verdict::equivalent;
 }
 
+/// "1 field", "3 fields".
 std::string counted(std::size_t count) {
+    return count == 1 ? "1 field" : std::to_string(count) + " fields";
+}
+
+std::string differences_told(std::size_t count) {
     if (count == 0) return "no field differs";
-    return count == 1 ? "1 field differs" : std::to_string(count) + " fields differ";
+    return counted(count) + (count == 1 ? " differs" : " differ");
+}
+
+std::string equals_told(std::size_t count, const char* where) {
+    return counted(count) + (count == 1 ? " is equal" : " are equal") + where;
 }
 
 std::string summary_row(const std::string& label, const Counts& counts) {
@@ -37,9 +46,13 @@ std::string summary_row(const std::string& label, const Counts& counts) {
     return row += "</tr>\n";
 }
 
-std::string table_head(const std::string& left, const std::string& right) {
-    return "<thead><tr><th scope=\"col\">Field</th><th scope=\"col\">" + left +
-           "</th><th scope=\"col\">" + right + "</th></tr></thead>\n";
+constexpr char sides_head[] =
+    "<thead><tr><th scope=\"col\">Field</th><th scope=\"col\">Left</th>"
+    "<th scope=\"col\">Right</th></tr></thead>\n";
+
+/// The names of the left and the right one, or that of both.
+std::string both(const std::string& left, const std::string& right) {
+    return left == right ? isolated(left) : isolated(left) + " and " + isolated(right);
 }
 
 /// A pair or an entry by itself; title and source are mark-up.
@@ -64,9 +77,7 @@ ComparisonPage::~ComparisonPage() = default;
 LaidOutPart ComparisonPage::comparison(const Side& left, const Side& right, PairingReason reason,
                                        const EntryComparison& compared) {
     const std::string anchor = slug(left.block, "pair");
-    const std::string left_title = isolated("data_" + left.block);
-    const std::string right_title = isolated("data_" + right.block);
-    const std::string title = left_title + " and " + right_title;
+    const std::string title = both("data_" + left.block, "data_" + right.block);
     std::string rows[3];  // what differs, what is equivalent, what is equal
     std::size_t equals = 0, differences = 0;
     for (const ComparedField& field : compared.fields) {
@@ -77,21 +88,18 @@ LaidOutPart ComparisonPage::comparison(const Side& left, const Side& right, Pair
         if (differs) differing_.push_back(slug_of_label(field.label));
     }
     std::string text = article(anchor, title,
-                               isolated(without_folders(left.file)) + " and " +
-                                   isolated(without_folders(right.file)) + ", " +
-                                   clause_of(reason) + ": " + counted(differences));
-    const std::string head = table_head(left_title, right_title);
+                               both(without_folders(left.file), without_folders(right.file)) +
+                                   ", " + clause_of(reason) + ": " + differences_told(differences));
     if (!rows[0].empty() || !rows[1].empty()) {
-        text.append("<table class=\"sides\">\n").append(head).append(rows[0]).append(rows[1]);
+        text.append("<table class=\"sides\">\n").append(sides_head).append(rows[0]).append(rows[1]);
         text += "</table>\n";
     }
     if (equals > 0) {
-        text.append("<details><summary>").append(std::to_string(equals));
-        text.append(equals == 1 ? " field is" : " fields are").append(" equal</summary>\n");
-        text.append("<table class=\"sides\">\n").append(head).append(rows[2]);
+        text.append("<details><summary>").append(equals_told(equals, "")).append("</summary>\n");
+        text.append("<table class=\"sides\">\n").append(sides_head).append(rows[2]);
         text += "</table>\n</details>\n";
     }
-    return {text + "</article>\n", anchor, listed(anchor, title, counted(differences))};
+    return {text + "</article>\n", anchor, listed(anchor, title, differences_told(differences))};
 }
 
 LaidOutPart ComparisonPage::only(const Side& entry, Verdict verdict) {
@@ -112,25 +120,38 @@ std::string ComparisonPage::add(LaidOutPart part) {
 
 std::string ComparisonPage::foot_with(const ComparisonSummary& summary,
                                       std::span<const Field> compared) {
-    top_ =
-        "<section class=\"summary\" aria-labelledby=\"summary-title\">\n"
-        "<h2 id=\"summary-title\">Summary</h2>\n"
-        "<table id=\"summary\">\n<thead><tr><th scope=\"col\">How many</th>";
+    std::string head = "<thead><tr><th scope=\"col\">How many</th>";
     for (std::size_t i = 0; i < summary.entries.size(); ++i) {
-        top_.append("<th scope=\"col\">").append(words_of(static_cast<Verdict>(i)));
-        top_ += "</th>";
+        head.append("<th scope=\"col\">").append(words_of(static_cast<Verdict>(i)));
+        head += "</th>";
     }
-    top_.append("</tr></thead>\n<tbody>\n").append(summary_row("Entries", summary.entries));
+    head += "</tr></thead>\n<tbody>\n";
+    std::string differing, equal;
+    std::size_t equals = 0;
     for (std::size_t i = 0; i < summary.fields.size(); ++i) {
-        if (!has_any(summary.fields[i])) continue;
+        const Counts& counts = summary.fields[i];
+        if (!has_any(counts)) continue;
         std::string label = escaped(compared[i].label);
         const auto first = first_.find(slug_of_label(compared[i].label));
         if (first != first_.end()) {
             label.insert(0, "<a href=\"#" + first->second + "\">").append("</a>");
         }
-        top_ += summary_row(label, summary.fields[i]);
+        const bool is_equal = std::all_of(counts.begin() + 1, counts.end(),
+                                          [](unsigned long count) { return count == 0; });
+        (is_equal ? equal : differing) += summary_row(label, counts);
+        equals += is_equal ? 1 : 0;
     }
-    top_ += "</tbody>\n</table>\n</section>\n";
+    top_ =
+        "<section class=\"summary\" aria-labelledby=\"summary-title\">\n"
+        "<h2 id=\"summary-title\">Summary</h2>\n<table id=\"summary\">\n";
+    top_.append(head).append(summary_row("Entries", summary.entries)).append(differing);
+    top_ += "</tbody>\n</table>\n";
+    if (equals > 0) {
+        top_.append("<details><summary>").append(equals_told(equals, " in all entries"));
+        top_.append("</summary>\n<table>\n").append(head).append(equal);
+        top_ += "</tbody>\n</table>\n</details>\n";
+    }
+    top_ += "</section>\n";
     return foot();
 }
 
@@ -144,15 +165,17 @@ std::string ComparisonPage::row(const std::string& anchor, const ComparedField& 
     const std::string id = anchor + '.' + slug_of_label(field.label);
     std::string row = "<tbody class=\"field ";
     row.append(name_of(field.verdict)).append("\" id=\"").append(id);
-    row.append("\" tabindex=\"-1\">\n<tr><th scope=\"row\"><a class=\"label\" href=\"#").append(id);
+    const std::string reasons = reasons_of(field);
+    row.append("\" tabindex=\"-1\">\n<tr><th scope=\"row\"");
+    row.append(reasons.empty() ? "" : " rowspan=\"2\"");
+    row.append("><a class=\"label\" href=\"#").append(id);
     row.append("\">").append(escaped(field.label)).append("</a> <span class=\"verdict\">");
     row.append(words_of(field.verdict)).append("</span></th><td class=\"left\">");
     row.append(cell(field.left, field.findings, DifferenceMarks::left));
     row.append("</td><td class=\"right\">");
     row.append(cell(field.right, field.findings, DifferenceMarks::right)).append("</td></tr>\n");
-    const std::string reasons = reasons_of(field);
     if (!reasons.empty()) {
-        row.append("<tr class=\"why\"><td></td><td colspan=\"2\">").append(escaped(reasons));
+        row.append("<tr class=\"why\"><td colspan=\"2\">").append(escaped(reasons));
         row += "</td></tr>\n";
     }
     return row += "</tbody>\n";

@@ -161,18 +161,51 @@
             CSS.highlights.set("found", found);
         };
 
+        // In slices, a frame each: what is at the top shows its result at once.
+        let search = 0;
+        const inSlices = (step) => {
+            const current = search;
+            let next = 0;
+            const slice = () => {
+                if (current !== search) return;
+                const end = performance.now() + 30;
+                let changes = 0;
+                while (next < articles.length && changes < 1500 && performance.now() < end) {
+                    changes += step(next++);
+                }
+                if (next < articles.length) requestAnimationFrame(slice);
+            };
+            slice();
+        };
+
+        const matches = new Array(articles.length).fill(true);
+        const hideOthers = () =>
+            inSlices((i) => {
+                if (articles[i].hidden !== matches[i]) return 0;
+                articles[i].hidden = lines[i].hidden = !matches[i];
+                return 1;
+            });
+
         const show = () => {
+            ++search;
             words = folded(input.value).split(" ").filter(Boolean);
             let shown = 0;
-            for (let i = 0; i < articles.length; ++i) {
+            inSlices((i) => {
                 const text = words.length > 0 ? textAt(i) : "";
-                const matches = words.every((word) => text.includes(word));
-                if (matches) ++shown;
-                if (articles[i].hidden !== matches) continue;
-                articles[i].hidden = lines[i].hidden = !matches;
-            }
-            count.value = `${shown} of ${articles.length} entries`;
-            highlight();
+                matches[i] = words.every((word) => text.includes(word));
+                if (matches[i]) ++shown;
+                if (i + 1 < articles.length) return 0;
+                count.value = `${shown} of ${articles.length} entries`;
+                hideOthers();
+                highlight();
+                return 0;
+            });
+        };
+
+        const showFromTop = () => {
+            window.scrollTo({ top: 0 });
+            list.parentElement.scrollTop = 0;
+            show();
         };
 
         const keys = {
@@ -212,17 +245,22 @@
                 highlight();
             });
         };
+        // Those that are near already say so no more.
+        const isNear = { contentVisibilityAuto: true };
+        for (const root of [...articles, ...lines]) {
+            if (root.firstElementChild.checkVisibility?.(isNear)) near.add(root);
+        }
         document.addEventListener("contentvisibilityautostatechange", (event) => {
             if (event.skipped) near.delete(event.target);
             else near.add(event.target);
             if (words.length > 0) highlightSoon();
         });
-        input.addEventListener("input", show);
+        input.addEventListener("input", showFromTop);
         order.addEventListener("change", sort);
         input.addEventListener("keydown", (event) => {
             if (event.key === "Escape") {
                 input.value = "";
-                show();
+                showFromTop();
             } else if (event.key === "Enter") {
                 list.querySelector("li:not([hidden]) a")?.click();
             }

@@ -308,7 +308,7 @@ TEST_F(Program, ShowReportsWhatIsNoCifAndShowsTheOthers) {
     const std::string page = contents(folder_ / "page.html");
     EXPECT_THAT(page, StartsWith("<!DOCTYPE html>\n"));
     EXPECT_THAT(page, HasSubstr(">xδ-ok</h2>"));
-    EXPECT_THAT(page, HasSubstr("<dd>Platinum(IV) oxide - β</dd>"));
+    EXPECT_THAT(page, HasSubstr(">Platinum(IV) oxide - β</h2>"));
     EXPECT_THAT(page, EndsWith("</html>\n"));
     EXPECT_EQ(run("show -o page.html missing.cif empty.cif").status, 1);
     EXPECT_EQ(contents(folder_ / "page.html"), page);
