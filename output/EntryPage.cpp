@@ -78,7 +78,8 @@ private:
             text_ += "</div>\n";
         }
         text_.append("<p class=\"source\">").append(isolated(without_folders(file)));
-        text_.append(", ").append(isolated("data_" + block_)).append("</p>\n</header>\n");
+        if (block_ != identifier()) text_.append(", ").append(isolated("data_" + block_));
+        text_ += "</p>\n</header>\n";
     }
 
     static std::string linked(const Row& row, const std::string& shown) {

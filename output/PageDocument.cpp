@@ -36,10 +36,9 @@ std::string PageDocument::add(LaidOutPart part) {
         replace_anchor(part.text, part.anchor, anchor);
         replace_anchor(part.listing, part.anchor, anchor);
     }
-    body_ += part.text;
+    texts_.push_back(std::move(part.text));
     listing_ += part.listing;
     last_anchor_ = std::move(anchor);
-    ++parts_;
     return {};
 }
 
@@ -54,14 +53,22 @@ std::string PageDocument::foot() {
         "<meta name=\"color-scheme\" content=\"light dark\">\n<title>");
     page.append(title_).append("</title>\n<style>").append(page_style.text);
     page.append("</style>\n</head>\n").append(has_index() ? "<body class=\"indexed\">" : "<body>");
-    page.append("\n<header class=\"page\">\n<h1>").append(title_).append("</h1>\n</header>\n");
+    page += '\n';
+    if (has_index()) page += "<a class=\"skip\" href=\"#entries\">To the entries</a>\n";
+    page.append("<header class=\"page\">\n<h1>").append(title_).append("</h1>\n</header>\n");
     page += top();
     if (has_index()) {
         page.append("<nav id=\"index\" aria-labelledby=\"index-title\">\n");
         page.append("<h2 id=\"index-title\">Index</h2>\n<ol>\n").append(listing_);
         page.append("</ol>\n</nav>\n");
     }
-    page.append("<main>\n").append(body_).append("</main>\n").append(data());
+    page += "<main id=\"entries\">\n";
+    std::size_t size = page.size() + script_.text.size();
+    for (const std::string& text : texts_) size += text.size();
+    const std::string behind = "</main>\n" + data();
+    page.reserve(size + behind.size() + 100);
+    for (std::string& text : texts_) page += std::exchange(text, {});
+    page += behind;
     page.append("<script>").append(script_.text).append("</script>\n</body>\n</html>\n");
     return page;
 }

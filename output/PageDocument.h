@@ -2,6 +2,7 @@
 
 #include <set>
 #include <string>
+#include <vector>
 
 #include "output/DocumentLayout.h"
 #include "output/page_texts.h"
@@ -26,11 +27,11 @@ protected:
 
     /// Of the part that was added last.
     const std::string& last_anchor() const { return last_anchor_; }
-    bool has_index() const { return parts_ > 1; }
+    bool has_index() const { return texts_.size() > 1; }
 
 private:
     const PageText& script_;
-    std::string title_, listing_, body_, last_anchor_;
+    std::string title_, listing_, last_anchor_;
+    std::vector<std::string> texts_;  // of the parts
     std::set<std::string> anchors_;
-    unsigned long parts_ = 0;
 };
