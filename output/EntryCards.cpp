@@ -136,7 +136,10 @@ std::vector<EntryCards::Row> EntryCards::rest_of_head() const {
 }
 
 std::string EntryCards::first_length() const {
-    return cell_.empty() ? "" : first_number(cell_.front().row.field->item.characters());
+    const auto lengths = std::find_if(cell_.begin(), cell_.end(), [](const CellRow& row) {
+        return std::string_view(row.row.field->label) == "Cell Lengths";
+    });
+    return lengths == cell_.end() ? "" : first_number(lengths->row.field->item.characters());
 }
 
 std::string EntryCards::year() const {
