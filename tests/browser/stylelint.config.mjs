@@ -1,0 +1,10 @@
+export default {
+    extends: "stylelint-config-standard",
+    rules: {
+        // Nothing is fetched: a page is one file.
+        "function-url-scheme-allowed-list": [],
+        "at-rule-disallowed-list": ["import", "font-face"],
+        "declaration-no-important": true,
+        "max-nesting-depth": 2,
+    },
+};
