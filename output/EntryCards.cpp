@@ -129,8 +129,9 @@ const EntryCards::Row* EntryCards::name() const {
 
 std::vector<EntryCards::Row> EntryCards::rest_of_head() const {
     std::vector<Row> rest;
+    const Row* const top = name();
     for (const Row& row : head_) {
-        if (row.field != name()->field) rest.push_back(row);
+        if (&row != top) rest.push_back(row);
     }
     return rest;
 }

@@ -74,6 +74,8 @@ TEST(EntryLayout, SetsTitlesAndRowsAsTheTargetWantsThem) {
     EXPECT_THAT(page,
                 HasSubstr("data-field=\"Color\"><dt><a class=\"label\" href=\"#b.color\">Color"
                           "</a></dt><dd><span class=\"value\">red</span></dd>"));
+    const std::string unnamed = shown("data_a\n_publ_section_title x", "html5", "Title", "", true);
+    EXPECT_THAT(unnamed, HasSubstr(".top\"><bdi>b</bdi></h2>"));
 }
 
 TEST(JsonLayout, TellsTextsAsTheyAreShownAndPlaces) {
