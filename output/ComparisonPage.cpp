@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "output/comparison_summary.h"
-#include "output/finding_sentences.h"
+#include "output/comparison_words.h"
 #include "output/html_text.h"
 #include "text/TextItem.h"
 
@@ -12,29 +12,8 @@ namespace {
 
 using Counts = ComparisonSummary::Counts;
 
-/// Why the two texts differ; empty where they are equal.
-std::string reasons_of(const ComparedField& field) {
-    if (field.findings.empty()) return {};
-    const ComparedText left(*field.left), right(*field.right);
-    return FindingSentences(left, right).reasons(field.findings);
-}
-
-bool is_difference(const ComparedField& field) {
-    return field.verdict != Verdict::equal && field.verdict != Verdict::equivalent;
-}
-
-/// "1 field", "3 fields".
-std::string counted(std::size_t count) {
-    return count == 1 ? "1 field" : std::to_string(count) + " fields";
-}
-
-std::string differences_told(std::size_t count) {
-    if (count == 0) return "no field differs";
-    return counted(count) + (count == 1 ? " differs" : " differ");
-}
-
 std::string equals_told(std::size_t count, const char* where) {
-    return counted(count) + (count == 1 ? " is equal" : " are equal") + where;
+    return (count == 1 ? "1 field is equal" : std::to_string(count) + " fields are equal") + where;
 }
 
 std::string summary_row(const std::string& label, const Counts& counts) {
@@ -81,15 +60,17 @@ LaidOutPart ComparisonPage::comparison(const Side& left, const Side& right, Pair
     std::string rows[3];  // what differs, what is equivalent, what is equal
     std::size_t equals = 0, differences = 0;
     for (const ComparedField& field : compared.fields) {
-        const bool differs = is_difference(field), is_equal = field.verdict == Verdict::equal;
+        const bool differs = is_difference(field.verdict),
+                   is_equal = field.verdict == Verdict::equal;
         rows[differs ? 0 : is_equal ? 2 : 1] += row(anchor, field);
         differences += differs ? 1 : 0;
         equals += is_equal ? 1 : 0;
         if (differs) differing_.push_back(slug_of_label(field.label));
     }
-    std::string text = article(anchor, title,
-                               both(without_folders(left.file), without_folders(right.file)) +
-                                   ", " + clause_of(reason) + ": " + differences_told(differences));
+    std::string text =
+        article(anchor, title,
+                both(without_folders(left.file), without_folders(right.file)) + ", " +
+                    clause_of(reason) + ": " + count_of_differences(differences));
     if (!rows[0].empty() || !rows[1].empty()) {
         text.append("<table class=\"sides\">\n").append(sides_head).append(rows[0]).append(rows[1]);
         text += "</table>\n";
@@ -99,7 +80,8 @@ LaidOutPart ComparisonPage::comparison(const Side& left, const Side& right, Pair
         text.append("<table class=\"sides\">\n").append(sides_head).append(rows[2]);
         text += "</table>\n</details>\n";
     }
-    return {text + "</article>\n", anchor, listed(anchor, title, differences_told(differences))};
+    return {text + "</article>\n", anchor,
+            listed(anchor, title, count_of_differences(differences))};
 }
 
 LaidOutPart ComparisonPage::only(const Side& entry, Verdict verdict) {
@@ -165,7 +147,7 @@ std::string ComparisonPage::row(const std::string& anchor, const ComparedField& 
     const std::string id = anchor + '.' + slug_of_label(field.label);
     std::string row = "<tbody class=\"field ";
     row.append(name_of(field.verdict)).append("\" id=\"").append(id);
-    const std::string reasons = reasons_of(field);
+    const std::string reasons = reasons_of_difference(field);
     row.append("\" tabindex=\"-1\">\n<tr><th scope=\"row\"");
     row.append(reasons.empty() ? "" : " rowspan=\"2\"");
     row.append("><a class=\"label\" href=\"#").append(id);
@@ -184,6 +166,6 @@ std::string ComparisonPage::row(const std::string& anchor, const ComparedField& 
 std::string ComparisonPage::cell(const std::optional<TextItem>& item,
                                  const std::vector<Finding>& findings,
                                  DifferenceMarks::Side side) const {
-    if (!item) return "<span class=\"none\">no text</span>";
+    if (!item) return std::string("<span class=\"none\">") + no_text + "</span>";
     return marks_.marked(*item, findings, side).mark_up_text(generator_);
 }

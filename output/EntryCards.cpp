@@ -5,6 +5,7 @@
 
 #include "comparison/Reference.h"
 #include "markup/DisplayedText.h"
+#include "output/html_text.h"
 #include "output/reader_fields.h"
 #include "tasks/item_part.h"
 #include "tasks/numbers_in_text.h"
@@ -120,6 +121,11 @@ const EntryCards::Row* EntryCards::head(std::string_view label) const {
     return row == head_.end() ? nullptr : &*row;
 }
 
+std::string EntryCards::link(const Row& row) {
+    if (std::string_view(row.field->label) != "DOI") return {};
+    return link_of_doi(row.field->item.characters());
+}
+
 const EntryCards::Row* EntryCards::name() const {
     for (const char* const label : {"Compound Name", "Formula", "Identifier"}) {
         if (const Row* const row = head(label)) return row;
@@ -165,6 +171,11 @@ void EntryCards::add(const EntryField& field, const ReaderField& reader) {
         std::vector<TextItem> values = number ? std::vector{field.item} : values_of(field.item);
         if (!values.empty()) return cell_.push_back({row, std::move(values)});
     }
-    if (!number) row.unit = "";
+    if (!number) {
+        const bool has_unit =
+            *row.unit && field.item.characters().ends_with(' ' + std::string(row.unit));
+        row.unit_at_end = has_unit ? row.unit : "";
+        row.unit = "";
+    }
     cards_.back().rows.push_back(row);
 }

@@ -16,8 +16,9 @@ class EntryCards {
 public:
     struct Row {
         const EntryField* field;
-        const char* shown;  ///< What the field is called.
-        const char* unit;   ///< Empty where there is none, or the text has it.
+        const char* shown;             ///< What the field is called.
+        const char* unit;              ///< Empty where there is none, or the text has it.
+        const char* unit_at_end = "";  ///< That which stands in the text behind a blank.
     };
     struct Card {
         std::string_view title;
@@ -33,6 +34,8 @@ public:
 
     /// The row of the head with that label, or null.
     const Row* head(std::string_view label) const;
+    /// Where a row leads, if it is that of a DOI, as the value of an attribute; else empty.
+    static std::string link(const Row& row);
     /// What stands at the top: compound name or else formula, identifier; null: neither.
     const Row* name() const;
     /// Those of the head but that, in the order in which they are read.
@@ -41,6 +44,7 @@ public:
     const std::vector<CellRow>& cell() const { return cell_; }
     /// Whether the reduced cell is that one and was left out.
     bool is_reduced() const { return is_reduced_; }
+    static constexpr char reduced_note[] = "The cell is the reduced one.";  ///< Said where it is.
     /// In a reader's order. That of the crystal goes with the cell, and may have no rows then.
     const std::vector<Card>& cards() const { return cards_; }
 

@@ -83,9 +83,7 @@ private:
     }
 
     static std::string linked(const Row& row, const std::string& shown) {
-        const std::string link = std::string_view(row.field->label) == "DOI"
-                                     ? link_of_doi(row.field->item.characters())
-                                     : std::string();
+        const std::string link = EntryCards::link(row);
         if (link.empty()) return "<p class=\"value\">" + shown + "</p>";
         std::string value = "<p><a class=\"value\" href=\"" + link + "\">";
         return value.append(shown).append("</a></p>");
@@ -131,7 +129,9 @@ private:
             text_.append(found(row.row)).append("</td></tr>\n");
         }
         text_ += "</tbody>\n</table>\n";
-        if (cards_.is_reduced()) text_ += "<p class=\"note\">The cell is the reduced one.</p>\n";
+        if (cards_.is_reduced()) {
+            text_.append("<p class=\"note\">").append(EntryCards::reduced_note).append("</p>\n");
+        }
     }
 
     std::string listing() const {

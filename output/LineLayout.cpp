@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "finders/InputTextStyleFinder.h"
-#include "output/finding_sentences.h"
+#include "output/comparison_words.h"
 #include "output/match_reason.h"
 #include "text/TextItem.h"
 
@@ -58,14 +58,13 @@ LaidOutPart LineLayout::comparison(const Side& left, const Side& right, PairingR
 /// The two texts of a field, and why they differ.
 void LineLayout::append_differences(std::string& lines, const ComparedField& field) const {
     const bool is_equivalent = field.verdict == Verdict::equivalent;
-    const ComparedText left(*field.left), right(*field.right);
     append_row(lines, is_equivalent ? "~ " : "< ", field.label,
                marks_.marked(*field.left, field.findings, DifferenceMarks::left)
                    .mark_up_text(*generator_));
     append_row(lines, is_equivalent ? "~ " : "> ", field.label,
                marks_.marked(*field.right, field.findings, DifferenceMarks::right)
                    .mark_up_text(*generator_));
-    append_row(lines, "  ", "why", written(FindingSentences(left, right).reasons(field.findings)));
+    append_row(lines, "  ", "why", written(reasons_of_difference(field)));
 }
 
 LaidOutPart LineLayout::only(const Side& entry, Verdict verdict) {

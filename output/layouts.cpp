@@ -4,7 +4,9 @@
 #include <vector>
 
 #include "output/ComparisonPage.h"
+#include "output/ComparisonReport.h"
 #include "output/EntryPage.h"
+#include "output/EntryReport.h"
 #include "output/JsonLayout.h"
 #include "output/LineLayout.h"
 #include "output/TableLayout.h"
@@ -73,6 +75,9 @@ std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_fi
     if (own_file && output.target->use == RichTextTarget::Use::page) {
         return std::make_unique<EntryPage>();
     }
+    if (const ReportMedium* const medium = report_medium_of(*output.target)) {
+        return std::make_unique<EntryReport>(*medium);
+    }
     return std::make_unique<LineLayout>(*output.target);
 }
 
@@ -80,5 +85,8 @@ std::unique_ptr<ComparisonLayout> make_comparison_layout(const Output& output,
                                                          std::optional<TextPositions> positions) {
     if (!output.target) return std::make_unique<JsonLayout>(positions);
     if (output.target->use == RichTextTarget::Use::page) return std::make_unique<ComparisonPage>();
+    if (const ReportMedium* const medium = report_medium_of(*output.target)) {
+        return std::make_unique<ComparisonReport>(*medium);
+    }
     return std::make_unique<LineLayout>(*output.target);
 }

@@ -13,7 +13,8 @@
 std::span<const Output> show_outputs();
 
 /// The layout of entries that show these fields; in a file of its own the target that is for pages
-/// makes one. JSON tells positions where they are asked for.
+/// makes one, and one that has a ReportMedium makes a report. JSON tells positions where they are
+/// asked for.
 std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_file,
                                                std::span<const Field> wanted,
                                                std::optional<TextPositions> positions = {});
@@ -21,7 +22,8 @@ std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_fi
 /// What compare writes: the targets, and JSON.
 std::span<const Output> compare_outputs();
 
-/// The layout of comparisons; the target that is for pages makes one. JSON tells positions in bytes
+/// The layout of comparisons; the target that is for pages makes one, and one that has a
+/// ReportMedium a report. JSON tells positions in bytes
 /// of the texts where nothing else is asked for.
 std::unique_ptr<ComparisonLayout> make_comparison_layout(
     const Output& output, std::optional<TextPositions> positions = {});

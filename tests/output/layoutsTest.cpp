@@ -6,11 +6,13 @@
 
 #include "entries/EntryReader.h"
 #include "finders/InputTextStyleFinder.h"
+#include "output/ReportWriter.h"
 #include "output/TableLayout.h"
 #include "tasks/EntryFinder.h"
 #include "tasks/TermKind.h"
 #include "tasks/View.h"
 #include "tasks/row_named.h"
+#include "tests/HostileReports.h"
 
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -57,13 +59,6 @@ const std::string cif =
 TEST(EntryLayout, SetsTitlesAndRowsAsTheTargetWantsThem) {
     const std::string labels = "Space Group,R-Factor (%)";
     EXPECT_EQ(shown(cif, "tevo", labels), "f: data_b\n    Space Group: P1\n    R-Factor (%): 3\n");
-    EXPECT_EQ(shown(cif, "markdown", labels),
-              "## f: data\\_b\n\n- Space Group: P<span style=\"text-decoration:overline\">1</span>"
-              "\n- R-Factor (%): 3\n\n");
-    EXPECT_EQ(shown(cif, "latex", labels),
-              "\\section*{f: data\\_b}\n\\begin{description}\n"
-              "\\item[{Space Group}] P$\\overline{\\mbox{1}}$\n"
-              "\\item[{R-Factor (\\%)}] 3\n\\end{description}\n");
     EXPECT_EQ(shown(cif, "html5", "Synonym,Color", "aceton"),
               "f: data_b\n    Synonym: <b><span style=\"color:blue\">aceton</span></b>e\n"
               "        found: 'aceton'\n"
@@ -76,6 +71,39 @@ TEST(EntryLayout, SetsTitlesAndRowsAsTheTargetWantsThem) {
                           "</a></dt><dd><span class=\"value\">red</span></dd>"));
     const std::string unnamed = shown("data_a\n_publ_section_title x", "html5", "Title", "", true);
     EXPECT_THAT(unnamed, HasSubstr(".top\"><bdi>b</bdi></h2>"));
+}
+
+const std::string cell =
+    "data_b\n_cell_length_a 1.5(1)\n_cell_length_b 2\n_cell_length_c 3\n"
+    "_cell_angle_alpha 90\n_cell_angle_beta 90\n_cell_angle_gamma 90\n_cell_volume 9\n"
+    "_chemical_name_systematic 'a #'\n_journal_paper_doi 10.1/a%b\n"
+    "_exptl_absorpt_coefficient_mu 2\n_refine_ls_R_factor_gt .03\n";
+
+TEST(EntryReport, HasSectionsListsAndTables) {
+    const std::string labels =
+        "R-Factor (%),Cell Volume,Cell Lengths,DOI,Compound Name,Absorption Coefficient";
+    EXPECT_EQ(shown(cell, "latex", labels, "1.5"),
+              "\\section*{a \\#}\n\\begin{description}\n"
+              "\\item[{DOI}] \\ifdefined\\href\\href{https://doi.org/10.1/a\\%25b}{10.1/a\\%b}"
+              "\\else 10.1/a\\%b\\fi\n"
+              "\\item[{File}] f, data\\_b\n\\end{description}\n\\subsection*{Crystal}\n"
+              "\\noindent\\begin{tabular}{@{}lrrrl@{}}\n"
+              "a, b, c & \\textbf{\\textcolor{blue}{1.5(1)}} & 2 & 3 & Å\\\\\n"
+              " & \\multicolumn{4}{l@{}}{found: '1.5' is 1.5(1)}\\\\\n"
+              "V & \\multicolumn{3}{l}{9} & Å\\textsuperscript{3}\\\\\n\\end{tabular}\\par\n"
+              "\\subsection*{Experiment}\n\\begin{description}\n"
+              "\\item[{Absorption coefficient}] 2~mm\\textsuperscript{-1}\n\\end{description}\n"
+              "\\subsection*{Refinement}\n\\begin{description}\n\\item[{R}] 3~\\%\n"
+              "\\end{description}\n");
+    EXPECT_EQ(shown(cell, "markdown", labels),
+              "## a \\#\n\n- DOI: [10.1/a%b](<https://doi.org/10.1/a%25b>)\n- File: f, data\\_b\n\n"
+              "### Crystal\n\n<table>\n"
+              "<tr><th>a, b, c</th><td>1.5(1)</td><td>2</td><td>3</td><td>Å</td></tr>\n"
+              "<tr><th>V</th><td colspan=\"3\">9</td><td>Å<sup>3</sup></td></tr>\n</table>\n\n"
+              "### Experiment\n\n- Absorption coefficient: 2 mm<sup>-1</sup>\n\n"
+              "### Refinement\n\n- R: 3 %\n\n");
+    const ReportWriter markdown(*report_medium_of(*row_named(rich_text_targets(), "markdown")));
+    EXPECT_EQ(markdown.plain("a\n\n# b", ReportWriter::Place::cell), "a&#10;&#10;# b");
 }
 
 TEST(JsonLayout, TellsTextsAsTheyAreShownAndPlaces) {
@@ -156,10 +184,6 @@ TEST(ComparisonLayout, ShowsBothSidesAndWhy) {
               "r data_c: only right\n");
     EXPECT_THAT(compared(cif, cif, "unicode", "Color", true),
                 HasSubstr(")\n= Color: red\nr data_c"));
-    EXPECT_THAT(compared(cif, other, "latex", "Synonym"),
-                EndsWith("acet\\textbf{\\textcolor[rgb]{0,0.545,0}{a}}ne\n"
-                         "\\item[{  why}] 'o' against 'a'\n\\end{description}\n"
-                         "r data\\_c: only right\n\n"));
     const std::string page = compared(cif, other, "html5", "Synonym,Color");
     EXPECT_THAT(page, HasSubstr("<bdi>data_a</bdi> and <bdi>data_b</bdi>"));
     EXPECT_THAT(page, HasSubstr("<bdi>l&lt;U+202E&gt;</bdi> and <bdi>r</bdi>, same compound name: "
@@ -169,6 +193,69 @@ TEST(ComparisonLayout, ShowsBothSidesAndWhy) {
     EXPECT_THAT(page, HasSubstr("<td class=\"left\">red</td><td class=\"right\"><span class=\""
                                 "none\">no text</span></td>"));
     EXPECT_THAT(page, HasSubstr("<bdi>r</bdi>, only right"));
+}
+
+TEST(ComparisonReport, HasWhatDiffersFirst) {
+    EXPECT_THAT(compared(cif, other, "latex", "Synonym"),
+                HasSubstr(" &\n\\raggedright acet\\textbf{\\textcolor[rgb]{0,0.545,0}{a}}ne"
+                          "\\tabularnewline\n\\end{tabular}\\par\n\\nobreak"));
+    const std::string second = cif + "\n_exptl_crystal_description block";
+    EXPECT_EQ(compared(cif, second, "markdown", "Color,Habit", true),
+              "## data\\_a and data\\_b\n\nl\\<U+202E\\> and r, same compound name: "
+              "1 field differs\n\n<table>\n"
+              "<tr><th>Field</th><th>data_a</th><th>data_b</th></tr>\n"
+              "<tr><th>Habit</th><td>no text</td><td>block</td></tr>\n</table>\n\n"
+              "### Equal fields\n\n- Color: red\n\n"
+              "## Entries only right\n\nr, data\\_c\n\n");
+}
+
+namespace {
+
+/// What LaTeX makes of a report but for its texts; a complaint where it could not.
+std::string structure_of_latex(const std::string& report) {
+    constexpr std::string_view in_texts =
+        " leavevmode newline textbf textcolor textless textgreater textbar textasciitilde "
+        "textasciicircum textbackslash textasciigrave textsuperscript textsubscript symbol ";
+    std::string structure, braces;
+    bool is_formula = false;  // of a Greek letter
+    for (std::size_t i = 0; i < report.size(); ++i) {
+        const char c = report[i];
+        if (c == '\\') {
+            const std::size_t begin = i + 1;
+            while (std::isalpha(static_cast<unsigned char>(report[i + 1])) != 0) ++i;
+            const std::string command = report.substr(begin, i + 1 - begin);
+            if (command.empty() && report[++i] == '\\') structure += " row";
+            if (is_formula || command.empty() ||
+                in_texts.find(' ' + command + ' ') != in_texts.npos)
+                continue;
+            structure.append(" ").append(command);
+            if (command == "begin" || command == "end") {
+                structure += report.substr(i + 1, report.find('}', i) - i);
+            }
+        } else if (c == '{') {
+            braces += c;
+        } else if (c == '}') {
+            if (braces.empty()) return "closed too often";
+            braces.pop_back();
+        } else if (c == '&') {
+            structure += " &";
+        } else if (c == '$') {
+            is_formula = !is_formula;
+        } else if (std::string_view("%#^_").find(c) != std::string_view::npos) {
+            return "acts: " + report.substr(i);
+        }
+    }
+    return braces.empty() ? structure : "not closed";
+}
+
+}  // namespace
+
+TEST(ComparisonReport, KeepsItsStructureInLatexWhateverTextsSay) {
+    const std::string structure = structure_of_latex(reports_with("harmless", "latex"));
+    EXPECT_THAT(structure, StartsWith(" section begin{description} item"));
+    for (const std::string& text : hostile_texts) {
+        EXPECT_EQ(structure_of_latex(reports_with(text, "latex")), structure) << text;
+    }
 }
 
 TEST(ComparisonLayout, TellsAllInJson) {
@@ -214,5 +301,6 @@ TEST(ComparisonLayout, CountsInASummary) {
     EXPECT_EQ(json.at("entries").at("only-right"), 1);
     EXPECT_EQ(json.at("fields").at(1).at("label"), "Color");
     EXPECT_EQ(json.at("fields").at(1).at("only-left"), 1);
+    EXPECT_THAT(told("latex"), HasSubstr("\nEntries & 1 & 0 & 1 & 0 & 1\\\\\nSynonym & 1 & 0 & 1"));
     EXPECT_THAT(told("html5"), HasSubstr("<th scope=\"row\">Color</th><td>1</td>"));
 }

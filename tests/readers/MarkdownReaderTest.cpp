@@ -9,6 +9,7 @@
 #include "markup/MarkdownRichTextGenerator.h"
 #include "markup/TextItemToUnicodeGreek.h"
 #include "markup/Utf8.h"
+#include "tests/HostileReports.h"
 #include "tests/Random.h"
 
 namespace {
@@ -104,9 +105,39 @@ std::string read(const std::string& markdown) {
     return found.bytes();
 }
 
+/// What the parser makes of a document but for its texts, and what its tables have.
+std::string structure_of(const std::string& markdown) {
+    const std::unique_ptr<cmark_node, decltype(&cmark_node_free)> document(
+        cmark_parse_document(markdown.data(), markdown.size(), CMARK_OPT_DEFAULT), cmark_node_free);
+    const std::unique_ptr<cmark_iter, decltype(&cmark_iter_free)> iter(
+        cmark_iter_new(document.get()), cmark_iter_free);
+    std::string structure;
+    for (cmark_event_type event; (event = cmark_iter_next(iter.get())) != CMARK_EVENT_DONE;) {
+        cmark_node* const node = cmark_iter_get_node(iter.get());
+        const cmark_node_type type = cmark_node_get_type(node);
+        if (type == CMARK_NODE_TEXT || type == CMARK_NODE_HTML_INLINE) continue;
+        structure.append(event == CMARK_EVENT_ENTER ? " " : " /");
+        structure += cmark_node_get_type_string(node);
+        if (type != CMARK_NODE_HTML_BLOCK) continue;
+        const std::string_view html = cmark_node_get_literal(node);
+        for (std::size_t at = 0; (at = html.find('<', at)) != std::string_view::npos; ++at) {
+            structure += html.substr(at, html.find('>', at) - at);
+        }
+    }
+    return structure;
+}
+
 const MarkdownRichTextGenerator generator;
 
 }  // namespace
+
+TEST(MarkdownReader, GetsTheStructureOfReportsWhateverTextsSay) {
+    const std::string structure = structure_of(reports_with("harmless", "markdown"));
+    EXPECT_THAT(structure, testing::StartsWith(" document heading /heading list item paragraph"));
+    for (const std::string& text : hostile_texts) {
+        EXPECT_EQ(structure_of(reports_with(text, "markdown")), structure) << text;
+    }
+}
 
 TEST(MarkdownReader, GetsEveryByteAloneAndBesideAnEdge) {
     using S = StyleLists;

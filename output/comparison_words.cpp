@@ -1,0 +1,18 @@
+#include "output/comparison_words.h"
+
+#include "output/finding_sentences.h"
+
+std::string reasons_of_difference(const ComparedField& field) {
+    if (field.findings.empty()) return {};
+    const ComparedText left(*field.left), right(*field.right);
+    return FindingSentences(left, right).reasons(field.findings);
+}
+
+bool is_difference(Verdict verdict) {
+    return verdict != Verdict::equal && verdict != Verdict::equivalent;
+}
+
+std::string count_of_differences(std::size_t count) {
+    if (count == 0) return "no field differs";
+    return count == 1 ? "1 field differs" : std::to_string(count) + " fields differ";
+}
