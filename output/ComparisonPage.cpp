@@ -1,6 +1,5 @@
 #include "output/ComparisonPage.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "output/comparison_summary.h"
@@ -11,10 +10,6 @@
 namespace {
 
 using Counts = ComparisonSummary::Counts;
-
-std::string equals_told(std::size_t count, const char* where) {
-    return (count == 1 ? "1 field is equal" : std::to_string(count) + " fields are equal") + where;
-}
 
 std::string summary_row(const std::string& label, const Counts& counts) {
     std::string row = "<tr><th scope=\"row\">" + label + "</th>";
@@ -28,11 +23,6 @@ std::string summary_row(const std::string& label, const Counts& counts) {
 constexpr char sides_head[] =
     "<thead><tr><th scope=\"col\">Field</th><th scope=\"col\">Left</th>"
     "<th scope=\"col\">Right</th></tr></thead>\n";
-
-/// The names of the left and the right one, or that of both.
-std::string both(const std::string& left, const std::string& right) {
-    return left == right ? isolated(left) : isolated(left) + " and " + isolated(right);
-}
 
 /// A pair or an entry by itself; title and source are mark-up.
 std::string article(const std::string& anchor, const std::string& title,
@@ -56,7 +46,7 @@ ComparisonPage::~ComparisonPage() = default;
 LaidOutPart ComparisonPage::comparison(const Side& left, const Side& right, PairingReason reason,
                                        const EntryComparison& compared) {
     const std::string anchor = slug(left.block, "pair");
-    const std::string title = both("data_" + left.block, "data_" + right.block);
+    const std::string title = both(isolated("data_" + left.block), isolated("data_" + right.block));
     std::string rows[3];  // what differs, what is equivalent, what is equal
     std::size_t equals = 0, differences = 0;
     for (const ComparedField& field : compared.fields) {
@@ -69,14 +59,16 @@ LaidOutPart ComparisonPage::comparison(const Side& left, const Side& right, Pair
     }
     std::string text =
         article(anchor, title,
-                both(without_folders(left.file), without_folders(right.file)) + ", " +
-                    clause_of(reason) + ": " + count_of_differences(differences));
+                both(isolated(without_folders(left.file)), isolated(without_folders(right.file))) +
+                    ", " + clause_of(reason) + ": " + count_of_differences(differences));
     if (!rows[0].empty() || !rows[1].empty()) {
         text.append("<table class=\"sides\">\n").append(sides_head).append(rows[0]).append(rows[1]);
         text += "</table>\n";
     }
     if (equals > 0) {
-        text.append("<details><summary>").append(equals_told(equals, "")).append("</summary>\n");
+        text.append("<details><summary>")
+            .append(count_of_equals(equals, ""))
+            .append("</summary>\n");
         text.append("<table class=\"sides\">\n").append(sides_head).append(rows[2]);
         text += "</table>\n</details>\n";
     }
@@ -118,8 +110,7 @@ std::string ComparisonPage::foot_with(const ComparisonSummary& summary,
         if (first != first_.end()) {
             label.insert(0, "<a href=\"#" + first->second + "\">").append("</a>");
         }
-        const bool is_equal = std::all_of(counts.begin() + 1, counts.end(),
-                                          [](unsigned long count) { return count == 0; });
+        const bool is_equal = is_equal_everywhere(counts);
         (is_equal ? equal : differing) += summary_row(label, counts);
         equals += is_equal ? 1 : 0;
     }
@@ -129,7 +120,7 @@ std::string ComparisonPage::foot_with(const ComparisonSummary& summary,
     top_.append(head).append(summary_row("Entries", summary.entries)).append(differing);
     top_ += "</tbody>\n</table>\n";
     if (equals > 0) {
-        top_.append("<details><summary>").append(equals_told(equals, " in all entries"));
+        top_.append("<details><summary>").append(count_of_equals(equals, " in all entries"));
         top_.append("</summary>\n<table>\n").append(head).append(equal);
         top_ += "</tbody>\n</table>\n</details>\n";
     }

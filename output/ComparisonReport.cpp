@@ -37,14 +37,14 @@ LaidOutPart ComparisonReport::comparison(const Side& left, const Side& right, Pa
         }
     }
     rows += equivalent;
-    std::string report = writer_.title(writer_.plain(block_of(left) + " and " + block_of(right)));
-    const std::string source = without_folders(left.file) + " and " + without_folders(right.file) +
+    std::string report = writer_.title(writer_.plain(both(block_of(left), block_of(right))));
+    const std::string source = both(without_folders(left.file), without_folders(right.file)) +
                                ", " + clause_of(reason) + ": " + count_of_differences(differences);
     report += writer_.element(medium.paragraph, writer_.plain(source));
     if (!rows.empty()) {
-        const std::string head = writer_.table_row(
-            medium.sides, writer_.words("Field", in_cell), medium.sides.head,
-            {writer_.plain(block_of(left), in_cell), writer_.plain(block_of(right), in_cell)});
+        const std::string head =
+            writer_.table_row(medium.sides, writer_.words("Field", in_cell), medium.sides.head,
+                              {writer_.words("Left", in_cell), writer_.words("Right", in_cell)});
         report += writer_.element(medium.sides.table, head + rows);
     }
     if (!equal.empty()) {
@@ -68,24 +68,42 @@ std::string ComparisonReport::foot_with(const ComparisonSummary& counted,
                                         std::span<const Field> compared) {
     const bool has_several =
         std::accumulate(counted.entries.begin(), counted.entries.end(), 0UL) > 1;
-    return has_several ? summary(counted, compared) : std::string();
+    return has_several ? section(counted, compared, false) : std::string();
 }
 
 std::string ComparisonReport::summary(const ComparisonSummary& summary,
                                       std::span<const Field> compared) {
+    return section(summary, compared, true);
+}
+
+/// How much differs; and how often fields are equal that never differ.
+std::string ComparisonReport::section(const ComparisonSummary& summary,
+                                      std::span<const Field> compared, bool lists_equal) const {
     const ReportMedium& medium = writer_.medium();
     std::vector<std::string> verdicts;
     verdicts.reserve(summary.entries.size());
     for (std::size_t i = 0; i < summary.entries.size(); ++i) {
         verdicts.push_back(writer_.words(words_of(static_cast<Verdict>(i)), in_cell));
     }
-    std::string rows = writer_.table_row(medium.counts, writer_.words("How many", in_cell),
-                                         medium.counts.head, verdicts);
-    rows += counts("Entries", summary.entries);
+    const std::string head = writer_.table_row(medium.counts, writer_.words("How many", in_cell),
+                                               medium.counts.head, verdicts);
+    std::string differing, equal;
+    std::size_t equals = 0;
     for (std::size_t i = 0; i < summary.fields.size(); ++i) {
-        if (has_any(summary.fields[i])) rows += counts(compared[i].label, summary.fields[i]);
+        if (!has_any(summary.fields[i])) continue;
+        const bool is_equal = is_equal_everywhere(summary.fields[i]);
+        (is_equal ? equal : differing) += counts(compared[i].label, summary.fields[i]);
+        equals += is_equal ? 1 : 0;
     }
-    return writer_.title(writer_.words("Summary")) + writer_.element(medium.counts.table, rows);
+    std::string report = writer_.title(writer_.words("Summary"));
+    report +=
+        writer_.element(medium.counts.table, head + counts("Entries", summary.entries) + differing);
+    if (equals > 0) {
+        report += writer_.element(medium.paragraph,
+                                  writer_.words(count_of_equals(equals, " in all entries")));
+        if (lists_equal) report += writer_.element(medium.counts.table, head + equal);
+    }
+    return report;
 }
 
 /// The two texts of a field, and why they differ.

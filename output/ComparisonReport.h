@@ -25,6 +25,8 @@ public:
     std::string summary(const ComparisonSummary& summary, std::span<const Field> compared) override;
 
 private:
+    std::string section(const ComparisonSummary& summary, std::span<const Field> compared,
+                        bool lists_equal) const;
     std::string sides(const ComparedField& field) const;
     std::string side(const std::optional<TextItem>& item, const std::vector<Finding>& findings,
                      DifferenceMarks::Side side) const;

@@ -43,7 +43,10 @@ std::string EntryReport::section(const EntryCards& cards, const std::string& fil
         rows = writer_.row("found", writer_.words(reason_of(name->field->matches)));
     }
     for (const EntryCards::Row& shown : cards.rest_of_head()) rows += row(shown);
-    rows += writer_.row("File", writer_.plain(without_folders(file) + ", " + block_name));
+    const EntryCards::Row* const identifier = cards.head("Identifier");
+    const bool is_told = !name || (identifier && identifier->field->item.characters() == block);
+    rows += writer_.row("File",
+                        writer_.plain(without_folders(file) + (is_told ? "" : ", " + block_name)));
     return writer_.title(name ? writer_.mark_up(name->field->item) : writer_.plain(block_name)) +
            writer_.list(rows);
 }

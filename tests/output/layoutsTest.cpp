@@ -203,7 +203,7 @@ TEST(ComparisonReport, HasWhatDiffersFirst) {
     EXPECT_EQ(compared(cif, second, "markdown", "Color,Habit", true),
               "## data\\_a and data\\_b\n\nl\\<U+202E\\> and r, same compound name: "
               "1 field differs\n\n<table>\n"
-              "<tr><th>Field</th><th>data_a</th><th>data_b</th></tr>\n"
+              "<tr><th>Field</th><th>Left</th><th>Right</th></tr>\n"
               "<tr><th>Habit</th><td>no text</td><td>block</td></tr>\n</table>\n\n"
               "### Equal fields\n\n- Color: red\n\n"
               "## Entries only right\n\nr, data\\_c\n\n");
