@@ -18,6 +18,25 @@ void replace_anchor(std::string& mark_up, const std::string& old, const std::str
     }
 }
 
+// How many a browser lays out together, or not yet: it looks after each group in each frame.
+constexpr std::size_t lines_of_a_group = 25, parts_of_a_group = 8;
+
+std::size_t size_of(const std::vector<std::string>& texts) {
+    std::size_t size = 0;
+    for (const std::string& text : texts) size += text.size();
+    return size + texts.size() * 4;  // the ends of groups
+}
+
+/// Appends texts in groups, and lets go of them.
+void append_groups(std::string& page, std::vector<std::string>& texts, std::size_t size,
+                   const char* begin, const char* end) {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (i % size == 0) page += begin;
+        page += std::exchange(texts[i], {});
+        if (i % size == size - 1 || i + 1 == texts.size()) page += end;
+    }
+}
+
 }  // namespace
 
 PageDocument::~PageDocument() = default;
@@ -37,7 +56,7 @@ std::string PageDocument::add(LaidOutPart part) {
         replace_anchor(part.listing, part.anchor, anchor);
     }
     texts_.push_back(std::move(part.text));
-    listing_ += part.listing;
+    listings_.push_back(std::move(part.listing));
     last_anchor_ = std::move(anchor);
     return {};
 }
@@ -59,15 +78,14 @@ std::string PageDocument::foot() {
     page += top();
     if (has_index()) {
         page.append("<nav id=\"index\" aria-labelledby=\"index-title\">\n");
-        page.append("<h2 id=\"index-title\">Index</h2>\n<ol>\n").append(listing_);
-        page.append("</ol>\n</nav>\n");
+        page += "<h2 id=\"index-title\">Index</h2>\n";
+        append_groups(page, listings_, lines_of_a_group, "<ol>\n", "</ol>\n");
+        page += "</nav>\n";
     }
     page += "<main id=\"entries\">\n";
-    std::size_t size = page.size() + script_.text.size();
-    for (const std::string& text : texts_) size += text.size();
     const std::string behind = "</main>\n" + data();
-    page.reserve(size + behind.size() + 100);
-    for (std::string& text : texts_) page += std::exchange(text, {});
+    page.reserve(page.size() + size_of(texts_) + behind.size() + script_.text.size() + 100);
+    append_groups(page, texts_, parts_of_a_group, "<div class=\"group\">\n", "</div>\n");
     page += behind;
     page.append("<script>").append(script_.text).append("</script>\n</body>\n</html>\n");
     return page;

@@ -31,7 +31,7 @@ protected:
 
 private:
     const PageText& script_;
-    std::string title_, listing_, last_anchor_;
-    std::vector<std::string> texts_;  // of the parts
+    std::string title_, last_anchor_;
+    std::vector<std::string> listings_, texts_;  // of the parts
     std::set<std::string> anchors_;
 };

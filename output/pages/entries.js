@@ -116,8 +116,8 @@
 
     const addSearch = (articles, lines) => {
         readTable();
-        const list = document.querySelector("#index ol");
-        const main = document.querySelector("main");
+        const lists = [...document.querySelectorAll("#index ol")];
+        const groups = [...document.querySelectorAll("main > .group")];
         const texts = new Array(articles.length);
         const near = new Set();
         let words = [];
@@ -151,60 +151,58 @@
         const highlight = () => {
             if (!CSS.highlights) return;
             const found = new Highlight();
-            for (const root of words.length > 0 ? near : []) {
-                if (root.hidden) continue;
-                const values = root.matches("li") ? searchedInIndex : searched;
-                for (const value of root.querySelectorAll(values)) {
-                    for (const range of rangesIn(value, words)) found.add(range);
+            for (const group of words.length > 0 ? near : []) {
+                const values = group.matches("ol") ? searchedInIndex : searched;
+                for (const part of group.children) {
+                    if (part.hidden) continue;
+                    for (const value of part.querySelectorAll(values)) {
+                        for (const range of rangesIn(value, words)) found.add(range);
+                    }
                 }
             }
             CSS.highlights.set("found", found);
         };
 
-        // In slices, a frame each: what is at the top shows its result at once.
-        let search = 0;
-        const inSlices = (step) => {
-            const current = search;
-            let next = 0;
-            const slice = () => {
-                if (current !== search) return;
-                const end = performance.now() + 30;
-                let changes = 0;
-                while (next < articles.length && changes < 1500 && performance.now() < end) {
-                    changes += step(next++);
+        // Hides what does not match in groups, of lines or entries, each of which is so high.
+        const hideOthers = (groups, rem, matches) => {
+            for (const group of groups) {
+                let shown = 0;
+                for (const part of group.children) {
+                    const isShown = matches.get(part) ?? true;
+                    if (part.hidden === isShown) part.hidden = !isShown;
+                    if (isShown) ++shown;
                 }
-                if (next < articles.length) requestAnimationFrame(slice);
-            };
-            slice();
+                if (group.hidden !== (shown === 0)) group.hidden = shown === 0;
+                const isWhole = shown === group.children.length;
+                group.style.containIntrinsicBlockSize = isWhole ? "" : `${shown * rem}rem`;
+            }
         };
-
-        const matches = new Array(articles.length).fill(true);
-        const hideOthers = () =>
-            inSlices((i) => {
-                if (articles[i].hidden !== matches[i]) return 0;
-                articles[i].hidden = lines[i].hidden = !matches[i];
-                return 1;
-            });
 
         const show = () => {
-            ++search;
             words = folded(input.value).split(" ").filter(Boolean);
+            const matches = new Map();
             let shown = 0;
-            inSlices((i) => {
+            for (let i = 0; i < articles.length; ++i) {
                 const text = words.length > 0 ? textAt(i) : "";
-                matches[i] = words.every((word) => text.includes(word));
-                if (matches[i]) ++shown;
-                if (i + 1 < articles.length) return 0;
-                count.value = `${shown} of ${articles.length} entries`;
-                hideOthers();
-                highlight();
-                return 0;
-            });
+                const isShown = words.every((word) => text.includes(word));
+                matches.set(articles[i], isShown).set(lines[i], isShown);
+                if (isShown) ++shown;
+            }
+            hideOthers(groups, 34, matches);
+            hideOthers(lists, 3.6, matches);
+            count.value = `${shown} of ${articles.length} entries`;
+            highlight();
         };
 
+        // What is found is at the top.
+        const index = document.getElementById("index");
+        let isScrolled = true;
         const showFromTop = () => {
-            window.scrollTo({ top: 0 });
-            list.parentElement.scrollTop = 0;
+            if (isScrolled) {
+                window.scrollTo({ top: 0 });
+                index.scrollTop = 0;
+                isScrolled = false;
+            }
             show();
         };
 
@@ -220,20 +218,26 @@
         const collator = new Intl.Collator("en", { numeric: true, ignorePunctuation: true });
         const isMissing = (key) => key === undefined || key === "" || Number.isNaN(key);
 
+        // As many in each as before.
+        const refill = (containers, children, entries) => {
+            const sizes = containers.map((container) => container.children.length);
+            let next = 0;
+            containers.forEach((container, k) => {
+                const end = next + sizes[k];
+                container.replaceChildren(...entries.slice(next, end).map(({ i }) => children[i]));
+                next = end;
+            });
+        };
+
         const sort = () => {
             const entries = articles.map((article, i) => ({ i, key: keys[order.value](i) }));
             entries.sort((a, b) => {
                 if (isMissing(a.key) || isMissing(b.key)) return isMissing(a.key) - isMissing(b.key);
                 return typeof a.key === "number" ? a.key - b.key : collator.compare(a.key, b.key);
             });
-            for (const [parent, children] of [
-                [list, lines],
-                [main, articles],
-            ]) {
-                const sorted = document.createDocumentFragment();
-                for (const { i } of entries) sorted.append(children[i]);
-                parent.append(sorted);
-            }
+            refill(lists, lines, entries);
+            refill(groups, articles, entries);
+            show();
         };
 
         let isHighlighting = false;
@@ -247,8 +251,8 @@
         };
         // Those that are near already say so no more.
         const isNear = { contentVisibilityAuto: true };
-        for (const root of [...articles, ...lines]) {
-            if (root.firstElementChild.checkVisibility?.(isNear)) near.add(root);
+        for (const group of [...groups, ...lists]) {
+            if (group.firstElementChild.checkVisibility?.(isNear)) near.add(group);
         }
         document.addEventListener("contentvisibilityautostatechange", (event) => {
             if (event.skipped) near.delete(event.target);
@@ -262,9 +266,11 @@
                 input.value = "";
                 showFromTop();
             } else if (event.key === "Enter") {
-                list.querySelector("li:not([hidden]) a")?.click();
+                document.querySelector("#index li:not([hidden]) a")?.click();
             }
         });
+        const noteScrolling = () => (isScrolled = window.scrollY > 0 || index.scrollTop > 0);
+        document.addEventListener("scroll", noteScrolling, { capture: true, passive: true });
         document.addEventListener("keydown", (event) => {
             const isTyping = event.target.matches("input, select, [role=menuitem]");
             if (event.key !== "/" || isTyping || event.ctrlKey || event.metaKey) return;
@@ -379,7 +385,7 @@
         document.addEventListener("scroll", close, { capture: true, passive: true });
     };
 
-    const articles = [...document.querySelectorAll("main > article")];
+    const articles = [...document.querySelectorAll("main article")];
     const lines = [...document.querySelectorAll("#index li")];
     if (lines.length > 0) addSearch(articles, lines);
     addCopying();
