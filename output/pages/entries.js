@@ -208,7 +208,7 @@
 
         const keys = {
             given: (i) => i,
-            name: (i) => lines[i].querySelector("a").textContent,
+            name: (i) => articles[i].querySelector("[data-field='Compound Name'] .value")?.textContent,
             formula: (i) =>
                 (lines[i].querySelector(".formula") ?? articles[i].querySelector(".formula .value"))
                     ?.textContent,
@@ -299,8 +299,9 @@
                 ),
             );
         }
-        document.body.append(menu);
+        document.querySelector("main").append(menu);
         let field = null;
+        let silence = 0;
 
         const textAs = (form) => {
             const texts = JSON.parse(field.dataset.forms ?? "{}");
@@ -318,7 +319,8 @@
         const offer = (event) => {
             const next = event.target.closest?.(".field");
             if (!next || next === field || !menu.hidden) return;
-            if (event.type === "pointerover" && document.activeElement === button) return;
+            // A pointer at rest does not take the button from who came to it by keys.
+            if (event.type === "pointerover" && button.matches(":focus-visible")) return;
             field = next;
             const label = field.dataset.field;
             button.setAttribute("aria-label", `Copy ${label}`);
@@ -349,7 +351,8 @@
         const copy = async (item) => {
             const done = await write(textAs(item.dataset.form));
             said.value = done ? `Copied as ${item.textContent}` : "The clipboard is not to be had";
-            setTimeout(() => (said.value = ""), 4000);
+            clearTimeout(silence);
+            silence = setTimeout(() => (said.value = ""), 4000);
             close();
             button.focus();
         };
