@@ -44,16 +44,19 @@ def page_of(*files, status=(0,)):
     return page
 
 
-def comparison_of(left, right, *options):
+def comparison_of(left, right, status=(0, 1)):
     page = pathlib.Path(folder.name, "comparison.html")
-    run(PROGRAM, "compare", left, right, "-o", page, *options, status=(0, 1))
+    run(PROGRAM, "compare", left, right, "-o", page, "--all", status=status)
     return page
 
 
 def cif(block, items):
-    """A block with these items, whose names lack their first underscore; None is left out."""
-    lines = [f"data_{block}"]
-    for name, value in dict(items).items():
+    """A block with these items, whose names lack their first underscore; None is left out. A cell is made cubic."""
+    lines, items = [f"data_{block}"], dict(items)
+    if items.get("cell_length_a"):
+        items = {f"cell_length_{axis}": items["cell_length_a"] for axis in "bc"} | {
+            f"cell_angle_{angle}": "90" for angle in ("alpha", "beta", "gamma")} | items
+    for name, value in items.items():
         if value is not None:
             lines.append(f"_{name}\n;{value}\n;")
     return "\n".join(lines) + "\n"

@@ -21,9 +21,10 @@ export default [
             "prefer-const": "error",
             "no-console": "error",
             // Texts of entries reach the page as text nodes, never as mark-up.
-            "no-restricted-properties": ["error",
-                ...["innerHTML", "outerHTML", "insertAdjacentHTML", "write", "writeln", "setHTMLUnsafe"]
-                    .map((property) => ({ property, message: "Makes mark-up of text." }))],
+            "no-restricted-syntax": ["error",
+                "AssignmentExpression > MemberExpression.left[property.name=/HTML$/]",
+                "CallExpression[callee.property.name=/HTML(Unsafe)?$/]",
+                "CallExpression[callee.object.name='document'][callee.property.name=/^write/]"],
         },
     },
 ];

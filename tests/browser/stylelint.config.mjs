@@ -4,7 +4,7 @@ export default {
         // Nothing is fetched: a page is one file.
         "function-url-scheme-allowed-list": [],
         "at-rule-disallowed-list": ["import", "font-face"],
-        "declaration-no-important": true,
+        "no-descending-specificity": null, // order is by subject
         "max-nesting-depth": 2,
     },
 };
