@@ -92,7 +92,9 @@ class EntriesTest(BrowserTest):
             for form, kind in forms.items():
                 with self.subTest(f"{label} as {form}"):
                     shown = browser.run(browser.PROGRAM, "show", "--to", kind, "--fields", label, file)
-                    text = re.search(rf"{label}(?::|\}}\]) (.*)", shown)[1]
+                    # In reports name and formula are headings.
+                    text = (re.search(rf"(?i){label}(?::|\}}\]) (.*)", shown)
+                            or re.match(r"(?:## |\\section\*\{)(.*?)\}?\n", shown))[1]
                     ActionChains(self.driver, 0).move_to_element(field).perform()
                     button = self.wait(lambda: field.find_element("css selector", "button.copy"))
                     self.assertEqual(button.get_attribute("aria-label"), f"Copy {label}")
