@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 
 #include "comparison/Reference.h"
 #include "markup/DisplayedText.h"
@@ -80,19 +81,15 @@ std::string first_number(std::string_view text) {
 }  // namespace
 
 EntryCards::EntryCards(const Fields& fields) {
-    std::vector<const EntryField*> others;
-    for (const EntryField& field : fields) others.push_back(&field);
+    std::map<std::string_view, const EntryField*> others;
+    for (const EntryField& field : fields) others.emplace(field.label, &field);
     for (const ReaderField& reader : reader_fields()) {
-        const auto field = std::find_if(others.begin(), others.end(), [&](const EntryField* known) {
-            return known && std::string_view(known->label) == reader.label;
-        });
+        const auto field = others.find(reader.label);
         if (field == others.end()) continue;
-        if (!repeats_another(fields, **field)) add(**field, reader);
-        *field = nullptr;
+        if (!repeats_another(fields, *field->second)) add(*field->second, reader);
+        others.erase(field);
     }
-    for (const EntryField* const field : others) {
-        if (field) add(*field, other_field);
-    }
+    for (const auto& [label, field] : others) add(*field, other_field);
     leave_out_same_cell();
 }
 

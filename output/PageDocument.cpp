@@ -48,8 +48,9 @@ std::string PageDocument::head(const std::string& title) {
 
 std::string PageDocument::add(LaidOutPart part) {
     std::string anchor = part.anchor;
-    for (unsigned long number = 2; !anchors_.insert(anchor).second; ++number) {
-        anchor = part.anchor + "-" + std::to_string(number);
+    while (!anchors_.emplace(anchor, 1).second) {
+        unsigned long& number = anchors_[part.anchor];
+        anchor = part.anchor + "-" + std::to_string(++number);
     }
     if (anchor != part.anchor) {
         replace_anchor(part.text, part.anchor, anchor);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <set>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -32,6 +32,6 @@ protected:
 private:
     const PageText& script_;
     std::string title_, last_anchor_;
-    std::vector<std::string> listings_, texts_;  // of the parts
-    std::set<std::string> anchors_;
+    std::vector<std::string> listings_, texts_;     // of the parts
+    std::map<std::string, unsigned long> anchors_;  // the last number behind each
 };

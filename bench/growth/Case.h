@@ -42,3 +42,5 @@ std::vector<Case> comparison_cases();
 std::vector<Case> edit_cases();
 /// Those that check entries.
 std::vector<Case> check_cases();
+/// Those that lay out pages.
+std::vector<Case> page_cases();

@@ -34,4 +34,5 @@ int main() {
     for (const Case& c : comparison_cases()) run(c);
     for (const Case& c : edit_cases()) run(c);
     for (const Case& c : check_cases()) run(c);
+    for (const Case& c : page_cases()) run(c);
 }
