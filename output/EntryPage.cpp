@@ -32,8 +32,8 @@ private:
         return row.field->item.mark_up_text(page_.generator_);
     }
 
-    /// The attributes that make an element that of a field.
-    /// What of it is shown as its text; empty: it is shown in several.
+    /// The attributes that make an element that of a field; `shown` is the mark-up of its value,
+    /// empty where it has several.
     std::string attributes(const Row& row, const char* classes, std::string_view shown) const {
         std::string all = " class=\"";
         all.append(classes).append("\" id=\"").append(id_of(row)).append("\" data-field=\"");
