@@ -164,8 +164,8 @@
         };
 
         // Hides what does not match in groups, of lines or entries, each of which is so high.
-        const hideOthers = (groups, rem, matches) => {
-            for (const group of groups) {
+        const hideOthers = (parents, rem, matches) => {
+            for (const group of parents) {
                 let shown = 0;
                 for (const part of group.children) {
                     const isShown = matches.get(part) ?? true;
