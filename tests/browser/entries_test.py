@@ -213,11 +213,12 @@ class EntriesTest(BrowserTest):
         for key in "strontium 4711" + Keys.BACKSPACE * 3:
             self.press(key)
             time.sleep(0.5)
-        times = sorted(self.js("return times"))
+        soonest, *times = self.js("return times")
+        times.sort()
         print(f"\n10,000 entries: {page.stat().st_size / 1e6:.1f} MB, first text after {first:.0f} ms, loaded after "
-              f"{loaded:.0f} ms (driver {ready:.0f} ms); a key's result after {times[len(times) // 2]:.0f} ms, "
-              f"at most {times[-1]:.0f} ms", flush=True)
-        self.assertEqual(len(times), 17)
+              f"{loaded:.0f} ms (driver {ready:.0f} ms); result of a key pressed at once after {soonest:.0f} ms, "
+              f"of others after {times[len(times) // 2]:.0f} ms, at most {times[-1]:.0f} ms", flush=True)
+        self.assertEqual(len(times), 16)
         self.assertLess(times[-1], 4 * 100)  # 100 ms is what is promised; slow machines get more
         self.assertRegex(self.find("#count").text, r"^2,?\d\d\d of 10,?000 entries$")
 
