@@ -16,7 +16,7 @@ struct TextComparison {
                    const ComparisonPolicy& policy);
 
     /// Equal exactly when the texts are, equivalent when each finding is.
-    Verdict verdict;
+    Verdict verdict = Verdict::equal;
     /// What differs, in ascending order of the left ranges, then of the right ones. On either side
     /// ranges are disjoint and lie on characters; on the right they ascend but for what is moved
     /// or is paired by its name.

@@ -28,7 +28,7 @@ constexpr char sides_head[] =
 std::string article(const std::string& anchor, const std::string& title,
                     const std::string& source) {
     return "<article class=\"pair\" id=\"" + anchor + "\" aria-labelledby=\"" + anchor +
-           ".top\">\n<header>\n<h2 id=\"" + anchor + ".top\">" + title +
+           ".top\" tabindex=\"-1\">\n<header>\n<h2 id=\"" + anchor + ".top\">" + title +
            "</h2>\n<p class=\"source\">" + source + "</p>\n</header>\n";
 }
 

@@ -21,6 +21,14 @@ bool is_same_everywhere(char c) {
            signs.find(c) != std::string_view::npos;
 }
 
+/// "1. Zinc" and "2) red" begin lists somewhere.
+bool may_begin_list(std::string_view text) {
+    const std::size_t sign = text.find_first_not_of("0123456789");
+    if (sign == 0 || sign == std::string_view::npos) return false;
+    if (text[sign] != '.' && text[sign] != ')') return false;
+    return sign + 1 == text.size() || text[sign + 1] == ' ';
+}
+
 /// Whether a browser tells mark-up as it was written: references to characters it reads.
 bool is_kept_by_browsers(std::string_view mark_up) {
     return mark_up.find('&') == std::string_view::npos &&
@@ -37,7 +45,10 @@ CopiedForms::CopiedForms() {
 
 std::string CopiedForms::of(const TextItem& item, std::string_view shown) const {
     const bool is_plain = shown == item.characters();
-    if (is_plain && std::all_of(shown.begin(), shown.end(), is_same_everywhere)) return {};
+    if (is_plain && std::all_of(shown.begin(), shown.end(), is_same_everywhere) &&
+        !may_begin_list(shown)) {
+        return {};
+    }
     nlohmann::ordered_json forms;
     std::string text;
     for (const auto& [name, generator] : generators_) {

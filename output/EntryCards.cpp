@@ -26,7 +26,6 @@ constexpr struct {
     {"Moiety Formula", "Formula"},
     {"Synonym", "Compound Name"},
     {"Temperature (text)", "Temperature (K)"},
-    {"Reduced Cell Volume", "Cell Volume"},
     {"Density (KOVR)", "Density (author)"},
 };
 

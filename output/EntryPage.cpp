@@ -110,7 +110,7 @@ private:
 
     static std::string unit(const Row& row) {
         if (!*row.unit) return {};
-        return " <span class=\"unit\">" + escaped(row.unit) + "</span>";
+        return "\u00A0<span class=\"unit\">" + escaped(row.unit) + "</span>";
     }
 
     void write_cell() {
@@ -125,8 +125,11 @@ private:
             for (const TextItem& value : row.values) {
                 text_.append(cell).append(value.mark_up_text(page_.generator_)).append("</td>");
             }
-            text_.append("<td class=\"unit\">").append(escaped(row.row.unit));
-            text_.append(found(row.row)).append("</td></tr>\n");
+            text_.append("<td class=\"unit\">")
+                .append(escaped(row.row.unit))
+                .append("</td></tr>\n");
+            const std::string note = found(row.row);
+            if (!note.empty()) text_ += "<tr><td colspan=\"5\">" + note + "</td></tr>\n";
         }
         text_ += "</tbody>\n</table>\n";
         if (cards_.is_reduced()) {

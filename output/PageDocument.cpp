@@ -18,6 +18,11 @@ void replace_anchor(std::string& mark_up, const std::string& old, const std::str
     }
 }
 
+// Those of the page itself, of which scripts add some.
+constexpr const char* ids_of_page[] = {"index",         "index-title", "entries", "summary",
+                                       "summary-title", "search",      "order",   "count",
+                                       "said",          "folding"};
+
 // How many a browser lays out together, or not yet: it looks after each group in each frame.
 constexpr std::size_t lines_of_a_group = 25, parts_of_a_group = 8;
 
@@ -38,6 +43,10 @@ void append_groups(std::string& page, std::vector<std::string>& texts, std::size
 }
 
 }  // namespace
+
+PageDocument::PageDocument(const PageText& script) : script_(script) {
+    for (const char* const id : ids_of_page) anchors_.emplace(id, 1);
+}
 
 PageDocument::~PageDocument() = default;
 

@@ -11,7 +11,7 @@
 /// has one, stands before all parts: the page is written when the last is known.
 class PageDocument : public virtual DocumentLayout {
 public:
-    explicit PageDocument(const PageText& script) : script_(script) {}
+    explicit PageDocument(const PageText& script);
     ~PageDocument() override;
 
     std::string head(const std::string& title) override;

@@ -8,7 +8,7 @@
     document.body.append(said);
 
     const hint = document.createElement("p");
-    hint.className = "source";
+    hint.className = "hint";
     hint.textContent = "Keys: n next difference, p previous one";
     if (rows.length > 1) document.querySelector("header.page").append(hint);
 

@@ -30,7 +30,7 @@
     const cluster = /\P{M}\p{M}*|\p{M}+/gu;
 
     const readTable = () => {
-        const folding = document.getElementById("folding");
+        const folding = document.querySelector("script#folding");
         for (const [result, characters] of Object.entries(JSON.parse(folding.textContent))) {
             for (const character of characters) table.set(character, result);
         }
@@ -47,13 +47,44 @@
         return foldedBase(composed) + (/\p{L}/u.test(base) ? "" : others.join(""));
     };
 
-    const folded = (text) =>
+    // Of a character that becomes several, "beta" of β, all but the first are written as others: a
+    // match may end among them, but not begin.
+    const inside = 0xe000;
+    const asOne = (text) =>
+        text[0] +
+        [...text.slice(1)]
+            .map((character) => String.fromCodePoint(character.codePointAt(0) + inside))
+            .join("");
+
+    const foldedAs = (text, result) =>
         text
-            .replace(/[^\0-\x7f]\p{M}*|[\0-\x7f]\p{M}+/gu, foldedCluster)
+            .replace(/[^\0-\x7f]\p{M}*|[\0-\x7f]\p{M}+/gu, result)
             .replaceAll("`", "'")
             .replaceAll('"', "''")
             .replace(/\s+/g, " ")
             .toLowerCase();
+
+    const folded = (text) =>
+        foldedAs(text, (character) => {
+            const result = foldedCluster(character).toLowerCase();
+            return /^[\0-\x7f]{2,}$/.test(result) ? asOne(result) : result;
+        });
+
+    // What finds a word in such a text.
+    const finderOf = (word) => {
+        const [first, ...others] = [...word].map((character) => {
+            const plain = character.replace(/[^\w\s]/g, "\\$&");
+            const other = String.fromCodePoint(character.codePointAt(0) + inside);
+            return { plain, either: character < "\x80" ? `(?:${plain}|${other})` : plain };
+        });
+        const expression = new RegExp(first.plain + others.map((o) => o.either).join(""), "g");
+        const hasInside = /[\ue000-\ue07f]/;
+        return {
+            isIn: (text) =>
+                text.includes(word) || (hasInside.test(text) && text.search(expression) >= 0),
+            all: (text) => text.matchAll(expression),
+        };
+    };
 
     // A bar over a digit is a style of the page, and a character of the text.
     const textOf = (node) => {
@@ -71,24 +102,29 @@
     const searched = ".value, .cell td:not(.unit)";
     const searchedInIndex = "a, span:not(.length)";
 
+    // Formulae are found with their blanks and without.
+    const isFormula = (value) => value.closest("[data-field$='Formula']") !== null;
+
     const foldedText = (root) => {
         const texts = [];
         for (const value of root.querySelectorAll(searched)) {
             const bars = value.querySelector(".bar");
-            texts.push(folded(bars ? textNodes(value).map(textOf).join("") : value.textContent));
+            const text = folded(bars ? textNodes(value).map(textOf).join("") : value.textContent);
+            texts.push(text);
+            if (isFormula(value)) texts.push(text.replaceAll(" ", ""));
         }
         return texts.join("\n");
     };
 
     // The places of a text, folded, and where each of its characters stands in the nodes.
-    const placesIn = (value) => {
+    const placesIn = (value, hasBlanks) => {
         let text = "";
         const places = [];
         for (const node of textNodes(value)) {
             const isBar = node.parentElement.closest(".bar") !== null;
             for (const match of node.data.matchAll(cluster)) {
-                const shown = isBar && /\d/.test(match[0]) ? "-" + match[0] : folded(match[0]);
-                if (shown === " " && text.endsWith(" ")) continue;
+                const shown = folded(isBar ? match[0] + "\u0305" : match[0]);
+                if (shown === " " && (!hasBlanks || text.endsWith(" "))) continue;
                 const place = { node, from: match.index, to: match.index + match[0].length };
                 for (let i = 0; i < shown.length; ++i) places.push(place);
                 text += shown;
@@ -97,21 +133,21 @@
         return { text, places };
     };
 
-    const rangesIn = (value, words) => {
-        const { text, places } = placesIn(value);
+    const rangesIn = (value, words, hasBlanks = true) => {
+        const { text, places } = placesIn(value, hasBlanks);
         const ranges = [];
         for (const word of words) {
-            let at = text.indexOf(word);
-            for (; at >= 0; at = text.indexOf(word, at + word.length)) {
-                const first = places[at];
-                const last = places[at + word.length - 1];
+            for (const { 0: found, index } of word.all(text)) {
+                const first = places[index];
+                const last = places[index + found.length - 1];
                 const range = new Range();
                 range.setStart(first.node, first.from);
                 range.setEnd(last.node, last.to);
                 ranges.push(range);
             }
         }
-        return ranges;
+        const isBroken = hasBlanks && ranges.length === 0 && isFormula(value);
+        return isBroken ? rangesIn(value, words, false) : ranges;
     };
 
     const addSearch = (articles, lines) => {
@@ -141,7 +177,7 @@
 
         // While nothing else is to be done, so that the first key is answered soon.
         const prepare = (from) => {
-            requestIdleCallback?.((deadline) => {
+            window.requestIdleCallback?.((deadline) => {
                 let i = from;
                 while (i < articles.length && deadline.timeRemaining() > 1) textAt(i++);
                 if (i < articles.length) prepare(i);
@@ -179,12 +215,13 @@
         };
 
         const show = () => {
-            words = folded(input.value).split(" ").filter(Boolean);
+            const wanted = foldedAs(input.value, foldedCluster);
+            words = wanted.split(" ").filter(Boolean).map(finderOf);
             const matches = new Map();
             let shown = 0;
             for (let i = 0; i < articles.length; ++i) {
                 const text = words.length > 0 ? textAt(i) : "";
-                const isShown = words.every((word) => text.includes(word));
+                const isShown = words.every((word) => word.isIn(text));
                 matches.set(articles[i], isShown).set(lines[i], isShown);
                 if (isShown) ++shown;
             }
@@ -210,12 +247,12 @@
             given: (i) => i,
             name: (i) => articles[i].querySelector("[data-field='Compound Name'] .value")?.textContent,
             formula: (i) =>
-                (lines[i].querySelector(".formula") ?? articles[i].querySelector(".formula .value"))
-                    ?.textContent,
+                articles[i].querySelector("[data-field='Formula'] .value")?.textContent,
             length: (i) => Number(lines[i].dataset.length ?? NaN),
             year: (i) => Number(lines[i].dataset.year ?? NaN),
         };
         const collator = new Intl.Collator("en", { numeric: true, ignorePunctuation: true });
+        const formulae = new Intl.Collator("en", { numeric: true });
         const isMissing = (key) => key === undefined || key === "" || Number.isNaN(key);
 
         // As many in each as before.
@@ -233,11 +270,12 @@
             const entries = articles.map((article, i) => ({ i, key: keys[order.value](i) }));
             entries.sort((a, b) => {
                 if (isMissing(a.key) || isMissing(b.key)) return isMissing(a.key) - isMissing(b.key);
-                return typeof a.key === "number" ? a.key - b.key : collator.compare(a.key, b.key);
+                if (typeof a.key === "number") return a.key - b.key;
+                return (order.value === "formula" ? formulae : collator).compare(a.key, b.key);
             });
             refill(lists, lines, entries);
             refill(groups, articles, entries);
-            show();
+            showFromTop();
         };
 
         let isHighlighting = false;

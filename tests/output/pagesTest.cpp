@@ -133,6 +133,8 @@ TEST(CopiedForms, AreThoseOfTheTargets) {
     } cases[] = {{"plain", "red plate"},
                  {"plain", "a & b_c \"d\""},
                  {"plain", "fine-focus"},
+                 {"plain", "1. Zinc"},
+                 {"plain", "12.5(3)"},
                  {"cif-text", "\\a-F^2^ <i>x</i> `a'"},
                  {"tevo-name", "alpha-D-gluco!2$"},
                  {"formula", "C6 H12"},
