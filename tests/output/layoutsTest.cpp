@@ -14,7 +14,6 @@
 #include "tasks/row_named.h"
 #include "tests/HostileReports.h"
 
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
