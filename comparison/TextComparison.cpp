@@ -37,8 +37,7 @@ Findings find(const ComparedText& left, const ComparedText& right, const Compari
 }  // namespace
 
 TextComparison::TextComparison(const ComparedText& left, const ComparedText& right,
-                               const ComparisonKind& kind, const ComparisonPolicy& policy)
-    : verdict(Verdict::equal) {
+                               const ComparisonKind& kind, const ComparisonPolicy& policy) {
     const std::string &left_text = left.item().characters(),
                       &right_text = right.item().characters();
     if (left_text == right_text) return;
