@@ -199,7 +199,8 @@
             CSS.highlights.set("found", found);
         };
 
-        // Hides what does not match in groups, of lines or entries, each of which is so high.
+        // Hides what does not match in groups, of lines or entries, each of which is so high. A group is never hidden
+        // itself: that takes a browser as long as the page is.
         const hideOthers = (parents, rem, matches) => {
             for (const group of parents) {
                 let shown = 0;
@@ -208,7 +209,6 @@
                     if (part.hidden === isShown) part.hidden = !isShown;
                     if (isShown) ++shown;
                 }
-                if (group.hidden !== (shown === 0)) group.hidden = shown === 0;
                 const isWhole = shown === group.children.length;
                 group.style.containIntrinsicBlockSize = isWhole ? "" : `${shown * rem}rem`;
             }
