@@ -219,7 +219,7 @@ class EntriesTest(BrowserTest):
               f"{loaded:.0f} ms (driver {ready:.0f} ms); result of a key pressed at once after {soonest:.0f} ms, "
               f"of others after {times[len(times) // 2]:.0f} ms, at most {times[-1]:.0f} ms", flush=True)
         self.assertEqual(len(times), 16)
-        self.assertLess(times[-1], 1000)  # some 100 ms on a machine of its own
+        self.assertLess(times[-1], 2000)  # some 100 ms where nothing else runs
         self.assertRegex(self.find("#count").text, r"^2,?\d\d\d of 10,?000 entries$")
 
 
