@@ -2,7 +2,6 @@
 
 #include <map>
 #include <nlohmann/json.hpp>
-#include <regex>
 #include <set>
 
 #include "entries/EntryReader.h"
@@ -40,11 +39,11 @@ std::string page_of(const std::string& cif) {
 
 /// What stands in that attribute of elements, in their order.
 std::vector<std::string> values_of(const std::string& page, const std::string& attribute) {
-    const std::regex expression(" " + attribute + "=\"([^\"]*)\"");
+    const std::string before = " " + attribute + "=\"";
     std::vector<std::string> values;
-    for (std::sregex_iterator match(page.begin(), page.end(), expression), end; match != end;
-         ++match) {
-        values.push_back((*match)[1]);
+    for (std::size_t at = 0; (at = page.find(before, at)) != std::string::npos;) {
+        at += before.size();
+        values.push_back(page.substr(at, page.find('"', at) - at));
     }
     return values;
 }
