@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 
