@@ -161,6 +161,6 @@ TEST(TextComparison, IsBounded) {
         const TextComparison compared(left_side, right_side, *kind, policy_of(*kind));
         const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
         EXPECT_EQ(compared.verdict, Verdict::different);
-        EXPECT_LT(seconds.count(), 1) << name;  // a tenth alone on a machine
+        EXPECT_LT(seconds.count(), 4) << name;  // a tenth alone on a machine
     }
 }
