@@ -50,11 +50,8 @@
     // Of a character that becomes several, "beta" of β, all but the first are written as others: a
     // match may end among them, but not begin.
     const inside = 0xe000;
-    const asOne = (text) =>
-        text[0] +
-        [...text.slice(1)]
-            .map((character) => String.fromCodePoint(character.codePointAt(0) + inside))
-            .join("");
+    const asInside = (character) => String.fromCodePoint(character.codePointAt(0) + inside);
+    const asOne = (text) => text[0] + text.slice(1).replace(/./gs, asInside);
 
     const foldedAs = (text, result) =>
         text
@@ -74,8 +71,7 @@
     const finderOf = (word) => {
         const [first, ...others] = [...word].map((character) => {
             const plain = character.replace(/[^\w\s]/g, "\\$&");
-            const other = String.fromCodePoint(character.codePointAt(0) + inside);
-            return { plain, either: character < "\x80" ? `(?:${plain}|${other})` : plain };
+            return { plain, either: character < "\x80" ? `(?:${plain}|${asInside(character)})` : plain };
         });
         const expression = new RegExp(first.plain + others.map((o) => o.either).join(""), "g");
         const hasInside = /[\ue000-\ue07f]/;
@@ -205,7 +201,7 @@
             for (const group of parents) {
                 let shown = 0;
                 for (const part of group.children) {
-                    const isShown = matches.get(part) ?? true;
+                    const isShown = matches.get(part);
                     if (part.hidden === isShown) part.hidden = !isShown;
                     if (isShown) ++shown;
                 }
