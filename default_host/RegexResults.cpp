@@ -8,9 +8,9 @@
 void RegexResults::Match::prepare(unsigned int numbers) {
     size = 0;
     if (capacity >= numbers) return;
-    capacity = 0;
-    data.reset(pcre2_match_data_create(numbers, nullptr));
-    if (!data) throw std::bad_alloc();
+    auto* const larger = pcre2_match_data_create(numbers, nullptr);
+    if (!larger) throw std::bad_alloc();
+    data.reset(larger);
     ends = pcre2_get_ovector_pointer(data.get());
     capacity = numbers;
 }

@@ -81,8 +81,7 @@ void FormulaReader::read_symbol() {
     ++symbols_;
     if (pos_ - begin > longest_symbol) return;  // a word
     // No element's symbol ends so.
-    const bool ends_with_variable =
-        pos_ - begin > 1 && text_[pos_ - 1] == 'x' && end_of_count(text_, pos_) == pos_;
+    const bool ends_with_variable = text_[pos_ - 1] == 'x' && end_of_count(text_, pos_) == pos_;
     if (ends_with_variable) {
         --pos_;
         lower(pos_ + 1);

@@ -6,9 +6,8 @@ namespace {
 
 constexpr char32_t replacement_character = 0xFFFD;
 
-/// The bytes of a character by its first one; 0 where no character begins so.
+/// The bytes of a character beyond ASCII by its first one; 0 where no character begins so.
 std::size_t size_by_lead(unsigned char lead) {
-    if (lead < 0x80) return 1;
     if (lead < 0xC2) return 0;
     if (lead < 0xE0) return 2;
     if (lead < 0xF0) return 3;
