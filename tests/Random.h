@@ -1,6 +1,8 @@
 #pragma once
 
+#include <iterator>
 #include <random>
+#include <string>
 
 /// The same numbers on every machine.
 class Random {
@@ -12,3 +14,13 @@ public:
 private:
     std::mt19937 engine_;
 };
+
+/// A text of up to `most` of the pieces.
+template <class Pieces>
+std::string random_text(Random& random, const Pieces& pieces, unsigned int most) {
+    std::string text;
+    for (unsigned int n = random() % (most + 1); n > 0; --n) {
+        text += pieces[random() % std::size(pieces)];
+    }
+    return text;
+}

@@ -27,12 +27,6 @@ std::vector<Slice> found(const std::string& text, Query<Slice> query) {
 }
 
 std::vector<GreekSlice> greek(const std::string& text) { return found(text, &Finder::greek); }
-std::vector<StringSlice> subscripts(const std::string& text) {
-    return found(text, &Finder::subscripts);
-}
-std::vector<StringSlice> superscripts(const std::string& text) {
-    return found(text, &Finder::superscripts);
-}
 
 /// The scan as it reads: one search for each name, from the end of its last occurrence.
 std::vector<GreekSlice> greek_name_by_name(const std::string& text) {
@@ -124,8 +118,8 @@ TEST(TevoChemicalNameStyleFinder, MarkersShiftDownAndUp) {
         {"$2! $3! !4", {}, {{1, 2}, {5, 6}}},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(subscripts(c.text), c.subscripts) << c.text;
-        EXPECT_EQ(superscripts(c.text), c.superscripts) << c.text;
+        EXPECT_EQ(found(c.text, &Finder::subscripts), c.subscripts) << c.text;
+        EXPECT_EQ(found(c.text, &Finder::superscripts), c.superscripts) << c.text;
     }
     EXPECT_THAT(
         found("$3!a!2$", &Finder::invisible),

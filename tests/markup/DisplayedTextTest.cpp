@@ -27,7 +27,7 @@ TEST(DisplayedText, FindsItsWayBothWays) {
         {"\U0001D538\\a!", {0, 6}, {0, 6}, {0, 2}, {0, 3}, {0, 6}},
         {"\U0001D538\\a!", {6, 7}, {6, 7}, {2, 3}, {3, 4}, {6, 7}},
         {"~2~", {3, 3}, {1, 1}, {1, 1}, {1, 1}, {3, 3}},
-        {"", {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}},
+        {"", {0, 9}, {0, 0}, {0, 0}, {0, 0}, {0, 0}},
     };
     for (const auto& test : cases) {
         const DisplayedText text = displayed(test.text);
@@ -45,10 +45,7 @@ TEST(DisplayedText, WhatIsShownSomewhereComesFromThere) {
                                              "\U0001D538", "<i>", "</i>", "--",  "\xFF", "&lt;"};
     Random random(3);
     for (int i = 0; i < 2000; ++i) {
-        std::string text;
-        for (unsigned int length = random() % 8; length > 0; --length) {
-            text += pieces[random() % pieces.size()];
-        }
+        const std::string text = random_text(random, pieces, 7);
         const DisplayedText shown = displayed(text);
         for (const auto unit :
              {DisplayedText::bytes, DisplayedText::characters, DisplayedText::utf16}) {

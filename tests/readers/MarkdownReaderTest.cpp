@@ -163,8 +163,7 @@ TEST(MarkdownReader, GetsAnyTextInAnyStyles) {
                                           "#",  "`", "+", "\x9B", "@",  "/", ":", "www",  "mailto"};
     Random random(6);
     for (int round = 0; round < 20000; ++round) {
-        std::string text;
-        for (unsigned int n = random() % 9; n > 0; --n) text += units[random() % std::size(units)];
+        const std::string text = random_text(random, units, 8);
         const StyleLists styles = StyleLists::random(random, 10);
         const RichTextData data = styles.data(text, random() % 4);
         const std::string markdown = generator.mark_up_text(data);

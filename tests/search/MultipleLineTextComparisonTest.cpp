@@ -46,9 +46,8 @@ TEST(MultipleLineTextComparison, FindsTheLinesThatStandInTheTerm) {
     const auto entire = make_handle<EntireTextComparison>();
     Random random(1);
     for (int round = 0; round < 3000; ++round) {
-        std::string term, text;
-        for (unsigned int n = random() % 8; n > 0; --n) term += pieces[random() % 6];
-        for (unsigned int n = random() % 8; n > 0; --n) text += pieces[random() % 6];
+        const std::string term = random_text(random, pieces, 7);
+        const std::string text = random_text(random, pieces, 7);
         const auto terms = split(term, "\n", StringFunctionParameters::keep_blank_fields);
         Slices slices, expected;
         unsigned int begin = 0;
