@@ -166,8 +166,10 @@ TEST(TextSearchStyleFinder, TellsTheDebugLogWhatItFound) {
     finder.set_search_term("b");
     std::ostringstream log;
     std::streambuf* const before = std::clog.rdbuf(log.rdbuf());
-    KOVRLog::level_ = 3;
-    finder.set_text("a\nb");
+    for (KOVRLog::level_ = 2; KOVRLog::level_ <= 3; ++KOVRLog::level_) {
+        EXPECT_EQ(log.str(), "");
+        finder.set_text("a\nb");
+    }
     KOVRLog::level_ = 0;
     std::clog.rdbuf(before);
     EXPECT_THAT(log.str(), HasSubstr("MultipleLineTextComparison search: b\ntext: a\nb"));

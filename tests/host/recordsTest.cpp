@@ -20,6 +20,7 @@ TEST(UncertainValue, PrintsAsCrystallographersWrite) {
         {{90, 0, 2}, "90.00"},
         {{-3.5, 0.2, 1}, "-3.5(2)"},
         {{1200, 100}, "1200(100)"},
+        {{1234567.4, 0.5, 0}, "1234567(1)"},
         {{1, infinite}, "1"},
         {{1e300, 0, 999}, "1000000000000000"},
         {{0, 1e-300}, "0.00000000000000"},
@@ -41,7 +42,7 @@ TEST(ReducedCell, IsTheNiggliCellOfThePrimitiveLattice) {
     }
     EXPECT_THAT(reduced->alpha, DoubleNear(60, 1e-6));
     EXPECT_THAT(reduced->volume, DoubleNear(16, 1e-9));
-    for (const double angle : {0.0, 180.0, 500.0, -90.0}) {
+    for (const double angle : {0.0, 180.0, 180.5, 500.0, -90.0}) {
         const Cell impossible{{4}, {4}, {4}, {{90}}, {{angle}}, {{90}}};
         EXPECT_EQ(impossible.volume(), 0) << angle;
         EXPECT_FALSE(ReducedCell::of(impossible, 'P')) << angle;

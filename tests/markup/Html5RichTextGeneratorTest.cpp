@@ -25,7 +25,7 @@ TEST(Html5RichTextGenerator, WritesWhatABrowserShows) {
     } cases[] = {
         {"escaped", "a<b>&\"'", S(), "a&lt;b&gt;&amp;&quot;'"},
         {"escaped replacement", "ab", S().replacement(0, 1), "R&amp;Sb"},
-        {"controls", "\x1b[1m\x7f\xc2\x9b\t\r\n°\xff", S(), "&#27;[1m&#127;\uFFFD\t&#13;\n°\uFFFD"},
+        {"controls", "\x1[1m\x7f\xc2\x9b\t\r\n°\xff", S(), "&#1;[1m&#127;\uFFFD\t&#13;\n°\uFFFD"},
         {"direction of writing", "\u202Ea\u200E", S(), "&lt;U+202E&gt;a&lt;U+200E&gt;"},
         {"not UTF-8", "a\x9b\xe2\x82z\xf0\x9f\x98\xc3", S(), "a\uFFFD\uFFFDz\uFFFD\uFFFD"},
         {"letter", "mu!", S().greek(0, 2), "μ!"},
@@ -33,8 +33,8 @@ TEST(Html5RichTextGenerator, WritesWhatABrowserShows) {
         {"UTF-8", "é€", S().bold(0, 2), "<b>é</b>€"},
         {"colours", "ab", S().color(0, 1).color(1, 2, TextItem::yellow4),
          green + "a</span><span style=\"color:#8b8b00\">b</span>"},
-        {"crossing", "abc", S().bold(0, 2).color(1, 3),
-         "<b>a" + green + "b</span></b>" + green + "c</span>"},
+        {"crossing", "abcde", S().italic(0, 5).subscript(0, 5).bold(0, 3).color(1, 4),
+         "<i><sub><b>a" + green + "bc</span></b></sub><sub>" + green + "d</span>e</sub></i>"},
         {"inside characters", "aéb€", S().bold(0, 2).italic(1, 5), "<b>a</b><i>éb</i>€"},
         {"beyond the end", "ab", S().bold(1, 9).italic(2, 4), "a<b>b</b>"},
     };

@@ -87,31 +87,36 @@ TEST(RichTextTarget, LatexIsEscaped) {
 }
 
 TEST(RichTextTarget, MarkdownIsEscapedAndItsStarsCount) {
-    check(
-        "markdown",
-        {{"punctuation", "\\`*_[]<>&~|$", S(), "\\\\\\`\\*\\_\\[\\]\\<\\>\\&\\~\\|\\$"},
-         {"no punctuation", "(2-4).5'+#,-=!", S(), "(2-4).5'+#,-=!"},
-         {"begin of a line", "- 1", S(), "\\- 1"},
-         {"number of an item", "12. a", S(), "12\\. a"},
-         {"not the number of an item", "-12.5", S(), "-12.5"},
-         {"layout", " a\n  b\t ", S(), "&#32;a&#10;  b&#9;&#32;"},
-         {"controls", "\x1b[1m\x7f\xc2\x9b°", S(), "&#27;\\[1m&#127;&#155;°"},
-         {"direction of writing", "\u202Eab", S(), "\\<U+202E\\>ab"},
-         {"not UTF-8", "\x9b\xe2\x82+\xff-", S(), "\uFFFD\uFFFD+\uFFFD-"},
-         {"addresses", "http://a.b//c WWW.a.b mailto:a@b.c www,a:b/c a. @b", S(),
-          "http:/<span>/</span>a.b/<span>/</span>c WWW<span>.</span>a.b "
-          "mailto<span>:</span>a<span>@</span>b.c www,a:b/c a. @b"},
-         {"address over what is hidden", "www-.a", S().invisible(3, 4), "www<span>.</span>a"},
-         {"stars", "ab cd", S().bold(0, 2).italic(3, 5), "**ab** *cd*"},
-         {"stars in a word", "abc", S().bold(1, 2), "a**b**c"},
-         {"stars that would not count", "a(b)c", S().bold(1, 4), "a<strong>(b)</strong>c"},
-         {"stars beside a space", "a b", S().italic(1, 3), "a<em> b</em>"},
-         {"stars side by side", "ab", S().bold(0, 1).italic(1, 2), "<strong>a</strong><em>b</em>"},
-         {"letter", "mu a", S().greek(0, 2).bold(0, 2), "**μ** a"},
-         {"bold in bold", "abc", S().bold(0, 3).bold(1, 2), "**abc**"},
-         {"what Markdown lacks", "ab", S().subscript(0, 1).bar(1, 2),
-          "<sub>a</sub><span style=\"text-decoration:overline\">b</span>"},
-         {"lines", "*- mu", S().greek(3, 5), "\\*-<br>\n&#32;μ<br>\n", 2}});
+    S of_two_bytes;
+    for (unsigned int from = 0; from < 30; from += 3) of_two_bytes.bold(from, from + 2);
+    check("markdown",
+          {{"punctuation", "\\`*_[]<>&~|$", S(), "\\\\\\`\\*\\_\\[\\]\\<\\>\\&\\~\\|\\$"},
+           {"no punctuation", ")(2-4).5'+#,-=!", S(), ")(2-4).5'+#,-=!"},
+           {"begin of a line", "#11=11- 1", S(), "\\#11<br>\n\\=11<br>\n\\- 1<br>\n", 3},
+           {"number of an item", "12. a", S(), "12\\. a"},
+           {"not the number of an item", "-12.5", S(), "-12.5"},
+           {"layout", " a\n  b\t ", S(), "&#32;a&#10;  b&#9;&#32;"},
+           {"controls", "\x1b[1m\x7f\xc2\x9b°", S(), "&#27;\\[1m&#127;&#155;°"},
+           {"direction of writing", "\u202Eab", S(), "\\<U+202E\\>ab"},
+           {"not UTF-8", "\x9b\xe2\x82+\xff-", S(), "\uFFFD\uFFFD+\uFFFD-"},
+           {"addresses", "http://a.b//c WWW.a.b mailto:a@b.c www,a:b/c a. @b", S(),
+            "http:/<span>/</span>a.b/<span>/</span>c WWW<span>.</span>a.b "
+            "mailto<span>:</span>a<span>@</span>b.c www,a:b/c a. @b"},
+           {"address over what is hidden", "www-.a", S().invisible(3, 4), "www<span>.</span>a"},
+           {"stars", "ab cd", S().bold(0, 2).italic(3, 5), "**ab** *cd*"},
+           {"stars in a word", "abc", S().bold(1, 2), "a**b**c"},
+           {"stars that would not count", "a(b)c", S().bold(1, 4), "a<strong>(b)</strong>c"},
+           {"stars beside what are surely letters", "¿ À × ÷ ɏ ɐ ΐ Α ω ϊ", of_two_bytes,
+            "<strong>¿</strong> **À** <strong>×</strong> <strong>÷</strong> **ɏ** "
+            "<strong>ɐ</strong> <strong>ΐ</strong> **Α** **ω** <strong>ϊ</strong>"},
+           {"stars beside a space", "a b", S().italic(1, 3), "a<em> b</em>"},
+           {"stars side by side", "abc", S().bold(0, 2).italic(0, 1).italic(2, 3),
+            "<strong><em>a</em>b</strong><em>c</em>"},
+           {"letter", "mu a", S().greek(0, 2).bold(0, 2), "**μ** a"},
+           {"bold in bold", "abc", S().bold(0, 3).bold(1, 2), "**abc**"},
+           {"what Markdown lacks", "ab", S().subscript(0, 1).bar(1, 2),
+            "<sub>a</sub><span style=\"text-decoration:overline\">b</span>"},
+           {"lines", "*- mu", S().greek(3, 5), "\\*-<br>\n&#32;μ<br>\n", 2}});
 }
 
 TEST(RichTextTarget, UnicodeRaisesAndLowersWholeRuns) {

@@ -41,6 +41,7 @@ TEST(FieldTextSupplier, WritesTheLayoutsThatFindersRead) {
     entry->crystal_info->cell =
         Cell{{10.234, 0.005}, {7}, {9.5, 0.012, 3}, {{90, 0, 2}}, {{100.5, 0.03}}, {{90}}};
     entry->crystal_info->reduced_cell = ReducedCell{5, 6.25, 7.123456789, 60, 70, 80.5, 200};
+    entry->crystal_info->z = 4;
     entry->experimental_info->temperature = UncertainValue{293, 2};
     entry->experimental_info->average_sigma = UncertainValue{0.0035};
     entry->experimental_info->radiation_probe = "X-ray";
@@ -60,6 +61,7 @@ TEST(FieldTextSupplier, WritesTheLayoutsThatFindersRead) {
         {Names::reduced_cell_lengths, "a 5 b 6.25 c 7.12346"},
         {Names::reduced_cell_angles, "a 60 b 70 g 80.5"},
         {Names::reduced_cell_volume, "200"},
+        {Names::z_zprime, "Z: 4 Z': 0"},
         {Names::temperature, "293(2)"},
         {Names::average_sigma, "0.0035"},
         {Names::radiation_probe, "X-ray"},
@@ -79,7 +81,7 @@ TEST(FieldTextSupplier, WritesTheLayoutsThatFindersRead) {
 TEST(FieldTextSupplier, TagsScrewAndInversionAxes) {
     const auto entry = make_handle<CrystalStructureDatabaseEntry>();
     const std::pair<const char*, const char*> cases[] = {
-        {"P 1 21/c 1", "P2<sub>1</sub>/c"}, {"P 1 1 21/b", "P112<sub>1</sub>/b"},
+        {"P 1 21/c 1", "P2<sub>1</sub>/c"}, {"P 1 1 2/b", "P112/b"},
         {"P -1", "P<bar>1</bar>"},          {"P 63/m m c", "P6<sub>3</sub>/mmc"},
         {"F d -3 m", "Fd<bar>3</bar>m"},    {"P 1 1 1", "P111"},
     };

@@ -36,7 +36,7 @@ std::string shown(const TextItem& item) {
     std::string result;
     for (const TextAtom& atom : item.atomize()) {
         result += atom.text() + (atom.bold() ? "*" : "") + std::to_string(atom.color()) +
-                  (atom.valign() < 0 ? "_" : "") + (atom.valign() > 0 ? "^" : "") + ' ';
+                  (atom.valign() == -1 ? "_" : "") + (atom.valign() == 1 ? "^" : "") + ' ';
     }
     return result;
 }

@@ -215,6 +215,9 @@ TEST(TextItem, ACopyGoesItsOwnWay) {
     EXPECT_EQ(printed(item), "BoldStyle: From 1 To 3\n");
     EXPECT_THAT([&] { copy.create_italic(2, 5); },
                 ThrowsMessage<std::range_error>(StrEq(overlapping)));
+    item.create_replacement_text(0, 1, "R");
+    item.create_invisible(1, 2);
+    item.create_greek(2, 3, TextItem::mu);
     item.set_text("xyz");
     EXPECT_EQ(html(copy), "<font color=red>a<b>bc</b>d<br></font>ef<p>");
 
