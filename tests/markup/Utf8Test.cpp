@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "markup/ascii_text.h"
 #include "text/Position.h"
 
 TEST(Utf8, ReadsTheCharactersThatItWritesAndNoSurrogates) {
@@ -30,4 +31,9 @@ TEST(Utf8, CountsBytesThatAreNoneAsADecoderReplacesThem) {
         EXPECT_EQ(first_character(bytes).size, size) << bytes;
     }
     EXPECT_EQ(end_of_character("a\u0301\u20D7b"), 6);
+}
+
+TEST(AsciiText, FoldsWhatHasALikeness) {
+    EXPECT_EQ(folded_to_ascii("é–Å\u0300\u036F\u02FF\u0370ΑΩΐαω²ₓ…\U0001F600"),
+              "e-A??AlphaOmegaiotaalphaomega2x...?");
 }
