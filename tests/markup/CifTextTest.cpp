@@ -61,8 +61,7 @@ TEST(CifText, ShowsWhatTheAuthorMeant) {
     } cases[] = {
         {"I.C\\'\\i \\\"\\?i \\'\\=u \\'e\\`A\\'z", "I.Cί ı̈ ū́ éÀź"},
         {"U~eq~ U~iso~ F^2^ 10^-3^ a~1^b^~", "U_{eq} Uᵢₛₒ F² 10⁻³ a_{1ᵇ}"},
-        {"\\\\simeq\\\\simx\\\\db C", "≃∼x=C"},
-        {"5\\%A \\% a+-b-+c--d---e-----f", "5Å ° a±b∓c–d—e-----f"},
+        {"\\\\simeq\\\\simx\\\\db C5\\%A \\% a+-b-+c--d---e-----f", "≃∼x=C5Å ° a±b∓c–d—e-----f"},
         {"&lt;&amp;lt;&#181;&#x00B5;&alpha;&Omega;&quot;", "<&lt;µµαΩ\""},
         {"&#32;&#160;&#x202E;&#xD7FF;&#XE000;&#x00010FFFF;",
          " \u00A0<U+202E>\uD7FF\uE000\U0010FFFF"},

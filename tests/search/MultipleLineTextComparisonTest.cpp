@@ -46,8 +46,7 @@ TEST(MultipleLineTextComparison, FindsTheLinesThatStandInTheTerm) {
     const auto entire = make_handle<EntireTextComparison>();
     Random random(1);
     for (int round = 0; round < 3000; ++round) {
-        const std::string term = random_text(random, pieces, 7);
-        const std::string text = random_text(random, pieces, 7);
+        const auto term = random_text(random, pieces, 7), text = random_text(random, pieces, 7);
         const auto terms = split(term, "\n", StringFunctionParameters::keep_blank_fields);
         Slices slices, expected;
         unsigned int begin = 0;
