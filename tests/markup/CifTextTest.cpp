@@ -100,7 +100,7 @@ TEST(CifText, IsWrittenSoThatNothingIsReadOtherwise) {
         {"--- +- –- ±", "-&#x2D;- +&#x2D; –- +-"},
         {"\\a ~^ &lt; &x R&D <i> <j>", "&#x5C;a &#x7E;&#x5E; &amp;lt; &x R&D &lt;i> <j>"},
         {"Å ǖ ḗ ќ e\u0301 q\u0301", "\\%A \\=\\\"u \\'\\=e ќ e\u0301 \\'q"},
-        {"x_{a^{b_{c}}}²", "x~a^b<sub>c</sub>^~^2^"},
+        {"x_{a^{b_{c}}}²^{2}", "x~a^b<sub>c</sub>^~^2^&#x5E;{2}"},
         {"P1̅ x²̅³̅ µ ∆ ς", "P1̅ x^2̅3̅^ \\m \\D ς"},
         {{'x', '\0'}, {'x', '\0'}},
     };
