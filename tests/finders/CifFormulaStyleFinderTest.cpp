@@ -38,7 +38,7 @@ TEST(CifFormulaStyleFinder, LowersCountsAndRaisesCharges) {
         // charges
         {"C18 H18 N4 2+, 2 B F4 1-", "C₁₈ H₁₈ N₄ ²⁺, 2 B F₄ ¹⁻"},
         {"2(C8 H20 N 1+), (Ga -)", "2(C₈ H₂₀ N ¹⁺), (Ga ⁻)"},
-        {"[C N] + , Br -", "[C N] ⁺ , Br ⁻"},
+        {"[C N] + , Br -, (thf) 2+", "[C N] ⁺ , Br ⁻, (thf) ²⁺"},
         {"Fe 3+ O 2-", "Fe ³⁺ O ²⁻"},
         {"[Cu(NH3)4]2+ (SO4)2-", "[Cu(NH₃)₄]²⁺ (SO₄)²⁻"},
         {"(Ca OH)+,(I)-", "(Ca OH)⁺,(I)⁻"},
