@@ -58,7 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             complaint = complaint_of_rows(trial, number, input);
         } else {
             std::vector<EditTrial::Change> changes;
-            for (std::size_t value = number; value < trial.values() && !input.rest().empty();) {
+            for (std::size_t value = number; value < trial.values() && !input.at_end();) {
                 changes.push_back({value, text_of(input)});
                 value += 1 + input.byte() % 4;
             }

@@ -74,7 +74,8 @@ std::vector<Change> changes_of(std::string_view bytes, const Lines& before,
         more += splice.after.size() - splice.before.size();
         const std::size_t to = std::min(old_lines.lines_before(end) + 1, before.size()),
                           new_to = std::min(new_lines.lines_before(end + more) + 1, after.size());
-        if (!all.empty() && from < all.back().old_to) {
+        // Behind the last line there may be several, in one new line.
+        if (!all.empty() && (from < all.back().old_to || new_from < all.back().new_to)) {
             all.back().old_to = to;
             all.back().new_to = new_to;
         } else {
