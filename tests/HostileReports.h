@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cctype>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "entries/EntryReader.h"
@@ -44,3 +46,40 @@ inline const std::vector<std::string> hostile_texts = {
     "[a](javascript:b) ![c](d) <http://e.f> | --- |",
     "\x1B[2J\x80\u202E\u2028 &lt;b&gt; &#10;&#10;",
 };
+
+/// What LaTeX makes of a report but for its texts; a complaint where it could not.
+inline std::string structure_of_latex(const std::string& report) {
+    constexpr std::string_view in_texts =
+        " leavevmode newline textbf textcolor textless textgreater textbar textasciitilde "
+        "textasciicircum textbackslash textasciigrave textsuperscript textsubscript symbol ";
+    std::string structure, braces;
+    bool is_formula = false;  // of a Greek letter
+    for (std::size_t i = 0; i < report.size(); ++i) {
+        const char c = report[i];
+        if (c == '\\') {
+            const std::size_t begin = i + 1;
+            while (std::isalpha(static_cast<unsigned char>(report[i + 1])) != 0) ++i;
+            const std::string command = report.substr(begin, i + 1 - begin);
+            if (command.empty() && report[++i] == '\\') structure += " row";
+            if (is_formula || command.empty() ||
+                in_texts.find(' ' + command + ' ') != in_texts.npos)
+                continue;
+            structure.append(" ").append(command);
+            if (command == "begin" || command == "end") {
+                structure += report.substr(i + 1, report.find('}', i) - i);
+            }
+        } else if (c == '{') {
+            braces += c;
+        } else if (c == '}') {
+            if (braces.empty()) return "closed too often";
+            braces.pop_back();
+        } else if (c == '&') {
+            structure += " &";
+        } else if (c == '$') {
+            is_formula = !is_formula;
+        } else if (std::string_view("%#^_").find(c) != std::string_view::npos) {
+            return "acts: " + report.substr(i);
+        }
+    }
+    return braces.empty() ? structure : "not closed";
+}

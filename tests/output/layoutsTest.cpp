@@ -208,47 +208,6 @@ TEST(ComparisonReport, HasWhatDiffersFirst) {
               "## Entries only right\n\nr, data\\_c\n\n");
 }
 
-namespace {
-
-/// What LaTeX makes of a report but for its texts; a complaint where it could not.
-std::string structure_of_latex(const std::string& report) {
-    constexpr std::string_view in_texts =
-        " leavevmode newline textbf textcolor textless textgreater textbar textasciitilde "
-        "textasciicircum textbackslash textasciigrave textsuperscript textsubscript symbol ";
-    std::string structure, braces;
-    bool is_formula = false;  // of a Greek letter
-    for (std::size_t i = 0; i < report.size(); ++i) {
-        const char c = report[i];
-        if (c == '\\') {
-            const std::size_t begin = i + 1;
-            while (std::isalpha(static_cast<unsigned char>(report[i + 1])) != 0) ++i;
-            const std::string command = report.substr(begin, i + 1 - begin);
-            if (command.empty() && report[++i] == '\\') structure += " row";
-            if (is_formula || command.empty() ||
-                in_texts.find(' ' + command + ' ') != in_texts.npos)
-                continue;
-            structure.append(" ").append(command);
-            if (command == "begin" || command == "end") {
-                structure += report.substr(i + 1, report.find('}', i) - i);
-            }
-        } else if (c == '{') {
-            braces += c;
-        } else if (c == '}') {
-            if (braces.empty()) return "closed too often";
-            braces.pop_back();
-        } else if (c == '&') {
-            structure += " &";
-        } else if (c == '$') {
-            is_formula = !is_formula;
-        } else if (std::string_view("%#^_").find(c) != std::string_view::npos) {
-            return "acts: " + report.substr(i);
-        }
-    }
-    return braces.empty() ? structure : "not closed";
-}
-
-}  // namespace
-
 TEST(ComparisonReport, KeepsItsStructureInLatexWhateverTextsSay) {
     const std::string structure = structure_of_latex(reports_with("harmless", "latex"));
     EXPECT_THAT(structure, StartsWith(" section begin{description} item"));
