@@ -11,6 +11,35 @@ namespace {
 
 using Findings = std::vector<Finding>;
 
+/// Makes one of findings that are about parts of one code, such as that which is shown as "), ".
+void join_in_codes(Findings& findings, const ComparisonPolicy& policy) {
+    const auto is_of_text = [](const Finding& finding) {
+        return reason_of(finding).kind == Finding::Kind::text;
+    };
+    Findings joined;
+    joined.reserve(findings.size());
+    for (Finding& finding : findings) {
+        const bool shares = !joined.empty() && is_of_text(joined.back()) && is_of_text(finding) &&
+                            (joined.back().left.overlaps(finding.left) ||
+                             joined.back().right.overlaps(finding.right));
+        if (!shares) {
+            joined.push_back(std::move(finding));
+            continue;
+        }
+        Finding& last = joined.back();
+        last.left = last.left.combine(finding.left);
+        last.right = last.right.combine(finding.right);
+        last.is_coarse = last.is_coarse || finding.is_coarse;
+        if (policy.allows(last.reason)) last.reason = finding.reason;
+        const bool is_of_one_side =
+            last.reason == Finding::Reason::insertion || last.reason == Finding::Reason::deletion;
+        if (is_of_one_side && !last.left.empty() && !last.right.empty()) {
+            last.reason = Finding::Reason::replacement;
+        }
+    }
+    findings = std::move(joined);
+}
+
 /// What differs, in positions of the items.
 Findings find(const ComparedText& left, const ComparedText& right, const ComparisonKind& kind,
               const ComparisonPolicy& policy) {
@@ -24,6 +53,7 @@ Findings find(const ComparedText& left, const ComparedText& right, const Compari
         finding.left = left.in_item(finding.left);
         finding.right = right.in_item(finding.right);
     }
+    join_in_codes(findings, policy);
     // What nobody sees has no place in the shown texts.
     if (findings.empty()) {
         const auto all = [](const ComparedText& text) {
