@@ -119,7 +119,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const Laid harmless = laid_out("xx", plain);
     static const std::string structure = PageReader(harmless.page).structure(),
                              latex = structure_of_latex(harmless.latex);
-    const std::string text = "x" + input.rest() + "x";
+    std::string text = "x";
+    text.append(input.rest()).append("x");
     for (const Source* kind : {&plain, &source}) {
         Laid laid;
         try {
