@@ -143,13 +143,15 @@ std::size_t BlockReader::offset_of(const Value& value, std::string_view before) 
 }
 
 void BlockReader::note_repetitions() {
-    std::sort(asked_for_.begin(), asked_for_.end());
     note_repetitions(block_);
     if (common_ && tells_of_common_) note_repetitions(*common_);
 }
 
 void BlockReader::note_repetitions(const CifBlock& block) {
-    for (const CifItem* repeated : block.repetitions()) {
+    const CifBlock::Items repetitions = block.repetitions();
+    if (repetitions.empty()) return;
+    std::sort(asked_for_.begin(), asked_for_.end());
+    for (const CifItem* repeated : repetitions) {
         const CifItem* const first = block.find(repeated->tag());
         if (!std::binary_search(asked_for_.begin(), asked_for_.end(), first)) continue;
         add_problem(*repeated, "item-twice", "given again; the first value counts");

@@ -42,7 +42,7 @@ struct Builder {
 
     void add_value(std::string_view value) {
         contents.values.push_back(value);
-        if (value.substr(0, 1) != ";" || in_frame) return;
+        if (value.empty() || value.front() != ';' || in_frame) return;
         const std::size_t line = value.find("\n;") + 1;
         if (value == ";") {
             contents.doubts.push_back({value.data(),
@@ -224,7 +224,7 @@ CifBlock CifDocument::common_block(std::size_t first, std::size_t last) const {
         const CifItem& item = contents_.items[i];
         if (items.size() < most && item.size() <= most && item.has_text()) items.push_back(&item);
     }
-    return {contents_.blocks[first].name, std::move(items)};
+    return {contents_.blocks[first].name, items};
 }
 
 std::vector<CifDocument::Doubt> CifDocument::doubts(std::size_t index) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -36,6 +37,8 @@ struct CifValue {
     /// What stands between the quotes, with lines that end with "\n"; nothing for "?" and ".", in
     /// quotes too, and for a bare ";".
     std::string text() const;
+    /// Whether text() is not empty.
+    bool has_text() const;
     /// Whether it is a bare "?" or ".", or is not there.
     bool is_none() const;
     /// The text that it holds, to the character, with lines that end with "\n"; the parts of lines
@@ -90,14 +93,14 @@ public:
     using Items = std::vector<const CifItem*>;
 
     /// `items` stand in the order of the file.
-    CifBlock(std::string_view name, Items items);
+    CifBlock(std::string_view name, const Items& items);
 
     /// "#" for a bare "data_", empty for "global_".
     std::string_view name() const { return name_; }
     /// The first item with that tag, or null. Case does not count, and either may have "." for "_".
     /// O(log m) for m items.
     const CifItem* find(std::string_view tag) const;
-    /// Whether tags begin with `prefix`, likewise.
+    /// Whether tags begin with `prefix`, likewise. O(m), as find_all() without what it finds.
     bool has_any(std::string_view prefix) const;
     /// The items that are not in loops and whose tags begin with `prefix`, likewise, in the order
     /// of the tags; of several with one tag the first.
@@ -107,8 +110,14 @@ public:
     Items repetitions() const;
 
 private:
+    struct Hashed {
+        std::uint64_t hash;  // of the tag
+        const CifItem* item;
+    };
+
     std::string_view name_;
-    Items items_;  // outside save frames, in the order of their tags, then of the file
+    std::vector<Hashed>
+        items_;  // outside save frames, by hashes, then by tags, then as in the file
 };
 
 /// The structure of a CIF file: blocks, items and values are places in its bytes, which the caller

@@ -25,6 +25,17 @@ std::string_view without_quotes(const CifValue& value) {
     }
 }
 
+/// What CifValue::text() is before its line ends are plain.
+std::string_view bare_text(const CifValue& value) {
+    const std::string_view text = without_quotes(value);
+    const std::size_t first = text.find_first_not_of(white_space);
+    if (first == std::string_view::npos) return {};
+    const bool may_be_none = text[first] == '?' || text[first] == '.' || value.raw == ";";
+    const bool is_none =
+        may_be_none && text.find_first_not_of(white_space, first + 1) == std::string_view::npos;
+    return is_none ? std::string_view() : text;
+}
+
 /// Where the line that ends at `end` ends with a backslash, and perhaps blanks: the place of that
 /// backslash, else npos.
 std::size_t fold_of_line(std::string_view text, std::size_t begin, std::size_t end) {
@@ -58,24 +69,18 @@ std::string unfolded(std::string_view text) {
 CifQuoting CifValue::quoting() const {
     const char first = raw.empty() ? ' ' : raw.front();
     if (first == '\'' || first == '"') {
-        const std::string triple(3, first);
-        const bool is_triple =
-            raw.size() >= 2 * triple.size() && raw.starts_with(triple) && raw.ends_with(triple);
+        const char triple[] = {first, first, first, 0};
+        const bool is_triple = raw.size() >= 6 && raw.starts_with(triple) && raw.ends_with(triple);
         if (is_triple) return CifQuoting::triple_quotes;
         return first == '"' ? CifQuoting::double_quotes : CifQuoting::single_quotes;
     }
-    const bool has_lines = raw.find_first_of("\r\n") != std::string_view::npos;
-    return first == ';' && has_lines ? CifQuoting::text_field : CifQuoting::bare;
+    const bool is_field = first == ';' && raw.find_first_of("\r\n") != std::string_view::npos;
+    return is_field ? CifQuoting::text_field : CifQuoting::bare;
 }
 
-std::string CifValue::text() const {
-    const std::string_view text = without_quotes(*this);
-    const std::size_t first = text.find_first_not_of(white_space);
-    if (first == std::string_view::npos) return "";
-    const bool single = text.find_first_not_of(white_space, first + 1) == std::string_view::npos;
-    const bool is_none = single && (text[first] == '?' || text[first] == '.' || raw == ";");
-    return is_none ? "" : with_plain_line_ends(text);
-}
+std::string CifValue::text() const { return with_plain_line_ends(bare_text(*this)); }
+
+bool CifValue::has_text() const { return !bare_text(*this).empty(); }
 
 bool CifValue::is_none() const { return raw.empty() || raw == "?" || raw == "."; }
 

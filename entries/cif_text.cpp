@@ -37,9 +37,10 @@ std::string_view without_byte_order_mark(std::string_view bytes) {
 }
 
 std::string with_plain_line_ends(std::string_view text) {
-    std::string plain;
+    const std::size_t first = std::min(text.find('\r'), text.size());
+    std::string plain(text.substr(0, first));
     plain.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    for (std::size_t i = first; i < text.size(); ++i) {
         if (text[i] != '\r') {
             plain += text[i];
         } else if (text.substr(i + 1, 1) != "\n") {
