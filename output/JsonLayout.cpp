@@ -1,15 +1,14 @@
 #include "output/JsonLayout.h"
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
 #include <string_view>
 #include <utility>
 
 #include "markup/TextItemToHtml5Greek.h"
 #include "markup/TextItemToStringColor.h"
+#include "output/JsonWriter.h"
 #include "output/comparison_summary.h"
 #include "output/finding_sentences.h"
-#include "output/harmless_json.h"
 #include "output/match_reason.h"
 #include "text/Position.h"
 #include "text/TextAtom.h"
@@ -17,40 +16,41 @@
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// The text and what is not as by default.
-Json json_of(const TextAtom& atom) {
-    Json json{{"text", atom.text()}};
-    if (atom.valign() != 0) json["valign"] = atom.valign();
-    if (atom.bold()) json["bold"] = true;
-    if (atom.italic()) json["italic"] = true;
-    if (atom.overstrike()) json["overstrike"] = true;
-    if (atom.invisible()) json["invisible"] = true;
+void write(JsonWriter& json, const TextAtom& atom) {
+    json.add_text("text", atom.text());
+    if (atom.valign() != 0) json.add_integer("valign", atom.valign());
+    if (atom.bold()) json.add_true("bold");
+    if (atom.italic()) json.add_true("italic");
+    if (atom.overstrike()) json.add_true("overstrike");
+    if (atom.invisible()) json.add_true("invisible");
     if (atom.color() != TextItem::black) {
-        json["color"] = TextItemToStringColor().convert(atom.color());
+        json.add_text("color", TextItemToStringColor().convert(atom.color()));
     }
-    if (!atom.replacement_txt().empty()) json["replacement"] = atom.replacement_txt();
+    if (!atom.replacement_txt().empty()) json.add_text("replacement", atom.replacement_txt());
     if (atom.greek() != TextItem::no_symbol) {
-        json["greek"] = TextItemToHtml5Greek().convert(atom.greek());
+        json.add_text("greek", TextItemToHtml5Greek().convert(atom.greek()));
     }
-    return json;
 }
 
-Json json_of(const StringSlice& range) { return {{"from", range.from()}, {"to", range.to()}}; }
+void write(JsonWriter& json, const StringSlice& range) {
+    json.add_integer("from", range.from());
+    json.add_integer("to", range.to());
+}
 
 /// The runs of uniform style, with their positions where there is a teller.
-Json atoms_of(const TextItem& item, const PositionTeller* teller) {
-    Json atoms = Json::array();
+void write_atoms(JsonWriter& json, const TextItem& item, const PositionTeller* teller) {
+    json.begin_array("atoms");
     unsigned int from = 0;
     for (const TextAtom& atom : item.atomize()) {
         const unsigned int to = from + length_of(atom.text());
-        Json written = json_of(atom);
-        if (teller && !item.characters().empty()) written.update(json_of(teller->told({from, to})));
-        atoms.push_back(std::move(written));
+        json.begin_object();
+        write(json, atom);
+        if (teller && !item.characters().empty()) write(json, teller->told({from, to}));
+        json.end_object();
         from = to;
     }
-    return atoms;
+    json.end_array();
 }
 
 /// A text: as it is, as it is shown, marked up and in runs.
@@ -62,11 +62,11 @@ public:
           teller_(item, displayed_, positions.value_or(TextPositions())),
           tells_(positions) {}
 
-    void write_to(Json& json, Html5RichTextGenerator& generator) const {
-        json["text"] = item_.characters();
-        json["displayed"] = displayed_.text();
-        json["markup"] = item_.mark_up_text(generator);
-        json["atoms"] = atoms_of(item_, tells_ ? &teller_ : nullptr);
+    void write_to(JsonWriter& json, Html5RichTextGenerator& generator) const {
+        json.add_text("text", item_.characters());
+        json.add_text("displayed", displayed_.text());
+        json.add_text("markup", item_.mark_up_text(generator));
+        write_atoms(json, item_, tells_ ? &teller_ : nullptr);
     }
     StringSlice told(const StringSlice& range) const { return teller_.told(range); }
 
@@ -78,15 +78,16 @@ private:
 };
 
 /// What was found in a field, and where.
-Json matches_of(const EntryField& field, const Text& text) {
-    Json matches = Json::array();
+void write_matches(JsonWriter& json, const EntryField& field, const Text& text) {
+    json.begin_array("matches");
     for (const FieldMatch& match : field.matches) {
-        Json json{{"term", match.term}};
-        json.update(json_of(text.told(match.place)));
-        json["reason"] = reason_of(match);
-        matches.push_back(std::move(json));
+        json.begin_object();
+        json.add_text("term", match.term);
+        write(json, text.told(match.place));
+        json.add_text("reason", reason_of(match));
+        json.end_object();
     }
-    return matches;
+    json.end_array();
 }
 
 const char* verdict_of(const Finding& finding) {
@@ -94,15 +95,21 @@ const char* verdict_of(const Finding& finding) {
 }
 
 /// One finding, with what it has.
-Json json_of(const Finding& finding, const Text& left, const Text& right,
-             const FindingSentences& sentences) {
+void write(JsonWriter& json, const Finding& finding, const Text& left, const Text& right,
+           const FindingSentences& sentences) {
     const FindingReason& reason = reason_of(finding);
-    Json json{{"kind", name_of(reason.kind)},
-              {"reason", reason.name},
-              {"verdict", verdict_of(finding)},
-              {"left", json_of(left.told(finding.left))},
-              {"right", json_of(right.told(finding.right))}};
-    if (!finding.subject.empty()) json["subject"] = finding.subject;
+    json.begin_object();
+    json.add_text("kind", name_of(reason.kind));
+    json.add_text("reason", reason.name);
+    json.add_text("verdict", verdict_of(finding));
+    const auto write_range = [&](const char* name, const StringSlice& range) {
+        json.begin_object(name);
+        write(json, range);
+        json.end_object();
+    };
+    write_range("left", left.told(finding.left));
+    write_range("right", right.told(finding.right));
+    if (!finding.subject.empty()) json.add_text("subject", finding.subject);
     const std::pair<const char*, const std::optional<double>&> numbers[] = {
         {"left_number", finding.left_number},
         {"right_number", finding.right_number},
@@ -110,35 +117,56 @@ Json json_of(const Finding& finding, const Text& left, const Text& right,
         {"limit", finding.limit},
     };
     for (const auto& [name, number] : numbers) {
-        if (number) json[name] = *number;
+        if (number) json.add_number(name, *number);
     }
-    if (finding.is_coarse) json["coarse"] = true;
-    json["sentence"] = sentences.clause(finding);
-    return json;
+    if (finding.is_coarse) json.add_true("coarse");
+    json.add_text("sentence", sentences.clause(finding));
+    json.end_object();
 }
 
-/// A field of two entries; a side without text is null.
-Json json_of(const ComparedField& field, const std::optional<TextPositions>& positions,
-             Html5RichTextGenerator& generator) {
+/// One side of a field; null without text.
+void write_side(JsonWriter& json, const char* name, const std::optional<Text>& text,
+                Html5RichTextGenerator& generator) {
+    if (!text) return json.add_null(name);
+    json.begin_object(name);
+    text->write_to(json, generator);
+    json.end_object();
+}
+
+/// A field of two entries.
+void write(JsonWriter& json, const ComparedField& field,
+           const std::optional<TextPositions>& positions, Html5RichTextGenerator& generator) {
     std::optional<Text> left, right;
-    Json json{{"label", field.label}, {"group", field.group}, {"verdict", name_of(field.verdict)},
-              {"left", nullptr},      {"right", nullptr},     {"findings", Json::array()}};
-    if (field.left) left.emplace(*field.left, positions).write_to(json["left"], generator);
-    if (field.right) right.emplace(*field.right, positions).write_to(json["right"], generator);
-    if (field.findings.empty()) return json;
-    const ComparedText left_side(*field.left), right_side(*field.right);
-    const FindingSentences sentences(left_side, right_side);
-    for (const Finding& finding : field.findings) {
-        json["findings"].push_back(json_of(finding, *left, *right, sentences));
+    if (field.left) left.emplace(*field.left, positions);
+    if (field.right) right.emplace(*field.right, positions);
+    json.begin_object();
+    json.add_text("label", field.label);
+    json.add_text("group", field.group);
+    json.add_text("verdict", name_of(field.verdict));
+    write_side(json, "left", left, generator);
+    write_side(json, "right", right, generator);
+    json.begin_array("findings");
+    if (!field.findings.empty()) {
+        const ComparedText left_side(*field.left), right_side(*field.right);
+        const FindingSentences sentences(left_side, right_side);
+        for (const Finding& finding : field.findings) {
+            write(json, finding, *left, *right, sentences);
+        }
     }
-    return json;
+    json.end_array();
+    json.end_object();
 }
 
-Json json_of(const ComparisonLayout::Side& side) {
-    return {{"file", side.file}, {"block", side.block}};
+/// An entry that is one side; null without it.
+void write_side(JsonWriter& json, const char* name, const ComparisonLayout::Side* side) {
+    if (!side) return json.add_null(name);
+    json.begin_object(name);
+    json.add_text("file", side->file);
+    json.add_text("block", side->block);
+    json.end_object();
 }
 
-LaidOutPart written(const Json& json) { return {'\n' + harmless_json(json)}; }
+LaidOutPart written(const JsonWriter& json) { return {'\n' + json.json()}; }
 
 }  // namespace
 
@@ -150,37 +178,54 @@ std::string JsonLayout::separator() const { return ","; }
 
 LaidOutPart JsonLayout::entry(const std::string& file, const std::string& block,
                               const std::vector<EntryField>& fields) {
-    Json json{{"file", file}, {"block", block}, {"fields", Json::array()}};
+    JsonWriter json;
+    json.begin_object();
+    json.add_text("file", file);
+    json.add_text("block", block);
+    json.begin_array("fields");
     for (const EntryField& field : fields) {
-        Json& added =
-            json["fields"].emplace_back(Json{{"label", field.label}, {"group", field.group}});
+        json.begin_object();
+        json.add_text("label", field.label);
+        json.add_text("group", field.group);
         const Text text(field.item, positions_);
-        text.write_to(added, generator_);
-        if (!field.matches.empty()) added["matches"] = matches_of(field, text);
+        text.write_to(json, generator_);
+        if (!field.matches.empty()) write_matches(json, field, text);
+        json.end_object();
     }
+    json.end_array();
+    json.end_object();
     return written(json);
 }
 
 LaidOutPart JsonLayout::comparison(const Side& left, const Side& right, PairingReason reason,
                                    const EntryComparison& compared) {
-    Json json{{"left", json_of(left)},
-              {"right", json_of(right)},
-              {"pairing", name_of(reason)},
-              {"verdict", name_of(compared.verdict())},
-              {"fields", Json::array()}};
+    JsonWriter json;
+    json.begin_object();
+    write_side(json, "left", &left);
+    write_side(json, "right", &right);
+    json.add_text("pairing", name_of(reason));
+    json.add_text("verdict", name_of(compared.verdict()));
+    json.begin_array("fields");
     for (const ComparedField& field : compared.fields) {
-        json["fields"].push_back(json_of(field, positions_, generator_));
+        write(json, field, positions_, generator_);
     }
+    json.end_array();
+    json.end_object();
     return written(json);
 }
 
 LaidOutPart JsonLayout::only(const Side& entry, Verdict verdict) {
     const bool is_left = verdict == Verdict::only_left;
-    return written({{"left", is_left ? json_of(entry) : Json()},
-                    {"right", is_left ? Json() : json_of(entry)},
-                    {"pairing", nullptr},
-                    {"verdict", name_of(verdict)},
-                    {"fields", Json::array()}});
+    JsonWriter json;
+    json.begin_object();
+    write_side(json, "left", is_left ? &entry : nullptr);
+    write_side(json, "right", is_left ? nullptr : &entry);
+    json.add_null("pairing");
+    json.add_text("verdict", name_of(verdict));
+    json.begin_array("fields");
+    json.end_array();
+    json.end_object();
+    return written(json);
 }
 
 std::string JsonLayout::summary(const ComparisonSummary& summary, std::span<const Field> compared) {

@@ -1,23 +1,18 @@
 #include "output/harmless_json.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "markup/Utf8.h"
 #include "markup/internal/controls.h"
 
-namespace {
-
-std::string harmless(std::string_view json) {
+void append_harmless(std::string& result, std::string_view json) {
     const auto may_act = [](char c) { return c == '<' || static_cast<unsigned char>(c) >= 0x7F; };
-    std::string result;
-    result.reserve(json.size());
     while (true) {
         const auto next = std::find_if(json.begin(), json.end(), may_act);
         const auto plain = static_cast<std::size_t>(next - json.begin());
         result += json.substr(0, plain);
         json.remove_prefix(plain);
-        if (json.empty()) return result;
+        if (json.empty()) return;
         const Utf8Character character = first_character(json);
         const char32_t code = character.code;
         const bool ends_line = code == 0x2028 || code == 0x2029;    // to JavaScript of old
@@ -33,9 +28,11 @@ std::string harmless(std::string_view json) {
     }
 }
 
-}  // namespace
-
 std::string harmless_json(const nlohmann::ordered_json& json, bool in_lines) {
-    return harmless(
-        json.dump(in_lines ? 1 : -1, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
+    const std::string written =
+        json.dump(in_lines ? 1 : -1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+    std::string result;
+    result.reserve(written.size());
+    append_harmless(result, written);
+    return result;
 }
