@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "entries/cif_text.h"
+#include "entries/white_space.h"
 
 namespace {
 
@@ -23,7 +24,7 @@ bool CifBeginning::skip_to_word(std::string_view bytes) {
         if (in_comment_ || bytes[at_] == '#') {
             at_ = std::min(bytes.find_first_of("\r\n", at_), bytes.size());
             in_comment_ = at_ == bytes.size();
-        } else if (std::string_view(" \t\r\n").find(bytes[at_]) != std::string_view::npos) {
+        } else if (is_white_space(bytes[at_])) {
             ++at_;
         } else {
             return true;

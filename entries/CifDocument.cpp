@@ -42,7 +42,10 @@ struct Builder {
 
     void add_value(std::string_view value) {
         contents.values.push_back(value);
-        if (value.empty() || value.front() != ';' || in_frame) return;
+        if (!value.empty() && value.front() == ';' && !in_frame) add_doubts(value);
+    }
+
+    void add_doubts(std::string_view value) {
         const std::size_t line = value.find("\n;") + 1;
         if (value == ";") {
             contents.doubts.push_back({value.data(),

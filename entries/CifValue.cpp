@@ -2,10 +2,9 @@
 
 #include "entries/CifDocument.h"
 #include "entries/cif_text.h"
+#include "entries/white_space.h"
 
 namespace {
-
-constexpr char white_space[] = " \t\r\n";
 
 /// What stands between the quotes.
 std::string_view without_quotes(const CifValue& value) {
@@ -28,11 +27,10 @@ std::string_view without_quotes(const CifValue& value) {
 /// What CifValue::text() is before its line ends are plain.
 std::string_view bare_text(const CifValue& value) {
     const std::string_view text = without_quotes(value);
-    const std::size_t first = text.find_first_not_of(white_space);
-    if (first == std::string_view::npos) return {};
-    const bool may_be_none = text[first] == '?' || text[first] == '.' || value.raw == ";";
-    const bool is_none =
-        may_be_none && text.find_first_not_of(white_space, first + 1) == std::string_view::npos;
+    const auto* const first = std::find_if_not(text.begin(), text.end(), is_white_space);
+    if (first == text.end()) return {};
+    const bool may_be_none = *first == '?' || *first == '.' || value.raw == ";";
+    const bool is_none = may_be_none && std::all_of(first + 1, text.end(), is_white_space);
     return is_none ? std::string_view() : text;
 }
 

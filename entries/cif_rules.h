@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <gemmi/cif.hpp>
 #include <string_view>
 
@@ -50,11 +52,45 @@ struct comment : pegtl::if_must<pegtl::one<'#'>, pegtl::until<pegtl::sor<pegtl::
 struct whitespace : pegtl::plus<pegtl::sor<cif::ws_char, comment>> {};
 struct ws_or_eof : pegtl::sor<whitespace, pegtl::eof> {};
 
-// Prose has lines that begin with a semicolon; one that ends the field stands alone.
-struct field_end : pegtl::seq<cif::field_sep, pegtl::at<pegtl::sor<pegtl::one<' ', '\n', '\r', '\t', '#'>, pegtl::eof>>> {};
-struct field_tail : pegtl::until<field_end> {};
+// clang-format on
+
+/// Prose has lines that begin with a semicolon; one that ends the field stands alone. Looks from
+/// semicolon to semicolon, as most of a text is none.
+struct field_tail {
+    static bool match(Input& in) {
+        while (!in.empty()) {
+            const std::string_view rest(in.current(), in.size());
+            const std::size_t at = std::min(rest.find(';'), rest.size());
+            in.bump(at);
+            const bool begins_line = in.column() == 1;
+            if (at < rest.size()) in.bump(1);
+            constexpr std::string_view enders = " \n\r\t#";
+            const bool stands_alone = in.empty() || enders.find(*in.current()) != enders.npos;
+            if (at < rest.size() && begins_line && stands_alone) return true;
+        }
+        return false;
+    }
+};
+
+/// A value of ordinary characters alone, as numbers and labels are: cif::simunq without a rule for
+/// each character.
+struct ordinary_value {
+    static bool match(Input& in) {
+        constexpr int ordinary = 1, white_space = 2;
+        const char* end = in.current();
+        while (end != in.end() && gemmi::cif::char_table(*end) == ordinary) ++end;
+        const auto size = static_cast<std::size_t>(end - in.current());
+        if (size == 0 || end == in.end() || gemmi::cif::char_table(*end) != white_space) {
+            return false;
+        }
+        in.bump(size);
+        return true;
+    }
+};
+
+// clang-format off
 struct text_field : pegtl::if_must<cif::field_sep, field_tail> {};
-struct value_1 : pegtl::sor<cif::simunq, cif::singlequoted, cif::doublequoted, text_field, cif::unquoted> {};
+struct value_1 : pegtl::sor<ordinary_value, cif::singlequoted, cif::doublequoted, text_field, cif::unquoted> {};
 
 struct nonblank_2 : pegtl::not_one<' ', '\t', '\n', '\r', '\0', '\x7f'> {};
 template <char Quote> struct triple_tail : pegtl::until<pegtl::string<Quote, Quote, Quote>> {};

@@ -1,18 +1,33 @@
 #include "entries/cif_text.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "entries/read_whole.h"
+#include "entries/white_space.h"
 
 namespace {
 
-constexpr char white_space[] = " \t\r\n";
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(white_space);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(white_space) - first + 1);
+    while (!text.empty() && is_white_space(text.front())) text.remove_prefix(1);
+    while (!text.empty() && is_white_space(text.back())) text.remove_suffix(1);
+    return text;
+}
+
+/// 10 to the power of -`decimals`, which most numbers have few of.
+double last_place(int decimals) {
+    static const auto places = [] {
+        std::array<double, 10> powers{};
+        for (std::size_t i = 0; i < powers.size(); ++i) {
+            powers[i] = std::pow(10.0, -static_cast<int>(i));
+        }
+        return powers;
+    }();
+    const auto index = static_cast<std::size_t>(decimals);
+    return decimals >= 0 && index < places.size() ? places[index] : std::pow(10.0, -decimals);
 }
 
 /// Takes the text before the first `separator` off `text`, without its white space around.
@@ -85,15 +100,15 @@ std::optional<UncertainValue> read_number(std::string_view text) {
         if (open == std::string_view::npos) return std::nullopt;
         uncertainty = text.substr(open + 1, text.size() - open - 2);
         text = text.substr(0, open);
-        if (uncertainty.find_first_not_of("0123456789") != std::string_view::npos) {
-            return std::nullopt;
-        }
+        if (!std::all_of(uncertainty.begin(), uncertainty.end(), is_digit)) return std::nullopt;
     }
     if (!text.empty() && text.front() == '+') text.remove_prefix(1);
     const std::optional<double> value = read_whole<double>(text);
     if (!value || !std::isfinite(*value)) return std::nullopt;
 
-    const std::size_t exponent = std::min(text.find_first_of("eE"), text.size());
+    const auto* const letter =
+        std::find_if(text.begin(), text.end(), [](char c) { return c == 'e' || c == 'E'; });
+    const auto exponent = static_cast<std::size_t>(letter - text.begin());
     const std::size_t point = std::min(text.find('.'), exponent);
     int decimals = point < exponent ? static_cast<int>(exponent - point - 1) : 0;
     if (exponent < text.size()) {
@@ -106,7 +121,7 @@ std::optional<UncertainValue> read_number(std::string_view text) {
     if (!uncertainty.empty()) {
         const std::optional<double> last_places = read_whole<double>(uncertainty);
         if (!last_places) return std::nullopt;
-        result.uncertainty = *last_places * std::pow(10.0, -decimals);
+        result.uncertainty = *last_places * last_place(decimals);
     }
     return result;
 }

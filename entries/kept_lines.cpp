@@ -4,11 +4,10 @@
 #include <vector>
 
 #include "entries/cif_text.h"
+#include "entries/white_space.h"
 #include "markup/Utf8.h"
 
 namespace {
-
-bool is_white_space(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
 /// Where the characters of a text on one line stand in the text with its lines: begins, and the
 /// end of the last. Between them lie line ends, the blanks around these and signs of folding.
