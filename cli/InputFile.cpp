@@ -4,13 +4,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <string_view>
 #include <system_error>
 
 namespace {
 
-constexpr std::size_t buffer_size = 1 << 20;
+constexpr std::size_t largest_buffer = 1 << 20;
 
 [[noreturn]] void fail(const std::string& name) {
     throw InputError(name + ": " + std::generic_category().message(errno));
@@ -22,13 +23,20 @@ off_t size_of(int descriptor) {
     return fstat(descriptor, &file) == 0 && S_ISREG(file.st_mode) ? file.st_size : 0;
 }
 
+/// For most files as much as they hold: a megabyte for each costs more than to read it. One of
+/// size 0 may be none of the disk, and have more.
+std::size_t buffer_size_for(off_t size) {
+    constexpr std::size_t least = GzipReader::signature.size();
+    const bool is_small = size > 0 && size < static_cast<off_t>(largest_buffer);
+    return is_small ? std::max(static_cast<std::size_t>(size), least) : largest_buffer;
+}
+
 }  // namespace
 
 InputFile::InputFile(const std::string& path)
     : name_(path == "-"    ? "<stdin>"
             : path.empty() ? "''"
                            : path),
-      buffer_(std::make_unique_for_overwrite<char[]>(buffer_size)),
       descriptor_(path == "-" ? STDIN_FILENO : open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
     if (descriptor_ < 0) fail(name_);
     size_ = size_of(descriptor_);
@@ -72,9 +80,13 @@ std::size_t InputFile::read_beginning() {
 
 /// Reads into the buffer, behind what shall stay there.
 std::size_t InputFile::read_piece(std::size_t offset) {
+    if (!buffer_) {
+        buffer_size_ = buffer_size_for(size_);
+        buffer_ = std::make_unique_for_overwrite<char[]>(buffer_size_);
+    }
     ssize_t count = -1;
     do {
-        count = ::read(descriptor_, buffer_.get() + offset, buffer_size - offset);
+        count = ::read(descriptor_, buffer_.get() + offset, buffer_size_ - offset);
     } while (count < 0 && errno == EINTR);
     if (count < 0) fail(name_);
     if (count == 0 && size_of(descriptor_) < size_) {

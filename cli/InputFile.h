@@ -42,6 +42,7 @@ private:
 
     std::string name_;
     std::unique_ptr<char[]> buffer_;
+    std::size_t buffer_size_ = 0;
     int descriptor_;
     off_t size_ = 0;  // when it was opened
     bool begun_ = false;

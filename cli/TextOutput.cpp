@@ -168,10 +168,11 @@ void TextOutput::remove() {
 }
 
 bool TextOutput::is_at(const std::string& path) const {
-    const std::filesystem::path other = path == "-" ? "/dev/stdin" : path;
-    std::error_code ignored;
-    return std::filesystem::is_regular_file(other, ignored) &&
-           std::filesystem::equivalent(other, place_.empty() ? "/dev/stdout" : place_, ignored);
+    struct stat file {
+    }, other{};
+    return stat(place_.empty() ? "/dev/stdout" : place_.c_str(), &file) == 0 &&
+           S_ISREG(file.st_mode) && stat(path == "-" ? "/dev/stdin" : path.c_str(), &other) == 0 &&
+           file.st_dev == other.st_dev && file.st_ino == other.st_ino;
 }
 
 bool TextOutput::is_terminal() const { return isatty(fileno(file_)) != 0; }
