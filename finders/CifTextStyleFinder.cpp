@@ -30,7 +30,14 @@ void CifTextStyleFinder::greek(std::vector<GreekSlice>& out) const {
     out.insert(out.end(), found_.greek.begin(), found_.greek.end());
 }
 
+/// The lists keep their memory, for the texts that follow.
 void CifTextStyleFinder::calc_tag_positions() {
-    found_ = {};
+    for (auto* const slices : {&found_.bold, &found_.italic, &found_.subscripts,
+                               &found_.superscripts, &found_.invisible}) {
+        slices->clear();
+    }
+    found_.greek.clear();
+    found_.replacements.clear();
+    found_.doubts.clear();
     CifTextParser(text(), found_).parse();
 }

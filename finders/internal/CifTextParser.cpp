@@ -227,6 +227,7 @@ void CifTextParser::doubt(std::size_t at, std::size_t size, Doubt::Kind kind) {
 /// Puts the doubts in order, and neighbours of one kind into one.
 void CifTextParser::merge_doubts() {
     std::vector<Doubt>& doubts = found_.doubts;
+    if (doubts.empty()) return;
     std::sort(doubts.begin(), doubts.end(),
               [](const Doubt& a, const Doubt& b) { return a.place.from() < b.place.from(); });
     std::vector<Doubt> merged;

@@ -76,6 +76,28 @@ constexpr auto codes_by_character = [] {
     return rows;
 }();
 
+/// Codes by their second character, those with the same one from the longest to the shortest, so
+/// that of few the first that fits is it.
+struct CodesBySecond {
+    std::array<CifCode, std::size(codes)> rows{};
+    std::array<unsigned char, 129> begins{};  // for each character of ASCII, and behind the last
+};
+
+constexpr CodesBySecond codes_by_second = [] {
+    CodesBySecond result;
+    std::copy(std::begin(codes), std::end(codes), result.rows.begin());
+    std::sort(result.rows.begin(), result.rows.end(), [](const CifCode& a, const CifCode& b) {
+        const int order = a.code[1] - b.code[1];
+        return order != 0 ? order < 0 : a.code.size() > b.code.size();
+    });
+    for (const CifCode& row : result.rows) {
+        for (auto i = static_cast<std::size_t>(row.code[1]) + 1; i < result.begins.size(); ++i) {
+            ++result.begins[i];
+        }
+    }
+    return result;
+}();
+
 constexpr std::size_t longest_entity = 12;
 
 char32_t greek_character(std::string_view name) {
@@ -112,13 +134,15 @@ constexpr bool is_in_entity(char c) { return is_name_character(c) || c == '#'; }
 }  // namespace
 
 const CifCode* first_cif_code(std::string_view text) {
-    const CifCode* longest = nullptr;
-    if (text.size() < 2) return longest;
-    for (const CifCode& code : codes) {
-        if (code.code[1] != text[1] || !text.starts_with(code.code)) continue;
-        if (!longest || code.code.size() > longest->code.size()) longest = &code;
+    if (text.size() < 2) return nullptr;
+    const auto second = static_cast<unsigned char>(text[1]);
+    if (second >= 0x80) return nullptr;
+    for (std::size_t i = codes_by_second.begins[second]; i < codes_by_second.begins[second + 1U];
+         ++i) {
+        const CifCode& code = codes_by_second.rows[i];
+        if (text.starts_with(code.code)) return &code;
     }
-    return longest;
+    return nullptr;
 }
 
 const CifCode* cif_code_of(char32_t character) {
