@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "markup/RichTextData.h"
+#include "markup/RichTextTagFactory.h"
+#include "markup/TextItemToOtherGreek.h"
 #include "markup/ascii_text.h"
 #include "tasks/styles_of.h"
 
@@ -26,6 +29,23 @@ constexpr Row rows[] = {
     {Kind::color, "colours", [](TextItem& item) { item.create_color(0, 1, TextItem::green4); }},
 };
 
+constexpr unsigned long flag_of(Kind kind) { return 1UL << static_cast<unsigned int>(kind); }
+
+/// Sees of which kinds the styles of an item are, those that cover something.
+class KindCollector : public RichTextGenerator {
+public:
+    KindCollector() : RichTextGenerator({}, {}) {}
+
+    std::string mark_up_text(const RichTextData& data) const override {
+        for (const THandle<TextItemStyle>& style : data.styles()) {
+            if (!style->slice().empty()) flags |= flag_of(style->kind());
+        }
+        return {};
+    }
+
+    mutable unsigned long flags = 0;
+};
+
 constexpr AsciiForm ascii_forms[] = {
     {"tevo", folded_to_ascii, true},     {"cif", folded_to_ascii, true},
     {"cif-text", with_references, true}, {"html", with_references, false},
@@ -44,12 +64,10 @@ Losses::Losses(const RichTextTarget& target) : target_(target) {
 
 void Losses::note_styles(const TextItem& item, std::vector<Problem>& problems) {
     if (std::none_of(is_lost_.begin(), is_lost_.end(), [](bool lost) { return lost; })) return;
-    const std::vector<THandle<TextItemStyle>> styles = styles_of(item);
+    KindCollector collector;
+    item.mark_up_text(collector);
     for (std::size_t i = 0; i < kinds; ++i) {
-        const bool has_it = std::any_of(styles.begin(), styles.end(), [&](const auto& style) {
-            return style->kind() == rows[i].kind && !style->slice().empty();
-        });
-        if (!is_lost_[i] || !has_it) continue;
+        if (!is_lost_[i] || (collector.flags & flag_of(rows[i].kind)) == 0) continue;
         is_lost_[i] = false;
         Problem& note = problems.emplace_back();
         note.level = Problem::Level::note;
