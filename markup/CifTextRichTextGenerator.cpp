@@ -15,6 +15,8 @@ constexpr std::string_view overline = "\u0305";
 constexpr std::array<bool, 256> stands_for_itself = ascii_but("\\~^&<-+");
 constexpr std::size_t longest_code = 16;
 
+bool is_ascii(char c) { return static_cast<unsigned char>(c) < 0x80; }
+
 /// The code of a letter, with those of its accents; empty where it has none.
 std::string letter_code(char32_t letter) {
     std::string code;
@@ -30,11 +32,12 @@ std::string letter_code(char32_t letter) {
 
 /// A character that is alone, or carries marks that Unicode has no character with.
 struct Unit {
-    std::string code;  // empty: the characters stay
+    std::string code;  // empty: the characters stay, or are one of ASCII
     std::size_t size;
 };
 
 Unit first_unit(std::string_view text) {
+    if (is_ascii(text[0]) && (text.size() == 1 || is_ascii(text[1]))) return {"", 1};  // as most
     const Utf8Character first = first_character(text);
     Unit unit{first.valid ? letter_code(first.code) : "", first.size};
     if (unit.code.empty() || !is_letter_of_text(first.code)) return unit;
@@ -67,6 +70,19 @@ bool begins_something(std::string_view text) {
                                     may_begin_entity_or_mark(text));
 }
 
+/// Whether a letter would be read as the rest of a code that stands before it.
+bool goes_on_code(std::string_view result, std::string_view text) {
+    switch (text.front()) {
+        case 'a':
+        case 'A':
+            return result.ends_with("\\%");
+        case 'e':
+            return result.ends_with("\\\\sim") && (text.starts_with("eq") || text == "e");
+        default:
+            return false;
+    }
+}
+
 void append_entity(std::string& result, char32_t code) {
     if (code == '&' || code == '<') {
         result += code == '&' ? "&amp;" : "&lt;";
@@ -97,13 +113,14 @@ void CifTextRichTextGenerator::write_text(std::string& result, std::string_view 
                stands_for_itself[static_cast<unsigned char>(text[plain])]) {
             ++plain;
         }
-        // The last may carry an accent; the first may go on a code that stands before it.
-        if (plain > 2) {
-            const std::size_t first = write_character(result, text);
-            result += text.substr(first, plain - 1 - first);
-            text.remove_prefix(plain - 1);
+        const bool may_carry_accent = plain > 0 && plain < text.size() && !is_ascii(text[plain]);
+        if (may_carry_accent) --plain;
+        if (plain > 0 && !goes_on_code(result, text)) {
+            result += text.substr(0, plain);
+            text.remove_prefix(plain);
+        } else {
+            text.remove_prefix(write_character(result, text));
         }
-        text.remove_prefix(write_character(result, text));
     }
 }
 
@@ -118,9 +135,7 @@ std::size_t CifTextRichTextGenerator::write_character(std::string& result,
     if (is_ascii && (begins_something(text) || would_join(result, characters))) {
         append_entity(result, first.code);
     } else if (is_ascii || unit.code.empty()) {
-        const bool degree = result.ends_with("\\%") && (first.code == 'a' || first.code == 'A');
-        const bool similar = result.ends_with("\\\\sim") && (text.starts_with("eq") || text == "e");
-        if (degree || similar) {
+        if (goes_on_code(result, text)) {
             append_entity(result, first.code);
         } else {
             result += characters;
