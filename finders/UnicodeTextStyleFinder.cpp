@@ -1,5 +1,6 @@
 #include "finders/UnicodeTextStyleFinder.h"
 
+#include <array>
 #include <string_view>
 
 #include "markup/Utf8.h"
@@ -10,6 +11,14 @@
 namespace {
 
 constexpr char32_t overline = U'\u0305';
+
+/// For each byte whether it is a character of ASCII that begins nothing.
+constexpr auto is_plain = [] {
+    std::array<bool, 256> plain{};
+    for (std::size_t byte = 0; byte < 0x80; ++byte) plain[byte] = true;
+    for (const char c : {'_', '^', '{', '}'}) plain[static_cast<unsigned char>(c)] = false;
+    return plain;
+}();
 
 /// As they are typed in place of the Greek letters.
 TextItem::GreekSymbol symbol_of(char32_t code) {
@@ -32,7 +41,7 @@ public:
 
     void parse() {
         while (at_ < text_.size()) {
-            if (open_.empty() && valign_ == 0) skip_plain();
+            if (open_.empty() && valign_ == 0 && skip_plain()) break;
             const std::string_view rest = text_.substr(at_);
             const Utf8Character character = first_character(rest);
             if (rest.starts_with("_{") || rest.starts_with("^{") || rest.front() == '{') {
@@ -57,15 +66,17 @@ private:
         bool could_be_raised = true, could_be_lowered = true;
     };
 
-    /// Passes over plain characters of ASCII but the last, which a mark may stand on.
-    void skip_plain() {
-        const auto is_plain = [](char c) {
-            return static_cast<unsigned char>(c) < 0x80 && c != '_' && c != '^' && c != '{' &&
-                   c != '}';
-        };
-        while (at_ + 1 < text_.size() && is_plain(text_[at_]) && is_plain(text_[at_ + 1])) {
-            unit_ = at_++;
+    /// Passes over plain characters of ASCII, but not over the last before another one, which may
+    /// be a mark that stands on it. Returns whether the text ends there.
+    bool skip_plain() {
+        std::size_t end = at_;
+        while (end < text_.size() && is_plain[static_cast<unsigned char>(text_[end])]) ++end;
+        if (end == text_.size()) return true;
+        if (end > at_ + 1) {
+            at_ = end - 1;
+            unit_ = at_ - 1;
         }
+        return false;
     }
 
     void open_brace() {
@@ -191,7 +202,13 @@ void UnicodeTextStyleFinder::greek(std::vector<GreekSlice>& out) const {
     append(out, found_.greek);
 }
 
+/// The lists keep their memory, for the texts that follow.
 void UnicodeTextStyleFinder::calc_tag_positions() {
-    found_ = {};
+    for (auto* const slices :
+         {&found_.subscripts, &found_.superscripts, &found_.overstrike, &found_.invisible}) {
+        slices->clear();
+    }
+    found_.greek.clear();
+    found_.replacements.clear();
     Parser(text(), found_).parse();
 }
