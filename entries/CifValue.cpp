@@ -6,6 +6,11 @@
 
 namespace {
 
+/// Whether a value has neither quotes nor blanks nor lines, as most have not.
+bool is_word(std::string_view raw) {
+    return !raw.empty() && std::string_view("'\";[{").find(raw.front()) == std::string_view::npos;
+}
+
 /// What stands between the quotes.
 std::string_view without_quotes(const CifValue& value) {
     const std::string_view raw = value.raw;
@@ -76,9 +81,12 @@ CifQuoting CifValue::quoting() const {
     return is_field ? CifQuoting::text_field : CifQuoting::bare;
 }
 
-std::string CifValue::text() const { return with_plain_line_ends(bare_text(*this)); }
+std::string CifValue::text() const {
+    if (is_word(raw)) return std::string(is_none() ? std::string_view() : raw);
+    return with_plain_line_ends(bare_text(*this));
+}
 
-bool CifValue::has_text() const { return !bare_text(*this).empty(); }
+bool CifValue::has_text() const { return is_word(raw) ? !is_none() : !bare_text(*this).empty(); }
 
 bool CifValue::is_none() const { return raw.empty() || raw == "?" || raw == "."; }
 

@@ -3,6 +3,7 @@
 #include <limits>
 #include <map>
 #include <set>
+#include <vector>
 
 #include "entries/BlockReader.h"
 #include "entries/cif_tags.h"
@@ -63,22 +64,34 @@ public:
     explicit CarbonLabels(BlockReader& block) {
         const CifItem* const labels = block.item(cif_tags::atom_label);
         const AtomColumn types(block, cif_tags::atom_type);
+        atoms_.reserve(labels ? labels->size() : 0);
         for (std::size_t row = 0; labels && row < labels->size(); ++row) {
             const std::string type = types.text(row);
             std::string label = (*labels)[row].text();
-            const bool carbon = is_carbon(type.empty() ? label : type);
-            carbon_.try_emplace(std::move(label), carbon);
+            const bool is_carbon_atom = is_carbon(type.empty() ? label : type);
+            atoms_.push_back({std::move(label), is_carbon_atom});
         }
+        std::stable_sort(atoms_.begin(), atoms_.end(), [](const Atom& a, const Atom& b) {
+            return a.label < b.label;  // of several with one label the first counts
+        });
     }
 
     /// What the atoms say, or else the label itself.
     bool contain(const std::string& label) const {
-        const auto known = carbon_.find(label);
-        return known == carbon_.end() ? is_carbon(label) : known->second;
+        const auto known = std::lower_bound(
+            atoms_.begin(), atoms_.end(), label,
+            [](const Atom& atom, const std::string& sought) { return atom.label < sought; });
+        const bool is_known = known != atoms_.end() && known->label == label;
+        return is_known ? known->is_carbon : is_carbon(label);
     }
 
 private:
-    std::map<std::string, bool> carbon_;
+    struct Atom {
+        std::string label;
+        bool is_carbon;
+    };
+
+    std::vector<Atom> atoms_;
 };
 
 /// The atoms that have several positions.

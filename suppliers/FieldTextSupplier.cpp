@@ -29,7 +29,7 @@ std::string printed_if(const std::optional<Value>& value) {
 template <class Value>
 std::string labelled(const char* const (&labels)[3], const Value& a, const Value& b,
                      const Value& c) {
-    return labels[0] + printed(a) + labels[1] + printed(b) + labels[2] + printed(c);
+    return printed(labels[0], a, labels[1], b, labels[2], c);
 }
 
 constexpr const char* lengths[] = {"a ", " b ", " c "};

@@ -6,5 +6,5 @@ Z_ZPrimeSupplier::~Z_ZPrimeSupplier() = default;
 
 std::string Z_ZPrimeSupplier::text(THandle<CrystalStructureDatabaseEntry> entry) const {
     const THandle<CrystalInfo> crystal = entry->crystal_info;
-    return "Z: " + printed(crystal->z) + " Z': " + printed(crystal->z_prime);
+    return printed("Z: ", crystal->z, " Z': ", crystal->z_prime);
 }
