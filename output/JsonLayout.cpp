@@ -166,8 +166,6 @@ void write_side(JsonWriter& json, const char* name, const ComparisonLayout::Side
     json.end_object();
 }
 
-LaidOutPart written(const JsonWriter& json) { return {'\n' + json.json()}; }
-
 }  // namespace
 
 JsonLayout::~JsonLayout() = default;
@@ -178,7 +176,7 @@ std::string JsonLayout::separator() const { return ","; }
 
 LaidOutPart JsonLayout::entry(const std::string& file, const std::string& block,
                               const std::vector<EntryField>& fields) {
-    JsonWriter json;
+    JsonWriter json("\n");
     json.begin_object();
     json.add_text("file", file);
     json.add_text("block", block);
@@ -194,12 +192,12 @@ LaidOutPart JsonLayout::entry(const std::string& file, const std::string& block,
     }
     json.end_array();
     json.end_object();
-    return written(json);
+    return {json.take()};
 }
 
 LaidOutPart JsonLayout::comparison(const Side& left, const Side& right, PairingReason reason,
                                    const EntryComparison& compared) {
-    JsonWriter json;
+    JsonWriter json("\n");
     json.begin_object();
     write_side(json, "left", &left);
     write_side(json, "right", &right);
@@ -211,12 +209,12 @@ LaidOutPart JsonLayout::comparison(const Side& left, const Side& right, PairingR
     }
     json.end_array();
     json.end_object();
-    return written(json);
+    return {json.take()};
 }
 
 LaidOutPart JsonLayout::only(const Side& entry, Verdict verdict) {
     const bool is_left = verdict == Verdict::only_left;
-    JsonWriter json;
+    JsonWriter json("\n");
     json.begin_object();
     write_side(json, "left", is_left ? &entry : nullptr);
     write_side(json, "right", is_left ? nullptr : &entry);
@@ -225,7 +223,7 @@ LaidOutPart JsonLayout::only(const Side& entry, Verdict verdict) {
     json.begin_array("fields");
     json.end_array();
     json.end_object();
-    return written(json);
+    return {json.take()};
 }
 
 std::string JsonLayout::summary(const ComparisonSummary& summary, std::span<const Field> compared) {

@@ -1,19 +1,33 @@
 #include "output/JsonWriter.h"
 
-#include <algorithm>
-
+#include "markup/Utf8.h"
+#include "markup/internal/controls.h"
 #include "output/harmless_json.h"
 
 namespace {
 
-/// Whether a character of a text needs no escape, or only that of append_harmless().
-bool is_plain(char c) { return c >= ' ' && c < 0x7F && c != '"' && c != '\\'; }
+/// Whether a text needs no escapes but those of append_harmless(), and is UTF-8.
+bool is_plain(std::string_view text) {
+    static constexpr std::array<bool, 256> stands_for_itself = ascii_but("\"\\");
+    for (std::size_t i = 0; i < text.size();) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if (stands_for_itself[byte]) {
+            ++i;
+            continue;
+        }
+        if (byte < 0x80) return false;
+        const Utf8Character character = first_character(text.substr(i));
+        if (!character.valid) return false;
+        i += character.size;
+    }
+    return true;
+}
 
 }  // namespace
 
 void JsonWriter::add_text(const char* name, std::string_view text) {
     begin_value(name);
-    if (!std::all_of(text.begin(), text.end(), is_plain)) {
+    if (!is_plain(text)) {
         json_ += harmless_json(text, false);
         return;
     }

@@ -4,12 +4,16 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// Writes JSON as harmless_json() has it in lines, one value after the other, with no tree of them:
 /// entries have thousands of values. In an object each value has a name, which is written as it is;
 /// elsewhere it has none. Everything that is begun must be ended.
 class JsonWriter {
 public:
+    /// Writes behind `before`.
+    explicit JsonWriter(std::string before = "") : json_(std::move(before)) {}
+
     void begin_object(const char* name = nullptr) { begin(name, '{'); }
     void end_object() { end('}'); }
     void begin_array(const char* name = nullptr) { begin(name, '['); }
@@ -22,7 +26,8 @@ public:
     void add_true(const char* name) { add_word(name, "true"); }
     void add_null(const char* name) { add_word(name, "null"); }
 
-    const std::string& json() const { return json_; }
+    /// What has been written, which this no longer has.
+    std::string take() { return std::move(json_); }
 
 private:
     void begin(const char* name, char bracket);

@@ -7,6 +7,7 @@
 
 EntryFields::EntryFields(const CifEntry& entry, std::span<const Field> wanted,
                          const EntryFinder* finder) {
+    fields.reserve(wanted.size());
     for (const Field& field : wanted) {
         const FieldText text = text_of(entry, field);
         if (text.text.empty()) continue;
