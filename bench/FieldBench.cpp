@@ -5,10 +5,14 @@
 
 #include "bench/texts.h"
 #include "finders/CifChemicalNameStyleFinder.h"
+#include "finders/CifTextStyleFinder.h"
 #include "finders/TevoChemicalFormulaStyleFinder.h"
 #include "finders/TevoChemicalNameStyleFinder.h"
 #include "finders/TevoPublicationStyleFinder.h"
+#include "finders/UnicodeTextStyleFinder.h"
+#include "markup/CifTextRichTextGenerator.h"
 #include "markup/RichTextTarget.h"
+#include "markup/UnicodeRichTextGenerator.h"
 #include "search/CombinedPublicationComparisonSearch.h"
 #include "search/CommonSubstringFinderAdapter.h"
 #include "search/EntireTextComparison.h"
@@ -43,8 +47,7 @@ THandle<TextSearch> substring_search() {
     return make_handle<CommonSubstringFinderAdapter>(StringNormalisationPolicy(0x0C, ""), 3U, "");
 }
 
-std::vector<std::string> round_of(const std::string& file) {
-    const std::vector<std::string> lines = lines_of(file);
+std::vector<std::string> round_of(const std::vector<std::string>& lines) {
     std::vector<std::string> texts;
     while (texts.size() < round_size) texts.push_back(lines[texts.size() % lines.size()]);
     return texts;
@@ -148,13 +151,17 @@ const bool registered = [] {
                                   "tetrakis(pyridine-3-carboxylato)-eicosane-1,20-"
                                   "diol-copper!12$--ab"),
          finder<TevoChemicalNameStyleFinder>, substring_search, "D-glucopyranoside"},
-        {"tevo_names", round_of("tevo_names.txt"), finder<TevoChemicalNameStyleFinder>,
+        {"tevo_names", round_of(lines_of("tevo_names.txt")), finder<TevoChemicalNameStyleFinder>,
          substring_search, "D-glucopyranoside"},
-        {"cif_names", round_of("names.txt"), finder<CifChemicalNameStyleFinder>, substring_search,
-         "D-glucopyranoside"},
-        {"formulae", round_of("formulae.txt"), finder<TevoChemicalFormulaStyleFinder>,
+        {"cif_names", round_of(lines_of("names.txt")), finder<CifChemicalNameStyleFinder>,
+         substring_search, "D-glucopyranoside"},
+        {"cif_texts", round_of(names_by(make_handle<CifTextRichTextGenerator>())),
+         finder<CifTextStyleFinder>, substring_search, "D-glucopyranoside"},
+        {"pasted_texts", round_of(names_by(make_handle<UnicodeRichTextGenerator>())),
+         finder<UnicodeTextStyleFinder>, substring_search, "D-glucopyranoside"},
+        {"formulae", round_of(lines_of("formulae.txt")), finder<TevoChemicalFormulaStyleFinder>,
          search<EntireTextComparison>, "C6 H12 O6"},
-        {"references", round_of("references.txt"), finder<TevoPublicationStyleFinder>,
+        {"references", round_of(lines_of("references.txt")), finder<TevoPublicationStyleFinder>,
          search<CombinedPublicationComparisonSearch>,
          "<j>Acta Crystallographica Section E</j><v>60</v><y>2004</y><p>124</p>"},
     };

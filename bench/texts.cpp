@@ -5,12 +5,25 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "finders/TevoChemicalNameStyleFinder.h"
+#include "text/TextItem.h"
+
 std::vector<std::string> lines_of(const std::string& file) {
     std::ifstream stream(DATA_FOLDER "/" + file);
     std::vector<std::string> lines;
     for (std::string line; std::getline(stream, line);) lines.push_back(line);
     if (lines.empty()) throw std::runtime_error("no texts in " + file);
     return lines;
+}
+
+std::vector<std::string> names_by(const THandle<RichTextGenerator>& generator) {
+    std::vector<std::string> names = lines_of("tevo_names.txt");
+    TextItem item(make_handle<TevoChemicalNameStyleFinder>());
+    for (std::string& name : names) {
+        item.set_text(name);
+        name = item.mark_up_text(*generator);
+    }
+    return names;
 }
 
 double limit_of(const std::vector<std::string>& texts) {

@@ -6,8 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "host/THandle.h"
+#include "markup/RichTextGenerator.h"
+
 /// The lines of a file of the data folder; throws std::runtime_error when there is none.
 std::vector<std::string> lines_of(const std::string& file);
+
+/// The names with Greek letters or scripts, as the generator writes them.
+std::vector<std::string> names_by(const THandle<RichTextGenerator>& generator);
 
 /// Runs `process` as often as the benchmark wants; returns the seconds that one run takes.
 template <class Process>

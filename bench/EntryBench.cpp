@@ -1,0 +1,60 @@
+// Entries shown, against their files only read by the grammar that most programs for CIF files are
+// built on; and texts of CIF files, from their codes to Unicode and back. In time of the processor,
+// of processes that take turns.
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+
+#include "bench/processes.h"
+#include "bench/texts.h"
+#include "markup/CifTextRichTextGenerator.h"
+#include "markup/UnicodeRichTextGenerator.h"
+
+namespace {
+
+/// Of those who have files of their own; those of the tests are smaller than most.
+std::string cif_folder() {
+    const char* const own = std::getenv("LMRTEXT_BENCH_CIF_FOLDER");
+    return own ? own : CIF_FOLDER;
+}
+
+/// "of_reading" says how often the time of reading is that of showing.
+void show(benchmark::State& state, const std::string& view, const std::string& target) {
+    std::vector<std::string> reading{READ_FILES};
+    std::vector<std::string> showing{PROGRAM, "show", "--view", view, "--to", target};
+    constexpr std::size_t entries = 10000;
+    append_files(reading, cif_folder(), entries);
+    append_files(showing, cif_folder(), entries);
+    double read = 0, shown = 0;
+    for (auto _ : state) {
+        read += run_program(reading).seconds;
+        shown += run_program(showing).seconds;
+    }
+    state.counters["of_reading"] = shown / read;
+    state.counters["us_an_entry"] = shown / static_cast<double>(state.iterations() * entries) * 1e6;
+}
+BENCHMARK_CAPTURE(show, html5, "default", "html5")->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(show, tevo, "default", "tevo")->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(show, json, "internal", "json")->Iterations(5)->Unit(benchmark::kMillisecond);
+
+void convert(benchmark::State& state, const std::string& from, const std::string& to,
+             const std::vector<std::string>& texts) {
+    const LinesFile file(texts, 30'000'000);
+    double seconds = 0;
+    for (auto _ : state) {
+        seconds +=
+            run_program({PROGRAM, "convert", "--from", from, "--to", to, file.path()}).seconds;
+    }
+    const auto size = static_cast<double>(std::filesystem::file_size(file.path()));
+    state.counters["MB/s"] = size / 1e6 * static_cast<double>(state.iterations()) / seconds;
+}
+BENCHMARK_CAPTURE(convert, codes_to_unicode, "cif-text", "unicode",
+                  names_by(make_handle<CifTextRichTextGenerator>()))
+    ->Iterations(5)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(convert, unicode_to_codes, "unicode", "cif-text",
+                  names_by(make_handle<UnicodeRichTextGenerator>()))
+    ->Iterations(5)
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace

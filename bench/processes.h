@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/// What a process has taken.
+struct ProcessCosts {
+    double seconds;    ///< Of the processor.
+    double megabytes;  ///< At its peak.
+};
+
+/// Runs a program with its output and its messages thrown away. Throws std::runtime_error where it
+/// fails.
+ProcessCosts run_program(std::vector<std::string> arguments);
+
+/// Appends the CIF files of a folder, again and again until there are so many.
+void append_files(std::vector<std::string>& arguments, const std::string& folder,
+                  std::size_t count);
+
+/// A file with these lines again and again, so many bytes or a little more, for as long as this
+/// lives.
+class LinesFile {
+public:
+    LinesFile(const std::vector<std::string>& lines, std::size_t size);
+    LinesFile(const LinesFile&) = delete;
+    LinesFile& operator=(const LinesFile&) = delete;
+    ~LinesFile() { std::filesystem::remove(path_); }
+
+    std::string path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
