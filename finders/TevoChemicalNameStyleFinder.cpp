@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <stdexcept>
 #include <string_view>
 
@@ -71,12 +72,16 @@ void TevoChemicalNameStyleFinder::superscripts(std::vector<StringSlice>& out) co
 }
 
 void TevoChemicalNameStyleFinder::invisible(std::vector<StringSlice>& out) const {
-    std::vector<StringSlice> scripts;
-    subscripts(scripts);
-    superscripts(scripts);
-    for (const StringSlice& script : scripts) {
-        out.emplace_back(script.from() - 1, script.from());
-        out.emplace_back(script.to(), script.to() + 1);
+    const std::size_t first = out.size();
+    subscripts(out);
+    superscripts(out);
+    // Each gives way to its two markers, from the last on, where there is room.
+    const std::size_t scripts = out.size() - first;
+    out.resize(first + 2 * scripts, StringSlice(0, 0));
+    for (std::size_t i = scripts; i-- > 0;) {
+        const StringSlice script = out[first + i];
+        out[first + 2 * i] = StringSlice(script.from() - 1, script.from());
+        out[first + 2 * i + 1] = StringSlice(script.to(), script.to() + 1);
     }
 }
 
@@ -88,9 +93,11 @@ void TevoChemicalNameStyleFinder::greek(std::vector<GreekSlice>& out) const {
     const GreekNameScanner& names = scanner();
     std::vector<Hit> hits;
     // A name is not looked for inside its own last occurrence, whether that was a letter or not.
-    std::array<unsigned int, TextItem::clambda> next_allowed{};
+    std::array<unsigned int, TextItem::clambda> next_allowed;  // of those seen: most texts have few
+    std::uint32_t seen = 0;
     names.scan(name_text, [&](unsigned int i, unsigned int pos) {
-        if (pos < next_allowed[i]) return;
+        if ((seen >> i & 1) != 0 && pos < next_allowed[i]) return;
+        seen |= std::uint32_t{1} << i;
         const std::string& name = names.name(i);
         const unsigned int end = pos + length_of(name);
         next_allowed[i] = end;

@@ -51,6 +51,8 @@ public:
 
     template <class U, class... Arguments>
     friend THandle<U> make_handle(Arguments&&... arguments);
+    template <class U, class Owner>
+    friend THandle<U> make_part_handle(const THandle<Owner>& owner, U* part);
 
 private:
     template <class U>
@@ -70,6 +72,13 @@ private:
 template <class T, class... Arguments>
 THandle<T> make_handle(Arguments&&... arguments) {
     return THandle<T>(std::make_shared<T>(std::forward<Arguments>(arguments)...));
+}
+
+/// A handle to a part of the owner's object, which lives until the last handle to it or a part of
+/// it.
+template <class U, class Owner>
+THandle<U> make_part_handle(const THandle<Owner>& owner, U* part) {
+    return THandle<U>(std::shared_ptr<U>(owner.object_, part));
 }
 
 /// Prints the object; raises the null-handle error when there is none.

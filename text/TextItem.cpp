@@ -27,13 +27,6 @@ namespace {
 
 constexpr char bad_line_length[] = "TextItem line length < zero error";
 
-template <class Style, class... Payload>
-THandle<Style> activated(unsigned int from, unsigned int to, const Payload&... payload) {
-    auto style = make_handle<Style>(payload...);
-    style->activate(from, to);
-    return style;
-}
-
 /// One end of a style, where it switches its property on or off.
 struct Boundary {
     unsigned int position;
@@ -101,6 +94,7 @@ void TextItem::set_text(const std::string& text) {
     content.greek_styles.clear();
     content.replacement_text_styles.clear();
     content.rules.reset(length);
+    content.pool.reset();
     create_input_text_styles();
 }
 
@@ -109,8 +103,7 @@ void TextItem::create_input_text_styles() {
     const THandle<Finder>& finder = content_->finder;
     finder->set_text(content_->text);
 
-    std::vector<StringSlice> slices;
-    slices.reserve(16);  // for one usual text
+    std::vector<StringSlice>& slices = content_->scratch;
     const auto create_plain = [&](void (Finder::*query)(std::vector<StringSlice>&) const,
                                   void (TextItem::*create)(unsigned int, unsigned int)) {
         slices.clear();
@@ -146,49 +139,50 @@ unsigned int TextItem::line_length() const { return content_->line_length; }
 
 void TextItem::create_bold(unsigned int from, unsigned int to) {
     content_->rules.check_overlay(from, to);
-    content_->append(activated<BoldStyle>(from, to));
+    content_->append(content_->pool.make<BoldStyle>(from, to));
 }
 
 void TextItem::create_italic(unsigned int from, unsigned int to) {
     content_->rules.check_overlay(from, to);
-    content_->append(activated<ItalicStyle>(from, to));
+    content_->append(content_->pool.make<ItalicStyle>(from, to));
 }
 
 void TextItem::create_overstrike(unsigned int from, unsigned int to) {
     content_->rules.check_overlay(from, to);
-    content_->append(activated<OverStrikeStyle>(from, to));
+    content_->append(content_->pool.make<OverStrikeStyle>(from, to));
 }
 
 void TextItem::create_invisible(unsigned int from, unsigned int to) {
     content_->rules.check_overlay(from, to);
-    content_->append(activated<InvisibleStyle>(from, to), content_->invisible_styles);
+    content_->append(content_->pool.make<InvisibleStyle>(from, to), content_->invisible_styles);
 }
 
 void TextItem::create_superscript(unsigned int from, unsigned int to) {
     content_->rules.check_overlay(from, to);
-    content_->append(activated<VerticalAlignStyle>(from, to, 1));
+    content_->append(content_->pool.make<VerticalAlignStyle>(from, to, 1));
 }
 
 void TextItem::create_subscript(unsigned int from, unsigned int to) {
     content_->rules.check_overlay(from, to);
-    content_->append(activated<VerticalAlignStyle>(from, to, -1));
+    content_->append(content_->pool.make<VerticalAlignStyle>(from, to, -1));
 }
 
 void TextItem::create_greek(unsigned int from, unsigned int to, GreekSymbol symbol) {
     content_->rules.check_overlay(from, to);
-    content_->append(activated<GreekStyle>(from, to, symbol), content_->greek_styles);
+    content_->append(content_->pool.make<GreekStyle>(from, to, symbol), content_->greek_styles);
 }
 
 void TextItem::create_color(unsigned int from, unsigned int to, ColorName color) {
     content_->rules.check_color(from, to);
-    content_->append(activated<ColorStyle>(from, to, color), &StyleRules::add_color);
+    content_->append(content_->pool.make<ColorStyle>(from, to, color), &StyleRules::add_color);
 }
 
 void TextItem::create_replacement_text(unsigned int from, unsigned int to,
                                        const std::string& text) {
     content_->rules.check_replacement_text(from, to);
-    content_->append(activated<ReplacementTextStyle>(from, to, text),
-                     content_->replacement_text_styles, &StyleRules::add_replacement_text);
+    const auto style = make_handle<ReplacementTextStyle>(text);
+    style->activate(from, to);
+    content_->append(style, content_->replacement_text_styles, &StyleRules::add_replacement_text);
 }
 
 std::string TextItem::mark_up_text(RichTextGenerator& generator) const {

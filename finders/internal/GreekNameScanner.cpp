@@ -17,9 +17,13 @@ GreekNameScanner::GreekNameScanner() {
 }
 
 std::size_t GreekNameScanner::next_candidate(std::string_view text, std::size_t position) const {
-    for (; position + 1 < text.size(); ++position) {
-        const auto first = static_cast<unsigned char>(text[position]);
-        if ((second_letters_[first] >> (text[position + 1] & 31) & 1) != 0) return position;
+    if (position + 1 >= text.size()) return text.size();
+    const char* const last = text.data() + text.size() - 1;
+    for (const char* at = text.data() + position; at != last; ++at) {
+        const std::uint32_t seconds = second_letters_[static_cast<unsigned char>(at[0])];
+        if ((seconds >> (at[1] & 31) & 1) != 0) {
+            return static_cast<std::size_t>(at - text.data());
+        }
     }
     return text.size();
 }

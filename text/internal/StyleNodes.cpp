@@ -12,11 +12,13 @@ const StringSlice nothing(0, 0);
 
 void StyleNodes::reset(unsigned int text_length) {
     text_length_ = text_length;
+    few_.clear();
     empty_ = true;
     waiting_.clear();
 }
 
 bool StyleNodes::any_inside(const StringSlice& slice) {
+    enter_few();
     for (; !waiting_.empty(); waiting_.pop_back()) {
         const StringSlice style = waiting_.back();
         prepare();
@@ -29,16 +31,17 @@ bool StyleNodes::any_inside(const StringSlice& slice) {
     return !hull_inside(slice).empty();
 }
 
-bool StyleNodes::crosses(const StringSlice& slice) const {
+bool StyleNodes::crosses_hull(const StringSlice& slice) const {
     const StringSlice hull = hull_inside(slice);
     return !hull.empty() && !slice.has_subset(hull);
 }
 
-void StyleNodes::add(const StringSlice& style) {
-    if (style.length() < 2) {
-        if (!style.empty()) waiting_.push_back(style);
-        return;
-    }
+void StyleNodes::enter_few() {
+    for (const StringSlice& style : few_) enter(style);
+    few_.clear();
+}
+
+void StyleNodes::enter(const StringSlice& style) {
     prepare();
     make_room(style.from());
     make_room(style.to());

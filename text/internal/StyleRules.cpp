@@ -60,6 +60,7 @@ void StyleRules::check_no_crossing(unsigned int from, unsigned int to) const {
 }
 
 void StyleRules::check_not_within_replacement_text(unsigned int from, unsigned int to) const {
+    if (replacement_texts_.empty()) return;
     // Replacement texts are disjoint: only the last that begins at `from` or before can reach `to`.
     const auto next = replacement_texts_.upper_bound(from);
     if (next == replacement_texts_.begin()) return;

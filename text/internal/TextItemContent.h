@@ -7,6 +7,7 @@
 #include "text/GreekStyle.h"
 #include "text/ReplacementTextStyle.h"
 #include "text/TextItem.h"
+#include "text/internal/StylePool.h"
 #include "text/internal/StyleRules.h"
 
 /// What an item holds, behind its pointer.
@@ -19,21 +20,22 @@ struct TextItem::Content {
         if (list.size() == list.capacity()) list.reserve(2 * list.size() + 8);
     }
 
+    using Add = void (StyleRules::*)(const StringSlice&);
+
     /// Adds a style that breaks no rule, to `own_list` too; leaves everything as it was when memory
     /// runs out.
     /// @{
-    void append(THandle<TextItemStyle> style,
-                void (StyleRules::*add)(const StringSlice&) = &StyleRules::add_overlay) {
+    void append(THandle<TextItemStyle> style, Add add = &StyleRules::add_overlay) {
         make_room(styles);
         (rules.*add)(style->slice());
         styles.push_back(std::move(style));
     }
     template <class Style, class Base>
-    void append(const THandle<Style>& style, std::vector<THandle<Base>>& own_list,
-                void (StyleRules::*add)(const StringSlice&) = &StyleRules::add_overlay) {
+    void append(THandle<Style> style, std::vector<THandle<Base>>& own_list,
+                Add add = &StyleRules::add_overlay) {
         make_room(own_list);
         append(style, add);
-        own_list.push_back(style);
+        own_list.push_back(std::move(style));
     }
     /// @}
 
@@ -46,4 +48,6 @@ struct TextItem::Content {
     std::vector<THandle<GreekStyle>> greek_styles;
     std::vector<THandle<ReplacementTextStyle>> replacement_text_styles;
     StyleRules rules;
+    StylePool pool;
+    std::vector<StringSlice> scratch;  // of create_input_text_styles()
 };
