@@ -14,8 +14,6 @@ namespace {
 constexpr char down = '!';
 constexpr char up = '$';
 
-using Names = TevoChemicalNameToTextItemGreek;
-
 /// Appends the texts between `opener` and `closer`. Of the next two markers of different kinds the
 /// first opens a span and the other closes it; where that span belongs to the other script, it is
 /// passed over whole.
@@ -39,24 +37,29 @@ const GreekNameScanner& scanner() {
     return names;
 }
 
-bool is_one_of(std::string_view character, std::string_view set) {
-    return set.find(character) != std::string_view::npos;
-}
+bool is_one_of(char character, std::string_view set) { return set.find(character) != set.npos; }
 
-/// Whether the name is a tail behind that character; none where it begins the text.
-bool is_tail(const std::string& name, std::string_view prior_char) {
+/// Whether the letter's name is a tail behind that character; none where it begins the text.
+bool is_tail(TextItem::GreekSymbol letter, std::string_view prior_char) {
     if (prior_char.empty()) return false;
-    if (name == Names::pi_) return is_one_of(prior_char, "AaEeIiOoUu");
-    if (name == Names::eta_) return is_one_of(prior_char, "BbHhMmZz");
-    if (name == Names::delta_ || name == Names::lambda_) return prior_char == "c";
-    return false;
+    switch (letter) {
+        case TextItem::pi:
+            return is_one_of(prior_char[0], "AaEeIiOoUu");
+        case TextItem::eta:
+            return is_one_of(prior_char[0], "BbHhMmZz");
+        case TextItem::delta:
+        case TextItem::lambda:
+            return prior_char[0] == 'c';
+        default:
+            return false;
+    }
 }
 
-/// Whether the name is a head before that character; none where it ends the text.
-bool is_head(const std::string& name, std::string_view next_char) {
-    if (next_char.empty() || is_one_of(next_char, "-,$()'*!HRS:")) return false;
+/// Whether the letter's name is a head before that character; none where it ends the text.
+bool is_head(TextItem::GreekSymbol letter, std::string_view next_char) {
+    if (next_char.empty() || is_one_of(next_char[0], "-,$()'*!HRS:")) return false;
     // A coordinating atom may follow kappa at once.
-    return name != Names::kappa_ || !is_one_of(next_char, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    return letter != TextItem::kappa || next_char[0] < 'A' || next_char[0] > 'Z';
 }
 
 }  // namespace
@@ -86,41 +89,37 @@ void TevoChemicalNameStyleFinder::invisible(std::vector<StringSlice>& out) const
 }
 
 void TevoChemicalNameStyleFinder::greek(std::vector<GreekSlice>& out) const {
-    struct Hit {
-        unsigned int name, from, to;
-    };
     const std::string_view name_text = text();
     const GreekNameScanner& names = scanner();
-    std::vector<Hit> hits;
+    const auto first = static_cast<std::ptrdiff_t>(out.size());
     // A name is not looked for inside its own last occurrence, whether that was a letter or not.
     std::array<unsigned int, TextItem::clambda> next_allowed;  // of those seen: most texts have few
     std::uint32_t seen = 0;
     names.scan(name_text, [&](unsigned int i, unsigned int pos) {
         if ((seen >> i & 1) != 0 && pos < next_allowed[i]) return;
         seen |= std::uint32_t{1} << i;
-        const std::string& name = names.name(i);
-        const unsigned int end = pos + length_of(name);
+        const TextItem::GreekSymbol letter = names.symbol(i);
+        const unsigned int end = pos + names.length(i);
         next_allowed[i] = end;
-        if (is_tail(name, name_text.substr(pos > 0 ? pos - 1 : 0, pos > 0 ? 1 : 0))) return;
-        if (is_head(name, name_text.substr(end, 1))) return;
-        hits.push_back({i, pos, end});
+        if (is_tail(letter, name_text.substr(pos > 0 ? pos - 1 : 0, pos > 0 ? 1 : 0))) return;
+        if (is_head(letter, name_text.substr(end, 1))) return;
+        out.emplace_back(pos, end, letter);
     });
-    std::sort(hits.begin(), hits.end(), [](const Hit& a, const Hit& b) {
-        return a.name != b.name ? a.name < b.name : a.from < b.from;
+    std::sort(out.begin() + first, out.end(), [&](const GreekSlice& a, const GreekSlice& b) {
+        const unsigned int a_name = names.index(a.symbol()), b_name = names.index(b.symbol());
+        return a_name != b_name ? a_name < b_name : a.from() < b.from();
     });
-    out.reserve(out.size() + hits.size());
-    for (const Hit& hit : hits) out.emplace_back(hit.from, hit.to, names.symbol(hit.name));
 }
 
 bool TevoChemicalNameStyleFinder::greek_fragment(const std::string& name,
                                                  const std::string& prior_char) const {
     if (prior_char.size() > 1) throw std::runtime_error("illegal 'prior_char' length");
-    return is_tail(name, prior_char);
+    return is_tail(scanner().symbol_of(name), prior_char);
 }
 
 bool TevoChemicalNameStyleFinder::word_fragment(const std::string& name,
                                                 const std::string& /*prior_char*/,
                                                 const std::string& next_char) const {
     if (next_char.size() > 1) throw std::runtime_error("illegal 'next_char' length");
-    return is_head(name, next_char);
+    return is_head(scanner().symbol_of(name), next_char);
 }

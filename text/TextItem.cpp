@@ -103,7 +103,7 @@ void TextItem::create_input_text_styles() {
     const THandle<Finder>& finder = content_->finder;
     finder->set_text(content_->text);
 
-    std::vector<StringSlice>& slices = content_->scratch;
+    std::vector<StringSlice>& slices = content_->slices;
     const auto create_plain = [&](void (Finder::*query)(std::vector<StringSlice>&) const,
                                   void (TextItem::*create)(unsigned int, unsigned int)) {
         slices.clear();
@@ -115,9 +115,11 @@ void TextItem::create_input_text_styles() {
     create_plain(&Finder::superscripts, &TextItem::create_superscript);
     create_plain(&Finder::overstrike, &TextItem::create_overstrike);
     create_plain(&Finder::invisible, &TextItem::create_invisible);
-    create_each(*finder, &Finder::greek, [this](const GreekSlice& slice) {
-        create_greek(slice.from(), slice.to(), slice.symbol());
-    });
+    content_->letters.clear();
+    finder->greek(content_->letters);
+    for (const GreekSlice& letter : content_->letters) {
+        create_greek(letter.from(), letter.to(), letter.symbol());
+    }
     create_plain(&Finder::bold, &TextItem::create_bold);
     create_plain(&Finder::italic, &TextItem::create_italic);
     create_each(*finder, &Finder::replacement_text, [this](const ReplacementTextSlice& slice) {

@@ -21,7 +21,6 @@ public:
     void scan(std::string_view text, Found found) const {
         for (std::size_t at = next_candidate(text, 0); at < text.size();
              at = next_candidate(text, at + 1)) {
-            if (text[at] < 'a' || text[at] > 'z') continue;
             const std::uint64_t characters = characters_at(text, at);
             const auto letter = static_cast<unsigned int>(text[at] - 'a');
             for (unsigned int i = first_name_[letter]; i < first_name_[letter + 1]; ++i) {
@@ -31,13 +30,17 @@ public:
         }
     }
 
-    /// The name of that index, names being in ascending byte order, and its symbol.
+    /// Of the name of that index, names being in ascending byte order: its length and its symbol.
     /// @{
-    const std::string& name(unsigned int index) const {
-        return vocabulary_.tevo_chemical_name_greek()[index];
-    }
+    unsigned int length(unsigned int index) const { return lengths_[index]; }
     TextItem::GreekSymbol symbol(unsigned int index) const { return symbols_[index]; }
     /// @}
+    /// The index of the letter's name.
+    unsigned int index(TextItem::GreekSymbol symbol) const { return indices_[symbol]; }
+    /// The letter of that name, or no_symbol.
+    TextItem::GreekSymbol symbol_of(const std::string& name) const {
+        return vocabulary_.greek_symbol(name);
+    }
 
 private:
     struct PackedName {
@@ -63,7 +66,9 @@ private:
 
     TevoChemicalNameToTextItemGreek vocabulary_;
     std::array<PackedName, TextItem::clambda> packed_names_{};
+    std::array<unsigned char, TextItem::clambda> lengths_{};
     std::array<TextItem::GreekSymbol, TextItem::clambda> symbols_{};
+    std::array<unsigned char, TextItem::clambda + 1> indices_{};
     std::array<unsigned char, 27> first_name_{};       // of each letter from a to z, and the end
     std::array<std::uint32_t, 256> second_letters_{};  // by the first, each a bit of its low bits
 };

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "text/GreekSlice.h"
 #include "text/GreekStyle.h"
 #include "text/ReplacementTextStyle.h"
 #include "text/TextItem.h"
@@ -49,5 +50,7 @@ struct TextItem::Content {
     std::vector<THandle<ReplacementTextStyle>> replacement_text_styles;
     StyleRules rules;
     StylePool pool;
-    std::vector<StringSlice> scratch;  // of create_input_text_styles()
+    // Scratch of create_input_text_styles().
+    std::vector<StringSlice> slices;
+    std::vector<GreekSlice> letters;
 };
