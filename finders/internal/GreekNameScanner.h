@@ -47,8 +47,8 @@ private:
         std::uint64_t characters, mask;
     };
 
-    /// The first position from `position` on where the first two characters of some name may stand,
-    /// or the end of the text; passes over none where a name stands.
+    /// The first position from `position` on where the first three characters of some name may
+    /// stand, or the end of the text; passes over none where a name stands.
     std::size_t next_candidate(std::string_view text, std::size_t position) const;
 
     /// The next eight characters of the text, at the end of the text fewer: more than the longest
@@ -69,6 +69,8 @@ private:
     std::array<unsigned char, TextItem::clambda> lengths_{};
     std::array<TextItem::GreekSymbol, TextItem::clambda> symbols_{};
     std::array<unsigned char, TextItem::clambda + 1> indices_{};
-    std::array<unsigned char, 27> first_name_{};       // of each letter from a to z, and the end
-    std::array<std::uint32_t, 256> second_letters_{};  // by the first, each a bit of its low bits
+    std::array<unsigned char, 27> first_name_{};  // of each letter from a to z, and the end
+    // By the first letter of names, each a bit of its low bits; where a name has two, any third.
+    std::array<std::uint32_t, 256> second_letters_{};
+    std::array<std::uint32_t, 256> third_letters_{};
 };
