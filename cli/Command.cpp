@@ -2,9 +2,8 @@
 
 Command::~Command() = default;
 
-void Command::add_to(CLI::App& program, Choices& choices) {
-    command_ = add_command(program);
-    add_options(*command_, choices);
-}
+void Command::add_to(CLI::App& program) { command_ = add_command(program); }
+
+void Command::add_options(Choices& choices) { add_options(*command_, choices); }
 
 void Command::add_options(CLI::App& /*command*/, Choices& /*choices*/) {}

@@ -19,8 +19,14 @@ public:
     Command& operator=(const Command&) = delete;
     virtual ~Command();
 
-    /// Adds the command and its options to the program.
-    void add_to(CLI::App& program, Choices& choices);
+    /// Adds the command to the program, without options.
+    void add_to(CLI::App& program);
+    /// Adds its options, with what they may be to `choices`.
+    void add_options(Choices& choices);
+    /// Its name.
+    std::string name() const { return command_->get_name(); }
+    /// Whether it tells of the options of all.
+    virtual bool tells_of_all() const { return false; }
     /// Whether the arguments that were parsed ask for it.
     bool is_chosen() const { return command_->parsed(); }
     /// Does it; returns the exit status. Throws what it cannot go on after.

@@ -24,6 +24,8 @@ public:
         return exit_success;
     }
 
+    bool tells_of_all() const override { return true; }
+
 private:
     CLI::App* add_command(CLI::App& program) override {
         program_ = &program;

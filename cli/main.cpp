@@ -8,6 +8,7 @@
 #include <cstring>
 #include <exception>
 #include <functional>
+#include <span>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -35,6 +36,20 @@ Commands all_commands() {
         commands.push_back(make());
     }
     return commands;
+}
+
+/// Adds the options of the commands that the arguments name: those of all take as long as the
+/// program's start.
+void add_options(const Commands& commands, std::span<char* const> arguments, Choices& choices) {
+    const auto is_named = [arguments](const auto& command) {
+        return std::count(arguments.begin(), arguments.end(), command->name()) != 0;
+    };
+    const bool all = std::any_of(commands.begin(), commands.end(), [&](const auto& command) {
+        return command->tells_of_all() && is_named(command);
+    });
+    for (const auto& command : commands) {
+        if (all || is_named(command)) command->add_options(choices);
+    }
 }
 
 /// Runs a command; `trouble` is the exit status when it cannot go on.
@@ -119,7 +134,8 @@ int run(int argc, char** argv) {
     program.require_subcommand(1);
     Choices choices;
     const Commands commands = all_commands();
-    for (const auto& command : commands) command->add_to(program, choices);
+    for (const auto& command : commands) command->add_to(program);
+    add_options(commands, std::span(argv, static_cast<std::size_t>(argc)), choices);
     try {
         parse_as_they_are(program, argc, argv);
     } catch (const CLI::ParseError& error) {

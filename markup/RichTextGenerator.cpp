@@ -9,7 +9,7 @@
 #include "host/VectorOutput.h"
 #include "markup/RichTextTagFactory.h"
 #include "markup/TextItemToOtherGreek.h"
-#include "markup/internal/sort_runs.h"
+#include "text/internal/sort_runs.h"
 #include "markup/internal/style_starts.h"
 #include "text/GreekStyle.h"
 #include "text/Position.h"
@@ -172,7 +172,7 @@ std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
     Pass pass(*this, data);
     const std::string_view text = data.characters();
     const unsigned int n = length_of(text);
-    pass.result.reserve(n + 16 * data.styles().size() + 8 * data.greek().size());
+    pass.result.reserve(n + 16 * (data.styles().size() + 1) + 8 * data.greek().size());
     // Each turn stands where something begins or ends and goes on to the next such position.
     for (unsigned int i = 0;;) {
         append_closing_tags(pass.result, i);

@@ -2,15 +2,20 @@
 
 #include <iosfwd>
 #include <string>
+#include <utility>
 
 #include "text/TextAtomProperty.h"
 
 /// A run of text inside which no style begins or ends, and what is in force over it.
 class TextAtom {
 public:
-    /// Copies both.
+    /// Copies both, or takes the text.
+    /// @{
     TextAtom(const std::string& text, const TextAtomProperty& property)
         : text_(text), property_(property) {}
+    TextAtom(std::string&& text, const TextAtomProperty& property)
+        : text_(std::move(text)), property_(property) {}
+    /// @}
 
     /// The characters as they stand in the item, whatever is shown in their place.
     std::string text() const { return text_; }

@@ -15,6 +15,8 @@ public:
 
     /// A copy of what is in force now.
     TextAtomProperty text_atom_property() const { return property_; }
+    /// What is in force until the next change.
+    const TextAtomProperty& property() const { return property_; }
 
     /// A style of that kind begins; its property is set, and set back to the default where one
     /// ends, whether or not one had begun.

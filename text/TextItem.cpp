@@ -1,10 +1,11 @@
 #include "text/TextItem.h"
 
 #include <algorithm>
+#include <compare>
+#include <cstdint>
 #include <ostream>
 #include <stdexcept>
 #include <string_view>
-#include <tuple>
 #include <utility>
 
 #include "finders/InputTextStyleFinder.h"
@@ -22,38 +23,50 @@
 #include "text/TextAtomPropertyBuilder.h"
 #include "text/VerticalAlignStyle.h"
 #include "text/internal/TextItemContent.h"
+#include "text/internal/sort_runs.h"
 
 namespace {
 
 constexpr char bad_line_length[] = "TextItem line length < zero error";
 
-/// One end of a style, where it switches its property on or off.
-struct Boundary {
-    unsigned int position;
-    bool begins;
-    const TextItemStyle* style;
+/// One end of a style, where it switches its property on or off: a number that sorts by position,
+/// the ends before the beginnings, and in order of creation.
+class Boundary {
+public:
+    Boundary() = default;
+    Boundary(unsigned int position, bool begins, std::size_t style)
+        : key_(std::uint64_t{position} << 32 | std::uint64_t{begins} << 31 | style) {}
 
-    void apply(TextAtomPropertyBuilder& builder) const {
-        if (begins) {
-            style->text_atom_begin(builder);
+    unsigned int position() const { return static_cast<unsigned int>(key_ >> 32); }
+    void apply(const std::vector<THandle<TextItemStyle>>& styles,
+               TextAtomPropertyBuilder& builder) const {
+        const TextItemStyle& style = *styles[key_ & (most_styles - 1)];
+        if ((key_ & most_styles) != 0) {
+            style.text_atom_begin(builder);
         } else {
-            style->text_atom_end(builder);
+            style.text_atom_end(builder);
         }
     }
+
+    static constexpr std::uint64_t most_styles = std::uint64_t{1} << 31;
+
+    friend auto operator<=>(const Boundary&, const Boundary&) = default;
+
+private:
+    std::uint64_t key_ = 0;
 };
 
-/// By position, the ends before the beginnings, and in order of creation. Empty styles never end.
+/// All ends in their order. Empty styles never end.
 std::vector<Boundary> sorted_boundaries(const std::vector<THandle<TextItemStyle>>& styles) {
+    if (styles.size() > Boundary::most_styles) throw std::length_error("too many styles error");
     std::vector<Boundary> boundaries;
     boundaries.reserve(2 * styles.size());
-    for (const auto& style : styles) {
-        boundaries.push_back({style->from(), true, style.get()});
-        if (style->from() != style->to()) boundaries.push_back({style->to(), false, style.get()});
+    for (std::size_t i = 0; i < styles.size(); ++i) {
+        const StringSlice& slice = styles[i]->slice();
+        boundaries.emplace_back(slice.from(), true, i);
+        if (!slice.empty()) boundaries.emplace_back(slice.to(), false, i);
     }
-    std::stable_sort(boundaries.begin(), boundaries.end(),
-                     [](const Boundary& a, const Boundary& b) {
-                         return std::tie(a.position, a.begins) < std::tie(b.position, b.begins);
-                     });
+    sort_runs(boundaries);
     return boundaries;
 }
 
@@ -215,17 +228,18 @@ std::vector<TextAtom> TextItem::atomize() const {
     const std::string_view text(content_->text.c_str(), end);  // an empty text shows its NUL
     TextAtomPropertyBuilder builder{TextAtomProperty()};
     std::vector<TextAtom> atoms;
+    atoms.reserve(boundaries.size() + 1);
     unsigned int run = 0;
     for (const Boundary& boundary : boundaries) {
-        if (boundary.position >= end) break;
-        if (boundary.position > run) {
-            atoms.emplace_back(std::string(text.substr(run, boundary.position - run)),
-                               builder.text_atom_property());
-            run = boundary.position;
+        const unsigned int position = boundary.position();
+        if (position >= end) break;
+        if (position > run) {
+            atoms.emplace_back(std::string(text.substr(run, position - run)), builder.property());
+            run = position;
         }
-        boundary.apply(builder);
+        boundary.apply(content_->styles, builder);
     }
-    atoms.emplace_back(std::string(text.substr(run)), builder.text_atom_property());
+    atoms.emplace_back(std::string(text.substr(run)), builder.property());
     return atoms;
 }
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "markup/Utf8.h"
-#include "markup/internal/sort_runs.h"
+#include "text/internal/sort_runs.h"
 #include "text/Position.h"
 #include "text/TextItemStyle.h"
 
