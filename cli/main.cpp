@@ -8,6 +8,7 @@
 #include <cstring>
 #include <exception>
 #include <functional>
+#include <new>
 #include <span>
 #include <sstream>
 #include <string>
@@ -59,6 +60,8 @@ int guarded(int trouble, const std::function<int()>& command) {
     } catch (const std::system_error& error) {
         // That the reader has seen enough and gone is not reported.
         if (error.code().value() != EPIPE) report(error.what());
+    } catch (const std::bad_alloc&) {
+        report("out of memory");
     } catch (const std::exception& error) {
         report(error.what());
     }

@@ -14,6 +14,8 @@ void EditSession::replace(std::string bytes) {
 
 void EditSession::apply(Splices change) {
     if (change.empty()) return;
+    // Nothing may fail behind the replacement.
+    if (done_ == changes_.capacity()) changes_.reserve(2 * done_ + 1);
     replace(spliced(*bytes_, change));
     changes_.resize(done_++);
     changes_.push_back(std::move(change));

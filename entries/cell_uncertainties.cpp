@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <exception>
 #include <gemmi/cellred.hpp>
 #include <gemmi/unitcell.hpp>
+#include <stdexcept>
 
 namespace {
 
@@ -97,7 +97,7 @@ std::array<double, 6> reduced_cell_uncertainties(const Cell& cell, char centring
             return parameters_between(result);
         };
         return propagated<6>(cell, reduced);
-    } catch (const std::exception&) {
+    } catch (const std::runtime_error&) {
         return {};  // no such centring
     }
 }

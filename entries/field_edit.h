@@ -28,8 +28,9 @@ FieldWriting field_writing(std::string_view label);
 /// own form, as show tells it; empty: nothing, "?" in the file. Only items whose part of the text
 /// is another are changed; what is missing is added. Lists are changed row by row; authors may
 /// also stand between semicolons, as files write them: "Smith, John B.; Jones, A.". Throws
-/// FieldRefused and UnwritableText, and `edits` is then as it was. Returns the block of what it
-/// changes where entries have that in common, else nothing.
+/// FieldRefused and UnwritableText, and `edits` is then as it was; where memory ends, some of its
+/// changes may be done, and `edits` is no longer of use. Returns the block of what it changes where
+/// entries have that in common, else nothing.
 std::optional<std::size_t> edit_field(const EntryReader& entries, std::size_t index,
                                       std::string_view label, const std::string& text,
                                       CifEdits& edits);

@@ -4,6 +4,7 @@
 #include "entries/cif_tags.h"
 #include "entries/cif_text.h"
 #include "entries/field_items.h"
+#include "entries/pass_on_bad_alloc.h"
 #include "entries/quantities.h"
 #include "fields/LMRFieldNames.h"
 
@@ -70,6 +71,7 @@ std::string read_name(BlockReader& block, const BlockReader::Value& name, std::s
         block.note_doubts(name, text);
         return text.tevo();
     } catch (const std::exception& error) {
+        pass_on_bad_alloc(error);
         block.add_problem(name, "lone-mark", std::string(error.what()) + " in");
         return "";
     }

@@ -1,7 +1,6 @@
 #include "entries/symmetry_operations.h"
 
 #include <algorithm>
-#include <exception>
 #include <stdexcept>
 
 namespace {
@@ -9,14 +8,14 @@ namespace {
 constexpr std::size_t longest_operation = 100;  // in characters
 constexpr std::size_t longest_hall_symbol = 100;
 
-/// An operation such as "-x,y+1/2,z"; throws where it is none. The sums that gemmi makes of
-/// long numbers would overflow.
+/// An operation such as "-x,y+1/2,z"; throws as gemmi does where it is none. The sums that
+/// gemmi makes of long numbers would overflow.
 gemmi::Op operation(const std::string& text) {
     std::size_t digits = 0;
     for (const char c : text) {
         digits = c >= '0' && c <= '9' ? digits + 1 : 0;
         if (digits > 2 || text.size() > longest_operation) {
-            throw std::invalid_argument("no symmetry operation");
+            throw std::runtime_error("no symmetry operation");
         }
     }
     return gemmi::parse_triplet(text);
@@ -28,7 +27,7 @@ Operations operations_of_hall_symbol(const std::string& symbol) {
     if (symbol.empty() || symbol.size() > longest_hall_symbol) return {};
     try {
         return gemmi::symops_from_hall(symbol.c_str()).all_ops_sorted();
-    } catch (const std::exception&) {
+    } catch (const std::runtime_error&) {
         return {};
     }
 }
@@ -37,7 +36,7 @@ Operations operations_of_list(const std::vector<std::string>& texts) {
     Operations operations;
     try {
         for (const std::string& text : texts) operations.push_back(operation(text).wrap());
-    } catch (const std::exception&) {
+    } catch (const std::runtime_error&) {
         return {};
     }
     std::sort(operations.begin(), operations.end());

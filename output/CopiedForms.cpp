@@ -49,15 +49,18 @@ std::string CopiedForms::of(const TextItem& item, std::string_view shown) const 
         !may_begin_list(shown)) {
         return {};
     }
-    nlohmann::ordered_json forms;
-    std::string text;
+    // Not as an object of nlohmann's: to let go of one takes memory, and without any it ends the
+    // program.
+    std::string forms, text;
     for (const auto& [name, generator] : generators_) {
         std::string form = item.mark_up_text(*generator);
         if (name == unicode) text = form;
         const bool is_known = name == unicode ? is_plain && form == shown
                               : name == html5 ? form == shown && is_kept_by_browsers(shown)
                                               : form == text;
-        if (!is_known) forms[name] = std::move(form);
+        if (is_known) continue;
+        forms.append(forms.empty() ? "{\"" : ",\"").append(name).append("\":");
+        forms += harmless_json(std::move(form), false);
     }
-    return forms.empty() ? std::string() : harmless_json(forms, false);
+    return forms.empty() ? forms : forms + '}';
 }

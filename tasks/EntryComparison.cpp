@@ -4,6 +4,8 @@
 #include <exception>
 #include <utility>
 
+#include "entries/pass_on_bad_alloc.h"
+
 namespace {
 
 /// Compares a field of which either side has a text.
@@ -45,6 +47,7 @@ EntryComparison::EntryComparison(const EntryTexts& left, const EntryTexts& right
                 same && (field.verdict == Verdict::equal || field.verdict == Verdict::equivalent);
             if (all || field.verdict != Verdict::equal) fields.push_back(std::move(field));
         } catch (const std::exception& error) {
+            pass_on_bad_alloc(error);
             Problem& problem = problems.emplace_back();
             problem.block = left.block;
             problem.other_block = right.block;

@@ -8,6 +8,7 @@
 
 #include "entries/CodedText.h"
 #include "entries/field_edit.h"
+#include "entries/pass_on_bad_alloc.h"
 #include "markup/RichTextTarget.h"
 #include "tasks/EntryFields.h"
 #include "tasks/Losses.h"
@@ -33,7 +34,8 @@ TextItem item_of(const Source& kind, const THandle<InputTextStyleFinder>& finder
                  const std::string& text) {
     try {
         return {finder, text};
-    } catch (const std::exception&) {
+    } catch (const std::exception& error) {
+        pass_on_bad_alloc(error);
         throw std::invalid_argument(std::string("expected ") + kind.help);
     }
 }
@@ -70,6 +72,7 @@ void EntryEditor::attempt(std::size_t index, const Field& field, const Edit& edi
     try {
         edit();
     } catch (const std::exception& error) {
+        pass_on_bad_alloc(error);
         problems_.resize(noted);
         problems_.push_back(problem_of(index, field));
         problems_.back().what = error.what();
@@ -77,8 +80,11 @@ void EntryEditor::attempt(std::size_t index, const Field& field, const Edit& edi
 }
 
 const CifEntry& EntryEditor::entry(std::size_t index) {
-    if (index_ != index) entry_.emplace(entries_[index]);
-    index_ = index;
+    if (index_ != index) {
+        index_.reset();  // reading may fail
+        entry_.emplace(entries_[index]);
+        index_ = index;
+    }
     return *entry_;
 }
 

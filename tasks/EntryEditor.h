@@ -14,7 +14,7 @@
 #include "tasks/Source.h"
 
 /// Makes fields of a file's entries say what a user wants. What cannot be done becomes a problem,
-/// and the other edits go on.
+/// and the other edits go on. Only std::bad_alloc comes out, and leaves edits that are of no use.
 class EntryEditor {
 public:
     /// The entries must live on.

@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "entries/pass_on_bad_alloc.h"
 #include "tasks/EntryFinder.h"
 
 EntryFields::EntryFields(const CifEntry& entry, std::span<const Field> wanted,
@@ -21,6 +22,7 @@ EntryFields::EntryFields(const CifEntry& entry, std::span<const Field> wanted,
                     {field.label, field.group, {text.source->make_finder(), text.text}});
             }
         } catch (const std::exception& error) {
+            pass_on_bad_alloc(error);
             problems.push_back(problem_of(entry, field, error));
         }
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "entries/pass_on_bad_alloc.h"
 #include "finders/TextSearchStyleFinder.h"
 #include "tasks/FoundRanges.h"
 #include "tasks/OrderedSearch.h"
@@ -108,6 +109,7 @@ std::vector<EntryFinder::FoundField> EntryFinder::found_fields(
             for (const std::size_t term : found->terms) is_found[term] = true;
             all.push_back(std::move(*found));
         } catch (const std::exception& error) {
+            pass_on_bad_alloc(error);
             problems.push_back(problem_of(entry, field.field, error));
         }
     }
@@ -123,6 +125,7 @@ EntryFields EntryFinder::find(const CifEntry& entry) const {
         try {
             found.fields.push_back(std::move(field).styled());
         } catch (const std::exception& error) {
+            pass_on_bad_alloc(error);
             found.problems.push_back(problem_of(entry, own, error));
         }
     }

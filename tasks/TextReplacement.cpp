@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "entries/pass_on_bad_alloc.h"
 #include "text/Position.h"
 #include "text/TextItem.h"
 
@@ -77,7 +78,8 @@ std::string TextReplacement::with(const std::string& by, const Hidden& hidden) c
 std::string TextReplacement::shown(const std::string& text) const {
     try {
         return DisplayedText(TextItem(kind_.make_finder(), text)).text();
-    } catch (const std::exception&) {
+    } catch (const std::exception& error) {
+        pass_on_bad_alloc(error);
         return text;
     }
 }

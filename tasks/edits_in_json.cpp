@@ -15,7 +15,8 @@ constexpr const char *file_key = "file", *block_key = "block", *fields_key = "fi
 /// Drops what does not count while it is read: it may be much.
 bool counts(int /*depth*/, Json::parse_event_t event, Json& parsed) {
     if (event != Json::parse_event_t::key) return true;
-    const auto is_key = [&](const char* key) { return parsed == key; };
+    const auto& read = parsed.get_ref<const std::string&>();
+    const auto is_key = [&read](const char* key) { return read == key; };
     const auto keys = {file_key, block_key, fields_key, label_key, text_key};
     return std::any_of(keys.begin(), keys.end(), is_key);
 }

@@ -3,8 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <functional>
-#include <iostream>
-#include <new>
 #include <sstream>
 
 #include "finders/CifChemicalNameStyleFinder.h"
@@ -23,57 +21,29 @@
 #include "search/NormalisedString.h"
 #include "search/NumericComparison.h"
 #include "search/SurnameComparison.h"
-#include "tests/Allocations.h"
+#include "tests/robustness/failing_operation.h"
 #include "text/StringSliceReducer.h"
 #include "text/TextAtom.h"
 #include "text/TextItem.h"
 
 namespace {
 
-/// An operation on objects of its own, which tells what it has made.
-using Operation = std::function<std::string()>;
-
-struct Case {
-    std::string name;
-    std::function<Operation()> prepare;
-};
-
-/// Runs the operation with its n-th allocation failing; returns whether it had so many.
-bool run_failing(const Case& c, unsigned int n, bool all_behind, const std::string& expected) {
-    const long before = live_allocations();
-    bool failed = false;
-    {
-        const Operation operation = c.prepare();
-        bool threw = false;
-        fail_allocation(n, all_behind);
-        try {
-            operation();
-        } catch (const std::bad_alloc&) {
-            threw = true;
-        }
-        failed = stop_failing();
-        EXPECT_TRUE(failed || !threw) << c.name;
-        EXPECT_EQ(operation(), expected) << c.name << ", allocation " << n;
-    }
-    EXPECT_EQ(live_allocations(), before) << c.name << " leaks after allocation " << n;
-    return failed;
-}
-
 template <class Finder>
-Case set_text(const std::string& name, const std::string& text) {
-    return {"set_text " + name, [=]() -> Operation {
+FailingCase set_text(const std::string& name, const std::string& text) {
+    return {"set_text " + name, [=]() -> FailingOperation {
                 const auto item = std::make_shared<TextItem>(make_handle<Finder>(), text + text);
                 return [=] {
                     item->set_text(text);
                     std::ostringstream styles;
+                    styles.exceptions(std::ios::badbit);
                     item->print(styles);
                     return styles.str();
                 };
             }};
 }
 
-Case written(const RichTextTarget& target) {
-    return {std::string("write ") + target.name, [&target]() -> Operation {
+FailingCase written(const RichTextTarget& target) {
+    return {std::string("write ") + target.name, [&target]() -> FailingOperation {
                 const auto item = std::make_shared<TextItem>(
                     make_handle<TevoChemicalNameStyleFinder>(),
                     "a long enough name of alpha-D-gluco!2$-kappa$2!N, bis(mu!3$-oxo)");
@@ -89,14 +59,15 @@ Case written(const RichTextTarget& target) {
 
 std::string printed(const std::vector<StringSlice>& slices) {
     std::ostringstream all;
+    all.exceptions(std::ios::badbit);
     for (const StringSlice& slice : slices) all << slice << '\n';
     return all.str();
 }
 
 template <class Search, class... Arguments>
-Case searched(const std::string& name, const std::string& term, const std::string& text,
-              Arguments... arguments) {
-    return {"search " + name, [=]() -> Operation {
+FailingCase searched(const std::string& name, const std::string& term, const std::string& text,
+                     Arguments... arguments) {
+    return {"search " + name, [=]() -> FailingOperation {
                 const auto search = std::make_shared<Search>(arguments...);
                 search->set_search_term(term);
                 return [=] {
@@ -107,9 +78,9 @@ Case searched(const std::string& name, const std::string& term, const std::strin
             }};
 }
 
-std::vector<Case> all_cases() {
+std::vector<FailingCase> all_cases() {
     const std::string authors = "A.B.Smith, C.Jones, D.Nunez-Garcia";
-    std::vector<Case> cases = {
+    std::vector<FailingCase> cases = {
         set_text<TevoChemicalNameStyleFinder>("tevo", "tri-mu!3$-oxo-alpha-kappa$2!N and more"),
         set_text<CifTextStyleFinder>("cif text", "<i>N</i>-\\k~2~ \\'e &lt; \\\\foo ~"),
         set_text<UnicodeTextStyleFinder>("unicode", "x²₃ _{eq} P1\u0305 αβ"),
@@ -119,17 +90,18 @@ std::vector<Case> all_cases() {
         set_text<TevoPublicationStyleFinder>("reference",
                                              "<j>Acta Cryst.</j><v>57</v><y>2001</y><p>1055</p>"),
         {"atomize",
-         []() -> Operation {
+         []() -> FailingOperation {
              const auto item = std::make_shared<TextItem>(
                  make_handle<TevoChemicalNameStyleFinder>(), "alpha-D-gluco!2$-kappa$2!N");
              return [=] {
                  std::ostringstream atoms;
+                 atoms.exceptions(std::ios::badbit);
                  for (const TextAtom& atom : item->atomize()) atoms << atom;
                  return atoms.str();
              };
          }},
         {"highlight",
-         []() -> Operation {
+         []() -> FailingOperation {
              const auto search = make_handle<NumericComparison>(1);
              search->set_search_term("1.5 2.5");
              const auto item = std::make_shared<TextItem>(make_handle<TextSearchStyleFinder>(
@@ -137,12 +109,13 @@ std::vector<Case> all_cases() {
              return [=] {
                  item->set_text("mu!2$ and 2.5");
                  std::ostringstream styles;
+                 styles.exceptions(std::ios::badbit);
                  item->print(styles);
                  return styles.str();
              };
          }},
         {"normalise",
-         []() -> Operation {
+         []() -> FailingOperation {
              return [] {
                  return NormalisedString(StringNormalisationPolicy(0x1C, "x"),
                                          "a text, that is (long) enough to need room")
@@ -150,7 +123,7 @@ std::vector<Case> all_cases() {
              };
          }},
         {"reduce",
-         []() -> Operation {
+         []() -> FailingOperation {
              return [] {
                  StringSliceReducer reducer;
                  for (unsigned int i = 0; i < 9; ++i) reducer.add({2 * i, 2 * i + 3});
@@ -174,6 +147,7 @@ std::vector<Case> all_cases() {
 
 std::string styles_of(const TextItem& item) {
     std::ostringstream styles;
+    styles.exceptions(std::ios::badbit);
     item.print(styles);
     for (const TextAtom& atom : item.atomize()) styles << atom;
     return styles.str();
@@ -182,15 +156,7 @@ std::string styles_of(const TextItem& item) {
 }  // namespace
 
 TEST(AllocationFailure, ComesOutAndTheSameCallThenWorks) {
-    for (const Case& c : all_cases()) {
-        const std::string expected = c.prepare()();
-        for (const bool all_behind : {false, true}) {
-            unsigned int n = 1;
-            while (run_failing(c, n, all_behind, expected)) ++n;
-            if (!all_behind) std::cout << c.name << ": " << n - 1 << " allocations\n";
-            if (HasFailure()) return;
-        }
-    }
+    expect_failures_to_come_out(all_cases());
 }
 
 TEST(AllocationFailure, ACreatorLeavesTheItemAsItWas) {
@@ -209,13 +175,7 @@ TEST(AllocationFailure, ACreatorLeavesTheItemAsItWas) {
         for (unsigned int n = 1;; ++n) {
             TextItem item(make_handle<TevoChemicalNameStyleFinder>(), "0123456789012!3$");
             const std::string before = styles_of(item);
-            bool threw = false;
-            fail_allocation(n, false);
-            try {
-                create(item);
-            } catch (const std::bad_alloc&) {
-                threw = true;
-            }
+            const bool threw = throws_at(n, false, [&] { create(item); });
             if (!stop_failing()) break;
             ASSERT_TRUE(threw) << name;
             ASSERT_EQ(styles_of(item), before) << name << ", allocation " << n;
