@@ -98,12 +98,20 @@ Splices joined(Splices splices, std::string_view line_end) {
 }  // namespace
 
 void CifEdits::set(const CifItem& item, std::size_t row, const std::optional<std::string>& text) {
+    Changes changes;
+    write(item, row, text, changes);
+    take(std::move(changes));
+}
+
+void CifEdits::write(const CifItem& item, std::size_t row, const std::optional<std::string>& text,
+                     Changes& changes) const {
     const CifValue value = item[row];
     const std::pair key(bytes_.begin_of(value.raw), value.raw.size());
     const bool stays =
         text ? !value.is_none() && with_plain_line_ends(*text) == value.content() : value.is_none();
     if (stays) {
-        values_.erase(key);
+        changes.values.erase(key);
+        changes.same.push_back(key);
         return;
     }
     std::string written =
@@ -111,7 +119,14 @@ void CifEdits::set(const CifItem& item, std::size_t row, const std::optional<std
     const bool touches_tag = value.raw.empty() && !CifBytes::is_line_end(written.front());
     if (touches_tag) written = std::string(1, ' ').append(written);
     if (bytes_.touches_comment(bytes_.end_of(value.raw))) written += ' ';
-    values_[key] = std::move(written);
+    changes.values[key] = std::move(written);
+}
+
+/// Needs no memory, so that a change is done as a whole.
+void CifEdits::take(Changes changes) {
+    for (const auto& key : changes.same) values_.erase(key);
+    for (const auto& [key, written] : changes.values) values_.erase(key);
+    values_.merge(changes.values);
 }
 
 CifEdits::Neighbour CifEdits::neighbour_of_new(std::size_t block, std::string_view tag) const {
@@ -122,30 +137,29 @@ CifEdits::Neighbour CifEdits::neighbour_of_new(std::size_t block, std::string_vi
 }
 
 /// Where it would be if the additions before it were in the file already.
-void CifEdits::keep(Addition added, const Neighbour& item) {
+void CifEdits::keep(std::size_t block, Addition added, const Neighbour& item) {
+    Additions& additions = additions_[block];
     added.at = item.end;
-    std::size_t common = item.words_in_common;
-    std::size_t nearest = added.at;
-    auto neighbour = additions_.end();
-    auto first_there = additions_.end();
-    for (auto one = additions_.begin(); one != additions_.end(); ++one) {
-        if (one->block != added.block) continue;
+    std::size_t common = item.words_in_common, nearest = added.at;
+    auto neighbour = additions.end();
+    auto first_there = additions.end();
+    for (auto one = additions.begin(); one != additions.end(); ++one) {
         if (one->tag == added.tag) {
             one->text = std::move(added.text);
             return;
         }
-        if (one->at == added.at && first_there == additions_.end()) first_there = one;
+        if (one->at == added.at && first_there == additions.end()) first_there = one;
         const std::size_t words = common_words(added.tag, one->tag);
         if (words < common || (words == common && one->at < nearest)) continue;
         neighbour = one;
         common = words;
         nearest = one->at;
     }
-    if (neighbour == additions_.end()) {
-        additions_.insert(first_there, std::move(added));
+    if (neighbour == additions.end()) {
+        additions.insert(first_there, std::move(added));
     } else {
         added.at = nearest;
-        additions_.insert(std::next(neighbour), std::move(added));
+        additions.insert(std::next(neighbour), std::move(added));
     }
 }
 
@@ -160,7 +174,7 @@ void CifEdits::add(std::size_t block, std::string_view tag, const std::string& t
     const bool in_next_line = CifBytes::is_line_end(value.front());
     written += in_next_line ? line.substr(0, line.find_last_not_of(" \t") + 1) : line;
     written += value;
-    keep({0, block, in_lower_case(tag), std::move(written)}, neighbour);
+    keep(block, {0, in_lower_case(tag), std::move(written)}, neighbour);
 }
 
 void CifEdits::add(std::size_t block, std::string_view tag, const std::vector<std::string>& texts) {
@@ -181,7 +195,7 @@ void CifEdits::add(std::size_t block, std::string_view tag, const std::vector<st
         if (value.front() == ';') written += line_end;
         written += value;
     }
-    keep({0, block, in_lower_case(tag), std::move(written)}, neighbour);
+    keep(block, {0, in_lower_case(tag), std::move(written)}, neighbour);
 }
 
 /// The last column of a loop, which may have no rows.
@@ -194,28 +208,24 @@ const CifItem& CifEdits::last_column(const CifItem& item) const {
 
 void CifEdits::set_rows(const CifItem& item, std::vector<CifRow> rows) {
     if (rows.empty()) rows.emplace_back();
-    const CifBytes::Values before = values_;
-    try {
-        for (const CifRow& row : rows) {
-            if (!row.old) static_cast<void>(new_row(item, row, bytes_, 0));
-            for (const auto& [column, text] : row.values) {
-                if (row.old) set(*column, *row.old, text);
-            }
+    Changes changes;
+    for (const CifRow& row : rows) {
+        if (!row.old) static_cast<void>(new_row(item, row, bytes_, 0));
+        for (const auto& [column, text] : row.values) {
+            if (row.old) write(*column, *row.old, text, changes);
         }
-        const bool is_one_value = !item.in_loop() && rows.size() == 1;
-        if (is_one_value && !rows[0].old) {
-            set(item, 0, rows[0].values.empty() ? std::nullopt : rows[0].values[0].second);
-        }
-        if (is_one_value) {
-            loops_.erase(item.origin());
-        } else {
-            const bool is_empty = item.size() == 0;  // rows go behind its tags then
-            loops_[item.origin()] = {is_empty ? &last_column(item) : &item, std::move(rows)};
-        }
-    } catch (...) {
-        values_ = before;
-        throw;
     }
+    const bool is_one_value = !item.in_loop() && rows.size() == 1;
+    if (is_one_value && !rows[0].old) {
+        write(item, 0, rows[0].values.empty() ? std::nullopt : rows[0].values[0].second, changes);
+    }
+    if (is_one_value) {
+        loops_.erase(item.origin());
+    } else {
+        const CifItem& column = item.size() == 0 ? last_column(item) : item;  // rows go behind it
+        loops_.insert_or_assign(item.origin(), Loop{&column, std::move(rows)});
+    }
+    take(std::move(changes));
 }
 
 Splices CifEdits::splices() const {
@@ -229,7 +239,9 @@ Splices CifEdits::splices() const {
         const auto& [begin, size] = place;
         all.push_back({begin, std::string(bytes_.all().substr(begin, size)), written});
     }
-    for (const Addition& addition : additions_) all.push_back({addition.at, "", addition.text});
+    for (const auto& [block, additions] : additions_) {
+        for (const Addition& added : additions) all.push_back({added.at, "", added.text});
+    }
     // What is added at a place stands before what is replaced from there on.
     std::stable_sort(all.begin(), all.end(), [](const Splice& a, const Splice& b) {
         return a.from != b.from ? a.from < b.from : a.before.empty() && !b.before.empty();

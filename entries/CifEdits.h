@@ -46,9 +46,18 @@ private:
     };
     struct Addition {
         std::size_t at;
-        std::size_t block;
         std::string tag, text;
     };
+    using Additions = std::vector<Addition>;
+
+    /// What becomes of some values: the bytes of those that are another, and those that stay.
+    struct Changes {
+        CifBytes::Values values;
+        std::vector<CifBytes::Values::key_type> same;
+    };
+    void write(const CifItem& item, std::size_t row, const std::optional<std::string>& text,
+               Changes& changes) const;
+    void take(Changes changes);
 
     /// The item behind which one is to be added.
     struct Neighbour {
@@ -56,12 +65,12 @@ private:
         std::size_t words_in_common;
     };
     Neighbour neighbour_of_new(std::size_t block, std::string_view tag) const;
-    void keep(Addition added, const Neighbour& item);
+    void keep(std::size_t block, Addition added, const Neighbour& item);
     const CifItem& last_column(const CifItem& item) const;
 
     const CifDocument& document_;
     CifBytes bytes_;
     CifBytes::Values values_;
-    std::map<const char*, Loop> loops_;  // by their origins
-    std::vector<Addition> additions_;
+    std::map<const char*, Loop> loops_;           // by their origins
+    std::map<std::size_t, Additions> additions_;  // by block, each as they shall stand
 };
