@@ -38,9 +38,11 @@ std::vector<Case> style_cases();
 std::vector<Case> text_cases();
 /// Those that compare texts.
 std::vector<Case> comparison_cases();
+/// Those of entries as users ask for them: found, paired, edited.
+std::vector<Case> task_cases();
 /// Those that edit files.
 std::vector<Case> edit_cases();
 /// Those that check entries.
 std::vector<Case> check_cases();
-/// Those that lay out pages.
-std::vector<Case> page_cases();
+/// Those that lay out pages, reports and lists.
+std::vector<Case> output_cases();

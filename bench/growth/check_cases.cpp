@@ -5,6 +5,7 @@
 
 #include "bench/growth/Case.h"
 #include "checks/CheckedEntry.h"
+#include "checks/check_entries.h"
 #include "entries/EntryReader.h"
 
 namespace {
@@ -37,6 +38,21 @@ constexpr char sites[] =
     "_cell_formula_units_Z 2\n_chemical_formula_sum 'C H'\nloop_\n_atom_site_label\n"
     "_atom_site_fract_x\n_atom_site_fract_y\n_atom_site_fract_z\n";
 
+constexpr char title[] = "data_a\n_publ_section_title\n;";
+
+/// All checks of a file, which ends behind a text field if `head` begins one, and their repairs.
+Case checked_file(const char* name, unsigned int size, const char* head, const char* unit) {
+    return {std::string("check a file: ").append(name), size, [=](unsigned int n) -> Operation {
+                const std::string tail = head == title ? field_end : "";
+                const auto bytes = std::make_shared<std::string>(head + numbered(unit, n) + tail);
+                const auto reader = std::make_shared<EntryReader>(*bytes);
+                return [=] {
+                    static_cast<void>(bytes);
+                    static_cast<void>(repairs_of(check_entries(*reader)));
+                };
+            }};
+}
+
 }  // namespace
 
 std::vector<Case> check_cases() {
@@ -48,5 +64,27 @@ std::vector<Case> check_cases() {
         checked("a long sum", 2000, sum, "C# H NO cl ", field_end, check_formula),
         checked("many moieties", 1000, moiety, "2(C#H(CO)), ", field_end, check_formula),
         checked("sites", 1000, sites, "C# 0 0 .5\n", "", check_atoms),
+        checked("sites of one name", 1000, sites, "C1 0 0 .5 # #\n", "", check_atoms),
+        checked("symmetry operations", 1000,
+                "data_a\n_symmetry_space_group_name_H-M 'P 1'\nloop_\n_symmetry_equiv_pos_as_xyz\n",
+                "x,y+1/#,z\n", "", check_symmetry),
+        checked("a long symbol", 5000, "data_a\n_symmetry_space_group_name_H-M\n;P", " 2_1",
+                field_end, check_symmetry),
+        checked("wavelengths", 1000, "data_a\nloop_\n_diffrn_radiation_wavelength\n", "0.7#\n", "",
+                check_measurement),
+        checked("a long radiation", 5000, "data_a\n_diffrn_radiation_type\n;", "MoK\\a # ",
+                field_end, check_measurement),
+        checked("lengths", 1000, "data_a\nloop_\n_cell_length_a\n", "1.#\n", "", check_cell),
+        checked_file("blocks", 500, "", "data_#\n_cell_length_a x\n"),
+        checked_file("blocks of one name", 500, "", "data_a\n_cell_length_a #x\n"),
+        checked_file("unknown tags", 500, "data_a\n", "_cell_lenght_a_# 1\n"),
+        checked_file("repeated tags", 500, "data_a\n", "_cell_length_a #\n"),
+        checked_file("codes in a line", 2000, title, "\\q\\'z~#"),
+        checked_file("bytes that are not UTF-8", 4000, title, "\xFF"),
+        checked_file("letters beyond ASCII", 2000, title, "\xCE\xB1"),
+        checked_file("values beyond ASCII", 1000, "data_a\nloop_\n_publ_section_title\n",
+                     "'\xCE\xB1 #' "),
+        checked_file("controls", 4000, title, "\x01"),
+        checked_file("lone semicolons", 1000, "data_a\nloop_\n_t\n", " ; #\n"),
     };
 }

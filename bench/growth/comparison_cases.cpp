@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "bench/growth/Case.h"
+#include "comparison/FoldedText.h"
 #include "comparison/TextComparison.h"
 #include "entries/EntryReader.h"
 #include "finders/CifTextStyleFinder.h"
@@ -48,6 +49,19 @@ MakeText authors(bool from_last) {
         }
         return text;
     };
+}
+
+/// A text folded, and each position of it asked for.
+Case folded_text(const char* name, const char* unit) {
+    return {std::string("fold ").append(name), 2000, [unit](unsigned int size) -> Operation {
+                return [text = repeated(unit, size)] {
+                    const FoldedText folded(text, {});
+                    const auto end = static_cast<unsigned int>(folded.text().size());
+                    for (unsigned int i = 0; i < end; ++i) {
+                        static_cast<void>(folded.whole_characters({i, i + 1}));
+                    }
+                };
+            }};
 }
 
 /// Every other character marked, within and beside styles.
@@ -112,6 +126,20 @@ std::vector<Case> comparison_cases() {
                  units("J. ", "(1, 2001), 2")),
         compared("reference", "parentheses", 4000, units("(", "(1, 2001), 2"),
                  units("(", ") (1, 2001), 2")),
+        compared("text", "words", 2000, units("ab cd "), units("ab ce ")),
+        compared(
+            "text", "texts of nothing alike", 2000,
+            [](unsigned int n) { return numbered("#a", n); },
+            [](unsigned int n) { return numbered("b#", n, 7); }),
+        compared("text", "marks", 4000, units("e\xCC\x81"), units("\xC3\xA9")),
+        compared("text", "one letter", 4000, units("a"), units("a", "b")),
+        compared("numbers", "numbers", 2000, units("1.5(2) "), units("1.6(2) ")),
+        compared("numbers", "digits without end", 8000, units("9", "(1)"), units("9", "8(1)")),
+        compared("space-group", "bars", 4000, units("-1", "P"), units("<bar>1</bar>")),
+        folded_text("letters with marks", "A\xCC\x81\xC3\x9F"),
+        folded_text("marks without end", "\xCC\x81\xCC\xA7"),
+        folded_text("blanks and dashes", " \xC2\xA0\t\xE2\x80\x94"),
+        folded_text("bytes that are not UTF-8", "\xC3\xFF"),
         marked("unicode"),
         marked("html5"),
         paired(),

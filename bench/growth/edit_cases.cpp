@@ -62,6 +62,31 @@ Case written(const char* name, unsigned int size, const char* unit) {
             }};
 }
 
+/// As many edits as units, done one after the other, undone and done again.
+Case session() {
+    return {"edits: a session", 10, [](unsigned int n) -> Operation {
+                return [n, bytes = lines + numbered("#\n", 500)] {
+                    EditSession session(bytes);
+                    const auto at = static_cast<std::size_t>(sizeof lines - 1);
+                    for (unsigned int i = 0; i < n; ++i) {
+                        session.apply({{at, i % 2 == 0 ? "0" : "1", i % 2 == 0 ? "1" : "0"}});
+                    }
+                    while (session.undo()) continue;
+                    while (session.redo()) continue;
+                };
+            }};
+}
+
+/// An item that each block lacks.
+void add_to_each(const CifDocument& document, CifEdits& edits) {
+    for (std::size_t block = 0; block < document.blocks(); ++block) edits.add(block, "_a", "new");
+}
+
+/// A loop of as many rows as there are.
+void add_loop(const CifDocument& document, CifEdits& edits) {
+    edits.add(0, "_a", std::vector<std::string>(first_item(document).size(), "of two words"));
+}
+
 }  // namespace
 
 std::vector<Case> edit_cases() {
@@ -71,6 +96,13 @@ std::vector<Case> edit_cases() {
         edited("rows reversed", 1000, lines, "a# b # of #\n", reverse_rows),
         edited("rows of one line reversed", 1000, "data_a loop_ _n ", "# ", reverse_rows),
         edited("rows replaced", 1000, lines, "a# 'b'\n", replace_rows),
+        edited("an item added to each block", 500, "", "data_#\n_b 1\n_c 2\n", add_to_each),
+        edited("a long loop added", 1000, lines, "a# b\n", add_loop),
+        edited("values of many items", 1000, "data_a\n", "_tag_#   'a value' # comment\n",
+               [](const CifDocument& document, CifEdits& edits) {
+                   for (const CifItem* item : document.items(0)) edits.set(*item, 0, "new\ntext");
+               }),
+        session(),
         written("a long line", 20000, "words "),
         written("semicolons", 20000, ";"),
         written("backslashes", 20000, "\\\n"),

@@ -1,5 +1,5 @@
-// Runs every case at one, two and four times its size, and has callgrind count the instructions of
-// each.
+// Runs every case, or those with a part of its name, at one, two and four times its size, and has
+// callgrind count the instructions of each.
 #include <valgrind/callgrind.h>
 
 #include <cstdio>
@@ -24,15 +24,16 @@ void run(const Case& c) {
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
     if (RUNNING_ON_VALGRIND == 0) {
         std::fputs("growth: to be run by callgrind\n", stderr);
         return 2;
     }
-    for (const Case& c : style_cases()) run(c);
-    for (const Case& c : text_cases()) run(c);
-    for (const Case& c : comparison_cases()) run(c);
-    for (const Case& c : edit_cases()) run(c);
-    for (const Case& c : check_cases()) run(c);
-    for (const Case& c : page_cases()) run(c);
+    const std::string part = argc > 1 ? argv[1] : "";
+    for (const auto cases : {style_cases, text_cases, comparison_cases, task_cases, edit_cases,
+                             check_cases, output_cases}) {
+        for (const Case& c : cases()) {
+            if (c.name.find(part) != std::string::npos) run(c);
+        }
+    }
 }

@@ -2,6 +2,8 @@
 
 #include "bench/growth/Case.h"
 #include "cli/TextBlocks.h"
+#include "entries/CifBeginning.h"
+#include "entries/CodedText.h"
 #include "entries/EntryReader.h"
 #include "fuzz/MemoryFile.h"
 #include "fuzz/colliding_names.h"
@@ -95,6 +97,27 @@ void read_entries(const std::string& bytes) {
     for (std::size_t i = 0; i < reader.size(); ++i) static_cast<void>(reader[i]);
 }
 
+/// One block of those bytes.
+void read_block(const std::string& bytes) { read_entries("data_a\n" + bytes); }
+
+/// A text field of as many units.
+auto in_field(const std::string& tag, const std::string& begin, const std::string& unit) {
+    return [=](unsigned int n) { return tag + "\n;" + begin + numbered(unit, n) + "\n;\n"; };
+}
+
+/// A text of codes and characters, in all forms that there are of it.
+Case coded(const std::string& name, const std::string& unit) {
+    return {"codes: " + name, 2000, [unit](unsigned int n) -> Operation {
+                return [text = repeated(unit, n)] {
+                    const CodedText coded(text);
+                    static_cast<void>(CodedText(coded.unicode()).with_codes());
+                    static_cast<void>(CodedText(coded.with_codes()).in_utf8());
+                    std::vector<Problem> doubts;
+                    coded.append_doubts(doubts);
+                };
+            }};
+}
+
 std::string symmetry_operations(unsigned int n) {
     return "data_x\nloop_\n_space_group_symop_operation_xyz\n" + numbered("#*x,y,z\n", n);
 }
@@ -143,6 +166,62 @@ std::vector<Case> text_cases() {
                 return "data_a\nloop_\n_publ_author_name\n" + repeated("'Li, \\'A. B.'\n", n);
             },
             read_entries),
+        read("repeated tags", 1000, units("_cell_length_a 1\n"), read_block),
+        read("tags", 1000, numbers("_tag_# 1\n"), read_block),
+        read(
+            "columns of one row", 1000,
+            [](unsigned int n) { return "loop_\n" + numbered("_tag_#\n", n) + repeated("1 ", n); },
+            read_block),
+        read("a loop without values", 4000, numbers("loop_\n_tag_#\n"), read_block),
+        read(
+            "sites", 1000,
+            [](unsigned int n) {
+                return "loop_\n_atom_site_label\n_atom_site_fract_x\n" + numbered("C# .1\n", n);
+            },
+            read_block),
+        read(
+            "bonds", 1000,
+            [](unsigned int n) {
+                return "loop_\n_geom_bond_atom_site_label_1\n_geom_bond_atom_site_label_2\n"
+                       "_geom_bond_distance\n" +
+                       numbered("C# C# 1.5(2)\n", n);
+            },
+            read_block),
+        read("folded lines", 4000, in_field("_publ_section_title", "\\\n", "a\\\n"), read_block),
+        read("a long formula", 2000, in_field("_chemical_formula_sum", "", "C# H2 "), read_block),
+        read("brackets of a formula", 4000, in_field("_chemical_formula_moiety", "C", "("),
+             read_block),
+        read("a long number", 8000, in_field("_cell_length_a", "", "9"), read_block),
+        read("a long person's name", 4000, in_field("_publ_author_name", "", "von A.-"),
+             read_block),
+        read("a long group's symbol", 4000,
+             in_field("_symmetry_space_group_name_H-M", "P", " 21/n"), read_block),
+        read("a long Hall symbol", 4000, in_field("_symmetry_space_group_name_Hall", "P", " 2ac"),
+             read_block),
+        read("a long date", 4000, in_field("_journal_date_accepted", "", "2001-"), read_block),
+        read("wrong codes", 500, in_field("_publ_section_title", "", "\\'~^\\q"), read_block),
+        read("names with codes", 500, in_field("_chemical_name_systematic", "", "\\a~2~\\'e-\n"),
+             read_block),
+        read("comments", 8000, units("# nothing\n"), read_block),
+        read(
+            "brackets of version 2", 4000,
+            [](unsigned int n) { return "_a " + repeated("[{'a':", n) + "1" + repeated("}]", n); },
+            [](const std::string& bytes) { read_entries("#\\#CIF_2.0\ndata_a\n" + bytes); }),
+        read(
+            "quotes", 8000, [](unsigned int n) { return "_a '" + repeated("'a", n) + "'"; },
+            read_block),
+        read("what is asked for again and again", 500, numbers("# "),
+             [](const std::string& bytes) {
+                 CifBeginning beginning;
+                 for (std::size_t i = 0; i < bytes.size(); ++i) {
+                     beginning.may_be_cif(std::string_view(bytes).substr(0, i));
+                 }
+             }),
+        coded("plain codes", "\\a"),
+        coded("accents", "\\'e\\\"o"),
+        coded("letters beyond ASCII", "\xCE\xB1\xC3\xA9\xE2\x88\x9E"),
+        coded("scripts", "a~2~^3^"),
+        coded("marks alone", "~^<i>\\"),
         read("blocks with loops", 1000, numbers("data_#\nloop_\n_tag\n1 2\n"), read_entries),
     };
 }
