@@ -168,8 +168,8 @@ void TextOutput::remove() {
 }
 
 bool TextOutput::is_at(const std::string& path) const {
-    struct stat file {
-    }, other{};
+    struct stat file {};
+    struct stat other {};
     return stat(place_.empty() ? "/dev/stdout" : place_.c_str(), &file) == 0 &&
            S_ISREG(file.st_mode) && stat(path == "-" ? "/dev/stdin" : path.c_str(), &other) == 0 &&
            file.st_dev == other.st_dev && file.st_ino == other.st_ino;

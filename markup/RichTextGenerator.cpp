@@ -9,11 +9,11 @@
 #include "host/VectorOutput.h"
 #include "markup/RichTextTagFactory.h"
 #include "markup/TextItemToOtherGreek.h"
-#include "text/internal/sort_runs.h"
 #include "markup/internal/style_starts.h"
 #include "text/GreekStyle.h"
 #include "text/Position.h"
 #include "text/ReplacementTextStyle.h"
+#include "text/internal/sort_runs.h"
 
 using namespace style_starts;
 

@@ -9,7 +9,7 @@ GreekNameScanner::GreekNameScanner() {
         const std::string& name = names[i];
         lengths_[i] = static_cast<unsigned char>(name.size());
         symbols_[i] = vocabulary_.greek_symbol(name);
-        indices_[symbols_[i]] = static_cast<unsigned char>(i);
+        indices_[static_cast<std::size_t>(symbols_[i])] = static_cast<unsigned char>(i);
         packed_names_[i] = {characters_at(name, 0),
                             characters_at(std::string(name.size(), '\xFF'), 0)};
         ++first_name_[static_cast<unsigned int>(name[0] - 'a') + 1];

@@ -36,7 +36,9 @@ public:
     TextItem::GreekSymbol symbol(unsigned int index) const { return symbols_[index]; }
     /// @}
     /// The index of the letter's name.
-    unsigned int index(TextItem::GreekSymbol symbol) const { return indices_[symbol]; }
+    unsigned int index(TextItem::GreekSymbol symbol) const {
+        return indices_[static_cast<std::size_t>(symbol)];
+    }
     /// The letter of that name, or no_symbol.
     TextItem::GreekSymbol symbol_of(const std::string& name) const {
         return vocabulary_.greek_symbol(name);

@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "markup/Utf8.h"
-#include "text/internal/sort_runs.h"
 #include "text/Position.h"
 #include "text/TextItemStyle.h"
+#include "text/internal/sort_runs.h"
 
 namespace {
 
