@@ -1,8 +1,9 @@
-// Runs every case, or those with a part of its name, at one, two and four times its size, and has
-// callgrind count the instructions of each.
+// growth [PART [STEP]]: runs every case, or those with that part in their names and of them every
+// STEP-th, at one, two and four times its size, and has callgrind count the instructions of each.
 #include <valgrind/callgrind.h>
 
 #include <cstdio>
+#include <cstdlib>
 
 #include "bench/growth/Case.h"
 
@@ -30,10 +31,12 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::string part = argc > 1 ? argv[1] : "";
+    const unsigned long step = argc > 2 ? std::strtoul(argv[2], nullptr, 10) : 1;
+    unsigned long number = 0;
     for (const auto cases : {style_cases, text_cases, comparison_cases, task_cases, edit_cases,
                              check_cases, output_cases}) {
         for (const Case& c : cases()) {
-            if (c.name.find(part) != std::string::npos) run(c);
+            if (c.name.find(part) != std::string::npos && number++ % step == 0) run(c);
         }
     }
 }

@@ -175,7 +175,7 @@ TEST(AllocationFailure, ACreatorLeavesTheItemAsItWas) {
         for (unsigned int n = 1;; ++n) {
             TextItem item(make_handle<TevoChemicalNameStyleFinder>(), "0123456789012!3$");
             const std::string before = styles_of(item);
-            const bool threw = throws_at(n, false, [&] { create(item); });
+            const bool threw = throws_at(n, false, [&item, &lay = create] { lay(item); });
             if (!stop_failing()) break;
             ASSERT_TRUE(threw) << name;
             ASSERT_EQ(styles_of(item), before) << name << ", allocation " << n;

@@ -368,7 +368,7 @@ TEST(AllocationFailure, LeavesEditsAsTheyWere) {
         for (unsigned int n = 1;; n += 1 + n / 32) {
             Edited edited;
             const std::string before = edited.state();
-            const bool threw = throws_at(n, false, [&] { change(edited); });
+            const bool threw = throws_at(n, false, [&edited, &make = change] { make(edited); });
             if (!stop_failing()) break;
             if (!threw) continue;
             ASSERT_EQ(edited.state(), before) << name << ", allocation " << n;
