@@ -84,10 +84,11 @@ void check_search(const std::string& term, const std::string& text, const Foldin
     const std::string folded_term = folded(term, folding);
     require(matched == (folded_term == folded(text, folding)),
             "a text matches whose folding is the term's", text);
+    const std::string both = term + " / " + text;
     for (const StringSlice& range : found) {
         require(range.to() <= length_of(text) &&
                     folded_term.find(folded(part_of(text, range), folding)) != std::string::npos,
-                "what is found stands in the term", term + " / " + text);
+                "what is found stands in the term", both);
     }
 }
 

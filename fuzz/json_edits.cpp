@@ -127,7 +127,11 @@ void check_edits(const std::vector<EntryEdit>& edits, Edited& file) {
             require(file.update(index, field, wanted.text) || !is_known,
                     "what was done can be done", seen);
             require(file.bytes() == once, "what was done is done",
-                    seen + "\nfirst\n" + once + "\nthen\n" + file.bytes());
+                    std::string(seen)
+                        .append("\nfirst\n")
+                        .append(once)
+                        .append("\nthen\n")
+                        .append(file.bytes()));
             if (wanted.text.empty() && once != was) {  // else it was the name of the block
                 require(file.text(index, field).empty(), "what is taken away is gone", seen);
             }
