@@ -154,7 +154,7 @@ std::vector<Case> text_cases() {
         read("symmetry operations", 4000, symmetry_operations, read_entries),
         read("blocks", 1000, units("data_a\n"), read_entries),
         read(
-            "blocks with what they have in common", 1000,
+            "blocks with what they have in common", 500,
             [](unsigned int n) {
                 return repeated("data_global\n_journal_year 1999\n", n) +
                        numbers("data_#\n_cell_length_a 1\n")(n);
