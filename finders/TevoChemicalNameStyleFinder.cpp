@@ -75,16 +75,12 @@ void TevoChemicalNameStyleFinder::superscripts(std::vector<StringSlice>& out) co
 }
 
 void TevoChemicalNameStyleFinder::invisible(std::vector<StringSlice>& out) const {
-    const std::size_t first = out.size();
-    subscripts(out);
-    superscripts(out);
-    // Each gives way to its two markers, from the last on, where there is room.
-    const std::size_t scripts = out.size() - first;
-    out.resize(first + 2 * scripts, StringSlice(0, 0));
-    for (std::size_t i = scripts; i-- > 0;) {
-        const StringSlice script = out[first + i];
-        out[first + 2 * i] = StringSlice(script.from() - 1, script.from());
-        out[first + 2 * i + 1] = StringSlice(script.to(), script.to() + 1);
+    std::vector<StringSlice> scripts;
+    subscripts(scripts);
+    superscripts(scripts);
+    for (const StringSlice& script : scripts) {
+        out.emplace_back(script.from() - 1, script.from());
+        out.emplace_back(script.to(), script.to() + 1);
     }
 }
 

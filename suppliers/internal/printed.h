@@ -1,6 +1,7 @@
 #pragma once
 
 #include <charconv>
+#include <ios>
 #include <iterator>
 #include <locale>
 #include <sstream>
@@ -11,6 +12,7 @@
 template <class... Values>
 std::string printed(const Values&... values) {
     std::ostringstream os;
+    os.exceptions(std::ios::badbit);  // lack of memory would cut the text short
     os.imbue(std::locale::classic());
     (os << ... << values);
     return os.str();
