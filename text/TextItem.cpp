@@ -1,7 +1,6 @@
 #include "text/TextItem.h"
 
 #include <algorithm>
-#include <compare>
 #include <cstdint>
 #include <ostream>
 #include <stdexcept>
@@ -50,7 +49,7 @@ public:
 
     static constexpr std::uint64_t most_styles = std::uint64_t{1} << 31;
 
-    friend auto operator<=>(const Boundary&, const Boundary&) = default;
+    friend bool operator<(const Boundary& a, const Boundary& b) { return a.key_ < b.key_; }
 
 private:
     std::uint64_t key_ = 0;

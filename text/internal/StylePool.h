@@ -20,7 +20,8 @@ public:
     /// A handle to a new Style on [from, to).
     template <class Style, class... Payload>
     THandle<Style> make(unsigned int from, unsigned int to, const Payload&... payload) {
-        static_assert(sizeof(Style) <= sizeof(Slot) && alignof(Style) <= alignof(Slot));
+        static_assert(sizeof(Style) <= sizeof(Slot));
+        static_assert(alignof(Style) <= alignof(Slot));
         if (used_ == slots) {
             block_ = make_handle<Block>();
             used_ = 0;
