@@ -27,6 +27,12 @@ bool begins_with(std::string_view tag, std::string_view prefix) {
     return compare_tags(tag.substr(0, prefix.size()), prefix) == 0;
 }
 
+/// In the order of the tags, then of the file, whose items stand in one vector.
+bool stands_before(const CifItem* a, const CifItem* b) {
+    const int order = compare_tags(a->tag(), b->tag());
+    return order != 0 ? order < 0 : a < b;
+}
+
 constexpr std::uint64_t in_each_byte(unsigned char byte) { return byte * 0x0101010101010101U; }
 
 /// Up to eight characters of a tag, which have the same number wherever they are the same to
@@ -64,9 +70,7 @@ CifBlock::CifBlock(std::string_view name, const Items& items) : name_(name) {
     items_.reserve(items.size());
     for (const CifItem* item : items) items_.push_back({hash_of(item->tag()), item});
     std::sort(items_.begin(), items_.end(), [](const Hashed& a, const Hashed& b) {
-        if (a.hash != b.hash) return a.hash < b.hash;
-        const int order = compare_tags(a.item->tag(), b.item->tag());
-        return order != 0 ? order < 0 : a.item < b.item;  // they stand in one vector
+        return a.hash != b.hash ? a.hash < b.hash : stands_before(a.item, b.item);
     });
 }
 
@@ -88,17 +92,27 @@ bool CifBlock::has_any(std::string_view prefix) const {
     });
 }
 
+void CifBlock::sort_by_tags() {
+    by_tags_.reserve(items_.size());
+    for (const Hashed& item : items_) by_tags_.push_back(item.item);
+    std::sort(by_tags_.begin(), by_tags_.end(), stands_before);
+}
+
 CifBlock::Items CifBlock::find_all(std::string_view prefix) const {
     Items found;
-    for (const Hashed& item : items_) {
-        if (!item.item->in_loop() && begins_with(item.item->tag(), prefix)) {
-            found.push_back(item.item);
-        }
+    const auto add = [&](const CifItem* item) {
+        if (!item->in_loop() && begins_with(item->tag(), prefix)) found.push_back(item);
+    };
+    if (by_tags_.empty()) {
+        for (const Hashed& item : items_) add(item.item);
+        std::sort(found.begin(), found.end(), stands_before);
+    } else {
+        auto item = std::lower_bound(by_tags_.begin(), by_tags_.end(), prefix,
+                                     [](const CifItem* known, std::string_view sought) {
+                                         return compare_tags(known->tag(), sought) < 0;
+                                     });
+        for (; item != by_tags_.end() && begins_with((*item)->tag(), prefix); ++item) add(*item);
     }
-    std::sort(found.begin(), found.end(), [](const CifItem* a, const CifItem* b) {
-        const int order = compare_tags(a->tag(), b->tag());
-        return order != 0 ? order < 0 : a < b;
-    });
     const auto end = std::unique(
         found.begin(), found.end(),
         [](const CifItem* a, const CifItem* b) { return compare_tags(a->tag(), b->tag()) == 0; });

@@ -100,10 +100,13 @@ public:
     /// The first item with that tag, or null. Case does not count, and either may have "." for "_".
     /// O(log m) for m items.
     const CifItem* find(std::string_view tag) const;
-    /// Whether tags begin with `prefix`, likewise. O(m), as find_all() without what it finds.
+    /// Makes ready for many questions about prefixes. O(m log m).
+    void sort_by_tags();
+    /// Whether tags begin with `prefix`, likewise. O(m).
     bool has_any(std::string_view prefix) const;
     /// The items that are not in loops and whose tags begin with `prefix`, likewise, in the order
-    /// of the tags; of several with one tag the first.
+    /// of the tags; of several with one tag the first. O(m), and O(log m) and what it finds behind
+    /// sort_by_tags().
     Items find_all(std::string_view prefix) const;
     /// The items whose tag an item before them has already, which CIF forbids, in the order of the
     /// file.
@@ -116,8 +119,9 @@ private:
     };
 
     std::string_view name_;
-    std::vector<Hashed>
-        items_;  // outside save frames, by hashes, then by tags, then as in the file
+    // Outside save frames, by hashes, then by tags, then as in the file.
+    std::vector<Hashed> items_;
+    Items by_tags_;  // the same by tags; empty until they are sorted
 };
 
 /// The structure of a CIF file: blocks, items and values are places in its bytes, which the caller

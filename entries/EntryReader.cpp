@@ -61,6 +61,7 @@ void EntryReader::find_entries() {
     if (!any_crystal) entries_.clear();
     for (const auto& [first, last] : runs) {
         common_.push_back({first, last, document_.common_block(first, last)});
+        common_.back().block.sort_by_tags();  // each entry will ask it
     }
     std::size_t last_common = none;
     for (Place& entry : entries_) {

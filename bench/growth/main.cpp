@@ -1,5 +1,6 @@
 // growth [PART [STEP]]: runs every case, or those with that part in their names and of them every
 // STEP-th, at one, two and four times its size, and has callgrind count the instructions of each.
+#include <malloc.h>
 #include <valgrind/callgrind.h>
 
 #include <cstdio>
@@ -13,6 +14,8 @@ void run(const Case& c) {
     c.prepare(c.size)();  // whatever is made once is made now
     for (const unsigned int size : {c.size, 2 * c.size, 4 * c.size}) {
         const Operation operation = c.prepare(size);
+        malloc_trim(
+            0);  // puts in order now what was given back, and not in the middle of the operation
         static std::string label;  // read after the request has returned
         label = c.name + '/' + std::to_string(size);
         CALLGRIND_ZERO_STATS;
