@@ -139,9 +139,8 @@ Case named() {
 
 Case nearest() {
     return {"nearest word", 200, [](unsigned int n) -> Operation {
-                return [word = std::string(n, 'a')] {
-                    const std::string_view known[] = {"temperature", "aaaaaaaaaaaaaaaaaaaaaaaaa"};
-                    nearest_word(word, known);
+                return [words = std::vector<std::string_view>(n, "aaaabaaaabaaaab")] {
+                    nearest_word("aaaaaaaaaaaaaaa", words);
                 };
             }};
 }
