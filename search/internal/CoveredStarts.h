@@ -11,14 +11,14 @@ class CoveredStarts {
 public:
     /// A start for each run of that length; b is not kept.
     CoveredStarts(std::string_view b, unsigned int run_length)
-        : runs_(b, run_length), starts_(runs_.size()) {}
+        : runs_(b, run_length), a_ends_(runs_.size()), covers_(runs_.size()) {}
 
     /// The first start with that hash, and the one after `j`; no_position at the end.
     unsigned int first(std::uint64_t hash) const { return runs_.first(hash); }
     unsigned int next(unsigned int j) const { return runs_.next(j); }
 
     /// Whether some match covers the start (i, j).
-    bool covered(unsigned int i, unsigned int j) const { return starts_[j].a_end > i; }
+    bool covered(unsigned int i, unsigned int j) const { return a_ends_[j] > i; }
 
     /// The first start of the chain behind the match that covers (i, j). A match that covers one i
     /// covers its whole stretch of b until i leaves it, so the way there is remembered until then.
@@ -37,15 +37,15 @@ public:
     void shift(unsigned int i, unsigned int rows);
 
 private:
-    struct Start {
-        unsigned int a_end = 0;             // the largest of the matches that cover this start,
-        unsigned int b_end = 0;             // and the other end of that match
+    struct Cover {
+        unsigned int b_end = 0;             // the other end of the match that a_ends_ is of
         unsigned int behind = no_position;  // next_behind_cover() while i is below behind_until
         unsigned int behind_until = 0;
-
-        unsigned int rows_from(unsigned int i) const { return a_end > i ? a_end - i : 0; }
     };
 
     EqualRuns runs_;
-    std::vector<Start> starts_;
+    // For each start the largest end of the matches that cover it, which is asked most and stands
+    // apart so that the memory near the processor holds it; and what else is known of that match.
+    std::vector<unsigned int> a_ends_;
+    std::vector<Cover> covers_;
 };
