@@ -10,7 +10,6 @@
 
 #include "cli/EntryFile.h"
 #include "cli/TextOutput.h"
-#include "cli/launch_policy.h"
 #include "entries/Splice.h"
 
 namespace {
@@ -75,14 +74,14 @@ void CheckBatch::write(CheckedFile& checked) {
 }
 
 std::optional<CheckedFile> CheckBatch::next() {
-    while (in_work_.size() < jobs_ && !places_.at_end()) {
+    while (!in_work_.is_full() && !places_.at_end()) {
         auto places = std::make_shared<const std::vector<Place>>(places_.take());
-        in_work_.push_back(std::async(launch_policy(jobs_), [this, places] {
+        in_work_.begin([this, places] {
             Files files;
             files.reserve(places->size());
             for (const Place& place : *places) files.push_back(checked_file(place, wanted_));
             return files;
-        }));
+        });
     }
     if (done_.empty()) {
         if (in_work_.empty()) {
@@ -90,8 +89,7 @@ std::optional<CheckedFile> CheckBatch::next() {
             changed_folders_.clear();
             return std::nullopt;
         }
-        Files files = in_work_.front().get();
-        in_work_.pop_front();
+        Files files = in_work_.take_first();
         std::move(files.begin(), files.end(), std::back_inserter(done_));
     }
     ++given_;

@@ -2,7 +2,6 @@
 
 #include <deque>
 #include <functional>
-#include <future>
 #include <optional>
 #include <set>
 #include <string>
@@ -11,6 +10,7 @@
 #include "checks/check_entries.h"
 #include "cli/EditedFile.h"
 #include "cli/PlaceGroups.h"
+#include "cli/WorkQueue.h"
 
 /// What became of a file that was checked.
 struct CheckedFile {
@@ -36,7 +36,7 @@ public:
 
     /// `jobs` is 1 or more.
     CheckBatch(std::vector<Place> places, unsigned int jobs, Wanted wanted)
-        : places_(std::move(places), jobs), jobs_(jobs), wanted_(std::move(wanted)) {}
+        : places_(std::move(places), jobs), wanted_(std::move(wanted)), in_work_(jobs) {}
     CheckBatch(const CheckBatch&) = delete;
     CheckBatch& operator=(const CheckBatch&) = delete;
     ~CheckBatch();
@@ -56,10 +56,9 @@ private:
     void write(CheckedFile& checked);
 
     PlaceGroups places_;
-    unsigned int jobs_;
     Wanted wanted_;
     std::size_t given_ = 0;
-    std::deque<std::future<Files>> in_work_;
     std::deque<CheckedFile> done_;
     std::set<std::string> changed_folders_;
+    WorkQueue<Files> in_work_;
 };

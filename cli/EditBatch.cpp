@@ -6,7 +6,6 @@
 #include <new>
 #include <utility>
 
-#include "cli/launch_policy.h"
 #include "cli/read_cif.h"
 
 namespace {
@@ -26,7 +25,7 @@ Problem contradiction(Problem problem) {
 }  // namespace
 
 EditBatch::EditBatch(std::vector<Place> places, unsigned int jobs, EditEntries edit)
-    : groups_(std::move(places), jobs), jobs_(jobs), edit_(std::move(edit)) {}
+    : groups_(std::move(places), jobs), edit_(std::move(edit)), in_work_(jobs) {}
 
 EditBatch::~EditBatch() = default;
 
@@ -34,10 +33,7 @@ std::optional<EditBatch::Edited> EditBatch::next() {
     begin_to_edit();
     if (done_.empty()) {
         if (in_work_.empty()) return std::nullopt;
-        std::future<std::vector<Edited>> first = std::move(in_work_.front());
-        in_work_.pop_front();
-        begin_to_edit();
-        std::vector<Edited> all = first.get();
+        std::vector<Edited> all = in_work_.take_first();
         std::move(all.begin(), all.end(), std::back_inserter(done_));
     }
     Edited first = std::move(done_.front());
@@ -84,18 +80,17 @@ void EditBatch::edit(const Place& place, std::size_t number, Edited& done) const
     done.splices = std::move(change.splices);
 }
 
-/// Keeps as many threads at work as there are jobs.
 void EditBatch::begin_to_edit() {
-    while (in_work_.size() < jobs_ && !groups_.at_end()) {
+    while (!in_work_.is_full() && !groups_.at_end()) {
         const std::size_t first = groups_.taken();
         auto places = std::make_shared<const std::vector<Place>>(groups_.take());
-        in_work_.push_back(std::async(launch_policy(jobs_), [this, first, places] {
+        in_work_.begin([this, first, places] {
             std::vector<Edited> all;
             all.reserve(places->size());
             for (std::size_t i = 0; i < places->size(); ++i) {
                 all.push_back(edited((*places)[i], first + i));
             }
             return all;
-        }));
+        });
     }
 }

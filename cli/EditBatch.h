@@ -2,13 +2,13 @@
 
 #include <deque>
 #include <functional>
-#include <future>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/EditedFile.h"
 #include "cli/PlaceGroups.h"
+#include "cli/WorkQueue.h"
 #include "entries/EditSession.h"
 #include "entries/Problem.h"
 
@@ -55,8 +55,7 @@ private:
     void begin_to_edit();
 
     PlaceGroups groups_;
-    unsigned int jobs_;
     EditEntries edit_;
-    std::deque<std::future<std::vector<Edited>>> in_work_;  // in the order of the places
-    std::deque<Edited> done_;                               // before these
+    std::deque<Edited> done_;  // those that stand before the ones in work
+    WorkQueue<std::vector<Edited>> in_work_;
 };

@@ -4,7 +4,6 @@
 #include <optional>
 #include <utility>
 
-#include "cli/launch_policy.h"
 #include "cli/report.h"
 
 namespace {
@@ -14,7 +13,11 @@ constexpr std::size_t entries_of_a_thread = 16;  // enough to be worth one
 }  // namespace
 
 EntryBatch::EntryBatch(std::vector<Place> places, unsigned int jobs, ProcessEntries process)
-    : places_(std::move(places), jobs), jobs_(jobs), process_(std::move(process)) {}
+    : places_(std::move(places), jobs),
+      jobs_(jobs),
+      process_(std::move(process)),
+      openings_(jobs),
+      in_work_(jobs) {}
 
 EntryBatch::~EntryBatch() = default;
 
@@ -48,26 +51,22 @@ EntryBatch::Opened EntryBatch::open(Place place) const {
     }
 }
 
-/// Keeps as many threads opening files as there are jobs.
 void EntryBatch::begin_to_open() {
-    while (openings_.size() < jobs_ && !places_.at_end()) {
+    while (!openings_.is_full() && !places_.at_end()) {
         auto places = std::make_shared<std::vector<Place>>(places_.take());
         being_opened_ += places->size();
-        openings_.push_back(std::async(launch_policy(jobs_), [this, places] {
+        openings_.begin([this, places] {
             std::vector<Opened> all;
             for (Place& place : *places) all.push_back(open(std::move(place)));
             return all;
-        }));
+        });
     }
 }
 
 /// Takes the next file, and what became of its first entries; false where there is none.
 bool EntryBatch::open_next(ProcessedEntries& done) {
     if (opened_.empty()) {
-        std::future<std::vector<Opened>> first = std::move(openings_.front());
-        openings_.pop_front();
-        begin_to_open();
-        for (Opened& opened : first.get()) opened_.push_back(std::move(opened));
+        for (Opened& opened : openings_.take_first()) opened_.push_back(std::move(opened));
         being_opened_ -= opened_.size();
     }
     Opened opened = std::move(opened_.front());
@@ -86,9 +85,7 @@ bool EntryBatch::next_of_file(ProcessedEntries& done) {
     try {
         begin_to_process();
         if (!in_work_.empty()) {
-            std::future<ProcessedEntries> first = std::move(in_work_.front());
-            in_work_.pop_front();
-            done = first.get();
+            done = in_work_.take_first();
             return true;
         }
         if (file_->problem()) {
@@ -103,14 +100,12 @@ bool EntryBatch::next_of_file(ProcessedEntries& done) {
     return false;
 }
 
-/// Keeps as many entries of the file in work as there are jobs. They are read here, in turn: for
-/// what it answers, a file keeps notes.
+/// The entries of the file are read here, in turn: for what it answers, a file keeps notes.
 void EntryBatch::begin_to_process() {
-    while (in_work_.size() < jobs_) {
+    while (!in_work_.is_full()) {
         auto entries = std::make_shared<const std::vector<CifEntry>>(read_entries(*file_));
         if (entries->empty()) return;
-        in_work_.push_back(std::async(
-            launch_policy(jobs_), [this, entries] { return process_(file_->path(), *entries); }));
+        in_work_.begin([this, entries] { return process_(file_->path(), *entries); });
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include <deque>
 #include <functional>
-#include <future>
 #include <memory>
 #include <span>
 #include <string>
@@ -10,6 +9,7 @@
 
 #include "cli/EntryFile.h"
 #include "cli/PlaceGroups.h"
+#include "cli/WorkQueue.h"
 #include "output/LaidOutPart.h"
 
 /// What became of some entries of a file.
@@ -67,10 +67,10 @@ private:
     PlaceGroups places_;
     unsigned int jobs_;
     ProcessEntries process_;
-    std::deque<std::future<std::vector<Opened>>> openings_;  // in the order of the places
-    std::size_t being_opened_ = 0;                           // the places of these
-    std::deque<Opened> opened_;                              // those that stand before them
-    std::unique_ptr<EntryFile> file_;                    // of which entries are left; null: none
-    std::deque<std::future<ProcessedEntries>> in_work_;  // entries of the file; ends before it
+    std::size_t being_opened_ = 0;     // the places of openings_
+    std::deque<Opened> opened_;        // those that stand before them
+    std::unique_ptr<EntryFile> file_;  // of which entries are left; null: none
     bool good_ = true;
+    WorkQueue<std::vector<Opened>> openings_;
+    WorkQueue<ProcessedEntries> in_work_;  // entries of the file
 };

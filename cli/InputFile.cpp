@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::size_t largest_buffer = 1 << 20;
+constexpr std::size_t largest_buffer = 1 << 18;
 
 [[noreturn]] void fail(const std::string& name) {
     throw InputError(name + ": " + std::generic_category().message(errno));
@@ -23,8 +23,8 @@ off_t size_of(int descriptor) {
     return fstat(descriptor, &file) == 0 && S_ISREG(file.st_mode) ? file.st_size : 0;
 }
 
-/// For most files as much as they hold: a megabyte for each costs more than to read it. One of
-/// size 0 may be none of the disk, and have more.
+/// For most files as much as they hold: so large a buffer for each costs more than to read it. One
+/// of size 0 may be none of the disk, and have more.
 std::size_t buffer_size_for(off_t size) {
     constexpr std::size_t least = GzipReader::signature.size();
     const bool is_small = size > 0 && size < static_cast<off_t>(largest_buffer);

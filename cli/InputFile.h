@@ -27,9 +27,9 @@ public:
     /// The path, "<stdin>", or "''" for an empty path.
     const std::string& name() const { return name_; }
 
-    /// Appends what is at hand, up to a megabyte; waits for the first byte. Returns whether there
-    /// was any: the file has not ended. Throws InputError, also when the file has shrunk, and for a
-    /// gzip file that ends too early or for which GzipReader throws.
+    /// Appends what is at hand, up to a quarter of a megabyte; waits for the first byte. Returns
+    /// whether there was any: the file has not ended. Throws InputError, also when the file has
+    /// shrunk, and for a gzip file that ends too early or for which GzipReader throws.
     bool read(std::string& bytes);
 
     /// Whether it is a gzip file, once something has been read: it begins as one does.

@@ -1,15 +1,14 @@
 #include "cli/TextBatch.h"
 
-#include <deque>
-#include <future>
 #include <memory>
 #include <new>
+#include <optional>
 #include <utility>
 
 #include "cli/Progress.h"
 #include "cli/TextBlocks.h"
 #include "cli/TextOutput.h"
-#include "cli/launch_policy.h"
+#include "cli/WorkQueue.h"
 #include "cli/report.h"
 
 namespace {
@@ -36,11 +35,12 @@ public:
     }
 
 private:
-    struct Work {
+    /// What became of a block.
+    struct Done {
         std::string file;
         unsigned int file_number;
         unsigned long texts;
-        std::future<ProcessedTexts> processed;
+        std::optional<ProcessedTexts> processed{};  // none: out of memory
     };
 
     void add_file(const std::string& path) {
@@ -65,34 +65,36 @@ private:
     }
 
     void add(TextBlock block) {
-        const std::string file = block.file;
-        const unsigned long texts = block.count;
-        const auto process = [this, block = std::make_shared<TextBlock>(std::move(block))] {
-            return process_texts(std::move(block->bytes), batch_.separator, block->first,
-                                 make_process_);
-        };
-        in_work_.push_back(
-            {file, file_number_, texts, std::async(launch_policy(batch_.jobs), process)});
-        if (in_work_.size() >= batch_.jobs) finish_first();
+        in_work_.begin(
+            [this, number = file_number_, block = std::make_shared<TextBlock>(std::move(block))] {
+                Done done{std::move(block->file), number, block->count};
+                try {
+                    done.processed = process_texts(std::move(block->bytes), batch_.separator,
+                                                   block->first, make_process_);
+                } catch (const std::bad_alloc&) {
+                    done.processed.reset();
+                }
+                return done;
+            });
+        if (in_work_.is_full()) finish_first();
     }
 
     void finish_first() {
-        Work work = std::move(in_work_.front());
-        in_work_.pop_front();
-        if (work.file_number == given_up_) return;
-        try {
-            write(work.file, work.processed.get());
-            texts_ += work.texts;
-            progress_.update(texts_, work.file_number - 1);
-        } catch (const std::bad_alloc&) {
+        Done done = in_work_.take_first();
+        if (done.file_number == given_up_) return;
+        if (done.processed) {
+            write(done.file, *done.processed);
+            texts_ += done.texts;
+            progress_.update(texts_, done.file_number - 1);
+        } else {
             // Without this block the texts behind it would be taken for others.
-            given_up_ = work.file_number;
-            report(work.file + ": out of memory");
+            given_up_ = done.file_number;
+            report(done.file + ": out of memory");
             outcome_.good = false;
         }
     }
 
-    void write(const std::string& file, ProcessedTexts done) {
+    void write(const std::string& file, ProcessedTexts& done) {
         for (Problem& problem : done.problems) {
             problem.file = file;
             report(problem);
@@ -112,7 +114,7 @@ private:
     BatchOutcome outcome_;
     unsigned int file_number_ = 0;  // of the file that is read, from 1
     unsigned int given_up_ = 0;     // the number of the file of which no more is written
-    std::deque<Work> in_work_;      // in the order of the texts
+    WorkQueue<Done> in_work_{batch_.jobs};
 };
 
 }  // namespace

@@ -13,8 +13,8 @@ struct TextBlock {
     std::string bytes;
 };
 
-/// The texts of a file, block by block. A block is what is at hand, in about a megabyte, or one
-/// text that is longer. The cost grows with the length of the file.
+/// The texts of a file, block by block. A block is what is at hand, in about a quarter of a
+/// megabyte, or one text that is longer. The cost grows with the length of the file.
 class TextBlocks {
 public:
     /// Opens `path`, or standard input for "-"; throws InputError.
