@@ -1,6 +1,5 @@
 #include "finders/internal/GreekNameScanner.h"
 
-#include <numeric>
 #include <vector>
 
 GreekNameScanner::GreekNameScanner() {
@@ -12,23 +11,29 @@ GreekNameScanner::GreekNameScanner() {
         indices_[static_cast<std::size_t>(symbols_[i])] = static_cast<unsigned char>(i);
         packed_names_[i] = {characters_at(name, 0),
                             characters_at(std::string(name.size(), '\xFF'), 0)};
-        ++first_name_[static_cast<unsigned int>(name[0] - 'a') + 1];
-        const auto first = static_cast<unsigned char>(name[0]);
-        second_letters_[first] |= 1U << (name[1] & 31);
-        third_letters_[first] |= name.size() > 2 ? 1U << (name[2] & 31) : ~0U;
+        const Names this_name = Names{1} << i;
+        with_first_[static_cast<unsigned char>(name[0])] |= this_name;
+        with_second_[static_cast<unsigned char>(name[1])] |= this_name;
+        if (name.size() > 2) {
+            with_third_[static_cast<unsigned char>(name[2])] |= this_name;
+        } else {
+            for (Names& with : with_third_) with |= this_name;
+        }
     }
-    std::partial_sum(first_name_.begin(), first_name_.end(), first_name_.begin());
 }
 
 std::size_t GreekNameScanner::next_candidate(std::string_view text, std::size_t position) const {
-    if (position + 1 >= text.size()) return text.size();
-    const char* const last = text.data() + text.size() - 1;
-    for (const char* at = text.data() + position; at != last; ++at) {
-        const auto first = static_cast<unsigned char>(at[0]);
-        if ((second_letters_[first] >> (at[1] & 31) & 1) == 0) continue;
-        if (at + 1 == last || (third_letters_[first] >> (at[2] & 31) & 1) != 0) {
-            return static_cast<std::size_t>(at - text.data());
-        }
+    const std::size_t size = text.size();
+    const auto some_at = [&](std::size_t at) {
+        return names_with(text[at], text[at + 1], text[at + 2]) != 0;
+    };
+    // Two at a time: hardly any stands at either, which one branch tells.
+    for (; position + 3 < size; position += 2) {
+        const bool here = some_at(position), behind = some_at(position + 1);
+        if (here || behind) return here ? position : position + 1;
     }
-    return text.size();
+    for (; position + 1 < size; ++position) {
+        if (names_at(text, position) != 0) return position;
+    }
+    return size;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <string>
@@ -9,8 +10,8 @@
 #include "finders/TevoChemicalNameToTextItemGreek.h"
 #include "text/Position.h"
 
-/// Finds where the names of Greek letters stand in a text: one load and one comparison for each
-/// name that begins with the character in question. It never changes.
+/// Finds where the names of Greek letters stand in a text: three characters tell which may stand at
+/// a position, and one load and one comparison whether they do. It never changes.
 class GreekNameScanner {
 public:
     GreekNameScanner();
@@ -22,8 +23,8 @@ public:
         for (std::size_t at = next_candidate(text, 0); at < text.size();
              at = next_candidate(text, at + 1)) {
             const std::uint64_t characters = characters_at(text, at);
-            const auto letter = static_cast<unsigned int>(text[at] - 'a');
-            for (unsigned int i = first_name_[letter]; i < first_name_[letter + 1]; ++i) {
+            for (Names names = names_at(text, at); names != 0; names &= names - 1) {
+                const auto i = static_cast<unsigned int>(std::countr_zero(names));
                 const PackedName& name = packed_names_[i];
                 if ((characters & name.mask) == name.characters) found(i, to_position(at));
             }
@@ -48,9 +49,21 @@ private:
     struct PackedName {
         std::uint64_t characters, mask;
     };
+    using Names = std::uint32_t;  // a bit for each, the lowest for the first
+    using NamesOfCharacters = std::array<Names, 256>;
 
-    /// The first position from `position` on where the first three characters of some name may
-    /// stand, or the end of the text; passes over none where a name stands.
+    Names names_with(char first, char second, char third) const {
+        return with_first_[static_cast<unsigned char>(first)] &
+               with_second_[static_cast<unsigned char>(second)] &
+               with_third_[static_cast<unsigned char>(third)];
+    }
+    /// Those that may stand at a position, behind which there is another.
+    Names names_at(std::string_view text, std::size_t at) const {
+        return names_with(text[at], text[at + 1], at + 2 < text.size() ? text[at + 2] : '\0');
+    }
+
+    /// The first position from `position` on where the first three characters of a name stand, or
+    /// the end of the text.
     std::size_t next_candidate(std::string_view text, std::size_t position) const;
 
     /// The next eight characters of the text, at the end of the text fewer: more than the longest
@@ -71,8 +84,6 @@ private:
     std::array<unsigned char, TextItem::clambda> lengths_{};
     std::array<TextItem::GreekSymbol, TextItem::clambda> symbols_{};
     std::array<unsigned char, TextItem::clambda + 1> indices_{};
-    std::array<unsigned char, 27> first_name_{};  // of each letter from a to z, and the end
-    // By the first letter of names, each a bit of its low bits; where a name has two, any third.
-    std::array<std::uint32_t, 256> second_letters_{};
-    std::array<std::uint32_t, 256> third_letters_{};
+    // The names that have a character at their begin, and behind it; any is the third of two.
+    NamesOfCharacters with_first_{}, with_second_{}, with_third_{};
 };
