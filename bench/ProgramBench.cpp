@@ -1,11 +1,10 @@
 // The program as a user runs it: entries of CIF files read, styled and written, from one to many,
-// and 100 MB of names converted.
+// and names by tens of megabytes converted, also beside others.
 #include <benchmark/benchmark.h>
-
-#include <filesystem>
 
 #include "bench/processes.h"
 #include "bench/texts.h"
+#include "markup/HtmlRichTextGenerator.h"
 
 namespace {
 
@@ -33,7 +32,7 @@ BENCHMARK_CAPTURE(show, json, "json")
     ->Unit(benchmark::kMillisecond);
 
 void convert(benchmark::State& state, const std::string& from, const std::string& source) {
-    const LinesFile names(lines_of(source), 100'000'000);
+    const LinesFile names(lines_of(source), 700);
     double memory = 0;
     for (auto _ : state) {
         memory = run_program({PROGRAM, "convert", "--from", from, "--to", "html", "--jobs",
@@ -42,12 +41,12 @@ void convert(benchmark::State& state, const std::string& from, const std::string
     }
     state.counters["MB"] = memory;
     state.counters["MB/s"] =
-        benchmark::Counter(static_cast<double>(std::filesystem::file_size(names.path())) / 1e6,
-                           benchmark::Counter::kIsIterationInvariantRate);
+        benchmark::Counter(names.megabytes(), benchmark::Counter::kIsIterationInvariantRate);
 }
 BENCHMARK_CAPTURE(convert, tevo_names, "tevo-name", "tevo_names.txt")
     ->Arg(1)
     ->Arg(2)
+    ->Arg(8)
     ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(convert, names_as_tevo, "tevo-name", "names.txt")
@@ -60,5 +59,49 @@ BENCHMARK_CAPTURE(convert, cif_names, "cif-name", "names.txt")
     ->Arg(2)
     ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
+
+#ifdef MD_TO_HTML
+/// The same names in turns with the Markdown reader md4c, which gets them as paragraphs with HTML
+/// tags; "of_md4c" says how often its time is ours.
+void convert_beside_md4c(benchmark::State& state) {
+    std::vector<std::string> paragraphs = names_by(make_handle<HtmlRichTextGenerator>());
+    for (std::string& paragraph : paragraphs) {
+        paragraph.replace(paragraph.size() - 3, 3, "\n");  // the <p> that ends each
+    }
+    constexpr std::size_t repetitions = 500;
+    const LinesFile names(lines_of("tevo_names.txt"), repetitions);
+    const LinesFile markdown(paragraphs, repetitions);
+    double ours = 0, theirs = 0;
+    for (auto _ : state) {
+        ours += run_program({PROGRAM, "convert", "--from", "tevo-name", "--to", "html", "--jobs",
+                             "1", names.path()})
+                    .seconds;
+        theirs += run_program({MD_TO_HTML, markdown.path()}).seconds;
+    }
+    state.counters["of_md4c"] = ours / theirs;
+}
+BENCHMARK(convert_beside_md4c)->Iterations(5)->Unit(benchmark::kMillisecond);
+#endif
+
+/// How long the program takes to begin and end, beside one that does nothing.
+void start(benchmark::State& state, const std::vector<std::string>& arguments) {
+    std::vector<std::string> all{PROGRAM};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    double ours = 0, nothing = 0;
+    for (auto _ : state) {
+        ours += run_program(all).seconds;
+        nothing += run_program({"/bin/cat", "/dev/null"}).seconds;
+    }
+    const auto each = 1000 / static_cast<double>(state.iterations());
+    state.counters["ms"] = ours * each;
+    state.counters["ms_of_cat"] = nothing * each;
+}
+BENCHMARK_CAPTURE(start, version, {"--version"})->Iterations(200)->Unit(benchmark::kMillisecond);
+
+void start_with_a_name(benchmark::State& state) {
+    const LinesFile name({"trans-platin-beta"}, 1);
+    start(state, {"convert", "--from", "tevo-name", "--to", "html", name.path()});
+}
+BENCHMARK(start_with_a_name)->Iterations(200)->Unit(benchmark::kMillisecond);
 
 }  // namespace

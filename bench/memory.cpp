@@ -1,7 +1,5 @@
 // Runs the program for each of its uses at one, two and four times a size, and tells its peak
 // memory in MB: memory PROGRAM DATA_FOLDER. Fails where more is held than is promised.
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -14,32 +12,13 @@
 #include <string>
 #include <vector>
 
+#include "bench/processes.h"
+
 namespace fs = std::filesystem;
 
 namespace {
 
 using Arguments = std::vector<std::string>;
-
-/// Runs a program with its output thrown away; returns its peak memory in MB.
-double peak_of(Arguments arguments) {
-    std::vector<char*> argv;
-    for (std::string& argument : arguments) argv.push_back(argument.data());
-    argv.push_back(nullptr);
-    const pid_t child = fork();
-    if (child == 0) {
-        const bool silent =
-            std::freopen("/dev/null", "w", stdout) && std::freopen("/dev/null", "w", stderr);
-        if (silent) execv(argv[0], argv.data());
-        _exit(127);
-    }
-    int status = 0;
-    rusage usage{};
-    const bool ended = child > 0 && wait4(child, &status, 0, &usage) == child;
-    if (!ended || !WIFEXITED(status) || WEXITSTATUS(status) > 1) {  // 1: something was found
-        throw std::runtime_error("the program failed: " + arguments.at(1) + ' ' + arguments.at(2));
-    }
-    return static_cast<double>(usage.ru_maxrss) / 1024;
-}
 
 std::string content_of(const fs::path& file) {
     std::ifstream stream(file, std::ios::binary);
@@ -183,7 +162,7 @@ bool run_all(const std::string& program, const fs::path& data) {
                     arguments.back() += argument.substr(sign + 1);
                 }
             }
-            peaks[i] = peak_of(arguments);
+            peaks[i] = run_program(arguments, 1).megabytes;  // 1: something was found
         }
         const bool as_promised = is_as_promised(use, peaks);
         good = good && as_promised;

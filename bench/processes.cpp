@@ -17,7 +17,7 @@ double seconds_of(const timeval& time) {
 
 }  // namespace
 
-ProcessCosts run_program(std::vector<std::string> arguments) {
+ProcessCosts run_program(std::vector<std::string> arguments, int worst_status) {
     std::vector<char*> argv;
     for (std::string& argument : arguments) argv.push_back(argument.data());
     argv.push_back(nullptr);
@@ -30,8 +30,12 @@ ProcessCosts run_program(std::vector<std::string> arguments) {
     }
     int status = 0;
     rusage usage{};
-    if (child < 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
-        throw std::runtime_error("the program failed");
+    const bool has_ended = child > 0 && wait4(child, &status, 0, &usage) == child;
+    if (!has_ended || !WIFEXITED(status) || WEXITSTATUS(status) > worst_status) {
+        std::string command;
+        for (const std::string& argument : arguments) command += ' ' + argument;
+        command.resize(std::min<std::size_t>(command.size(), 200));
+        throw std::runtime_error("failed:" + command);
     }
     return {seconds_of(usage.ru_utime) + seconds_of(usage.ru_stime),
             static_cast<double>(usage.ru_maxrss) / 1024};
@@ -47,12 +51,17 @@ void append_files(std::vector<std::string>& arguments, const std::string& folder
     for (std::size_t i = 0; i < count; ++i) arguments.push_back(files.at(i % files.size()));
 }
 
-LinesFile::LinesFile(const std::vector<std::string>& lines, std::size_t size)
-    : path_(std::filesystem::temp_directory_path() /
-            ("lmrtext_bench_" + std::to_string(getpid()))) {
+LinesFile::LinesFile(const std::vector<std::string>& lines, std::size_t times) {
+    static unsigned int number = 0;
+    path_ = std::filesystem::temp_directory_path();
+    path_ /= "lmrtext_bench_" + std::to_string(getpid()) + '_' + std::to_string(++number);
     std::string once;
     for (const std::string& line : lines) once += line + '\n';
     // Piece by piece: what this process holds counts as memory of the program that it starts.
     std::ofstream file(path_, std::ios::binary);
-    for (std::size_t written = 0; written < size; written += once.size()) file << once;
+    while (times-- > 0) file << once;
+}
+
+double LinesFile::megabytes() const {
+    return static_cast<double>(std::filesystem::file_size(path_)) / 1e6;
 }
