@@ -101,8 +101,11 @@ PlainTerm::PlainTerm(const std::string& written, const std::string& text,
       whole_words_(settings.whole_words),
       begins_with_greek_(settings.folding.greek && begins_with_greek(text_)),
       ends_with_greek_(settings.folding.greek && ends_with_greek(text_)),
-      number_(whole_number(folded_)) {
-    skeletons_ = number_ ? number_->first_digits() : std::vector{skeleton_of(folded_)};
+      number_(whole_number(folded_.text())) {
+    for (const std::string& skeleton :
+         number_ ? number_->first_digits() : std::vector{skeleton_of(folded_.text())}) {
+        skeletons_.emplace_back(skeleton);
+    }
     if (number_) return;
     if (is_plain_formula(text_)) elements_ = elements_in(text_);
     group_ = find_space_group(text_, 0, 0);
@@ -116,9 +119,8 @@ bool PlainTerm::may_stand_in(const Field& field) const {
 }
 
 bool PlainTerm::may_stand_on(const std::string& skeleton) const {
-    return std::any_of(skeletons_.begin(), skeletons_.end(), [&](const std::string& own) {
-        return skeleton.find(own) != std::string::npos;
-    });
+    return std::any_of(skeletons_.begin(), skeletons_.end(),
+                       [&](const SoughtText& own) { return own.stands_in(skeleton); });
 }
 
 /// Numbers are compared with those of cells before these are written.
@@ -158,18 +160,14 @@ void PlainTerm::find_numbers(const FoldedText& text, std::vector<StringSlice>& r
 
 void PlainTerm::find_words(const SearchedText& text, std::vector<StringSlice>& ranges) const {
     const FoldedText& whole = text.folded();
-    std::size_t at = whole.text().find(folded_);
-    while (at != std::string::npos) {
-        const StringSlice range(to_position(at), to_position(at + folded_.size()));
-        std::size_t next = at + 1;
-        if (whole.is_boundary(range.from()) && whole.is_boundary(range.to())) {
-            const StringSlice shown = whole.in_text(range);
-            if (stands_alone(text, range, shown)) {
-                ranges.push_back(shown);
-                next = range.to();
-            }
-        }
-        at = whole.text().find(folded_, next);
+    SoughtText::Places places(folded_, whole.text());
+    for (std::size_t at = places.next(); at != std::string::npos; at = places.next()) {
+        const StringSlice range(to_position(at), to_position(at + folded_.text().size()));
+        if (!whole.is_boundary(range.from()) || !whole.is_boundary(range.to())) continue;
+        const StringSlice shown = whole.in_text(range);
+        if (!stands_alone(text, range, shown)) continue;
+        ranges.push_back(shown);
+        places.pass_over();
     }
 }
 
@@ -182,10 +180,10 @@ bool PlainTerm::stands_alone(const SearchedText& text, const StringSlice& folded
     // The name of a letter is no part of a longer word, but the letter is.
     const bool needs_begin = whole_words_ || (begins_with_greek_ && !begins_with_greek(match));
     const bool needs_end = whole_words_ || (ends_with_greek_ && !ends_with_greek(match));
-    if (needs_begin && folded.from() > 0 && is_of_word(folded_.front()) &&
+    if (needs_begin && folded.from() > 0 && is_of_word(folded_.text().front()) &&
         is_of_word(all[folded.from() - 1])) {
         return false;
     }
-    return !(needs_end && folded.to() < all.size() && is_of_word(folded_.back()) &&
+    return !(needs_end && folded.to() < all.size() && is_of_word(folded_.text().back()) &&
              is_of_word(all[folded.to()]));
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "entries/space_group_symbol.h"
+#include "tasks/SoughtText.h"
 #include "tasks/Term.h"
 #include "tasks/elements_in_text.h"
 #include "tasks/numbers_in_text.h"
@@ -33,9 +34,9 @@ private:
                       const StringSlice& shown) const;
     bool is_group_of(const CifEntry& entry) const;
 
-    std::string text_;                    // without blanks around it
-    std::string folded_;                  // what is looked for
-    std::vector<std::string> skeletons_;  // a text has one of them
+    std::string text_;                   // without blanks around it
+    SoughtText folded_;                  // what is looked for
+    std::vector<SoughtText> skeletons_;  // a text has one of them
     bool whole_words_;
     bool begins_with_greek_, ends_with_greek_;
     std::optional<SearchedNumber> number_;  // in folded_

@@ -5,16 +5,19 @@
 #include <utility>
 
 #include "entries/pass_on_bad_alloc.h"
+#include "tasks/SoughtText.h"
 #include "text/Position.h"
 #include "text/TextItem.h"
 
 namespace {
 
-std::vector<std::size_t> places_of(std::string_view part, std::string_view text) {
+std::vector<std::size_t> places_of(const std::string& part, std::string_view text) {
     std::vector<std::size_t> places;
-    for (std::size_t at = text.find(part); at != std::string_view::npos;
-         at = text.find(part, at + part.size())) {
+    const SoughtText sought(part);
+    SoughtText::Places found(sought, text);
+    for (std::size_t at = found.next(); at != std::string_view::npos; at = found.next()) {
         places.push_back(at);
+        found.pass_over();
     }
     return places;
 }
