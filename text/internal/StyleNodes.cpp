@@ -18,6 +18,16 @@ void StyleNodes::reset(unsigned int text_length) {
 }
 
 bool StyleNodes::any_inside(const StringSlice& slice) {
+    if (empty_ && waiting_.size() <= most_few) {
+        const auto is_inside = [&slice](unsigned int position) {
+            return slice.from() < position && position < slice.to();
+        };
+        const auto has_node_inside = [&is_inside](const StringSlice& style) {
+            return is_inside(style.from()) || is_inside(style.to());
+        };
+        return std::any_of(few_.begin(), few_.end(), has_node_inside) ||
+               std::any_of(waiting_.begin(), waiting_.end(), has_node_inside);
+    }
     enter_few();
     for (; !waiting_.empty(); waiting_.pop_back()) {
         const StringSlice style = waiting_.back();
