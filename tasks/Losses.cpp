@@ -64,7 +64,8 @@ Losses::Losses(const RichTextTarget& target) : target_(target) {
 
 void Losses::note_styles(const TextItem& item, std::vector<Problem>& problems) {
     if (std::none_of(is_lost_.begin(), is_lost_.end(), [](bool lost) { return lost; })) return;
-    KindCollector collector;
+    thread_local KindCollector collector;  // kept, as making one costs more than what it does
+    collector.flags = 0;
     item.mark_up_text(collector);
     for (std::size_t i = 0; i < kinds; ++i) {
         if (!is_lost_[i] || (collector.flags & flag_of(rows[i].kind)) == 0) continue;
