@@ -4,8 +4,9 @@
 
 namespace {
 
-void append(std::vector<StringSlice>& out, const std::vector<StringSlice>& slices) {
-    out.insert(out.end(), slices.begin(), slices.end());
+template <class Slice>
+void append(std::vector<Slice>& out, const std::vector<Slice>& slices) {
+    if (!slices.empty()) out.insert(out.end(), slices.begin(), slices.end());
 }
 
 }  // namespace
@@ -24,11 +25,9 @@ void CifTextStyleFinder::invisible(std::vector<StringSlice>& out) const {
     append(out, found_.invisible);
 }
 void CifTextStyleFinder::replacement_text(std::vector<ReplacementTextSlice>& out) const {
-    out.insert(out.end(), found_.replacements.begin(), found_.replacements.end());
+    append(out, found_.replacements);
 }
-void CifTextStyleFinder::greek(std::vector<GreekSlice>& out) const {
-    out.insert(out.end(), found_.greek.begin(), found_.greek.end());
-}
+void CifTextStyleFinder::greek(std::vector<GreekSlice>& out) const { append(out, found_.greek); }
 
 /// The lists keep their memory, for the texts that follow.
 void CifTextStyleFinder::calc_tag_positions() {

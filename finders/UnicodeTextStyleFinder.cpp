@@ -29,7 +29,7 @@ TextItem::GreekSymbol symbol_of(char32_t code) {
 
 template <class Slice>
 void append(std::vector<Slice>& out, const std::vector<Slice>& slices) {
-    out.insert(out.end(), slices.begin(), slices.end());
+    if (!slices.empty()) out.insert(out.end(), slices.begin(), slices.end());
 }
 
 }  // namespace
@@ -44,9 +44,11 @@ public:
             if (open_.empty() && valign_ == 0 && skip_plain()) break;
             const std::string_view rest = text_.substr(at_);
             const Utf8Character character = first_character(rest);
-            if (rest.starts_with("_{") || rest.starts_with("^{") || rest.front() == '{') {
+            const char sign = rest.front();
+            const bool is_script_sign = sign == '_' || sign == '^';
+            if (sign == '{' || (is_script_sign && rest.substr(1).starts_with('{'))) {
                 open_brace();
-            } else if (rest.front() == '}' && !open_.empty()) {
+            } else if (sign == '}' && !open_.empty()) {
                 close_brace();
             } else if (character.code == overline && unit_ < at_) {
                 add_bar(character.size);
@@ -119,7 +121,7 @@ private:
     }
 
     void take_character(const Utf8Character& character, std::string_view rest) {
-        const std::size_t size = end_of_unit(rest);
+        const std::size_t size = end_of_unit(rest, character.size);
         const ScriptCharacter form =
             size == character.size ? script_character(character.code) : ScriptCharacter{0, 0};
         if (form.valign != valign_) {
@@ -140,10 +142,9 @@ private:
         at_ += size;
     }
 
-    /// One past the character and the marks on it, but before an overline.
-    static std::size_t end_of_unit(std::string_view rest) {
-        std::size_t end = first_character(rest).size;
-        while (end < rest.size()) {
+    /// One past a character that ends there and the marks on it, but before an overline.
+    static std::size_t end_of_unit(std::string_view rest, std::size_t end) {
+        while (end < rest.size() && static_cast<unsigned char>(rest[end]) >= 0x80) {
             const Utf8Character next = first_character(rest.substr(end));
             if (next.code == overline || !combines(next.code)) break;
             end += next.size;

@@ -13,9 +13,22 @@ using Kind = TextItemStyle::Kind;
 
 constexpr std::string_view overline = "\u0305";
 constexpr std::array<bool, 256> stands_for_itself = ascii_but("\\~^&<-+");
-constexpr std::size_t longest_code = 16;
+constexpr std::size_t longest_rest = 10;  // of a code, behind two bytes of it
 
 bool is_ascii(char c) { return static_cast<unsigned char>(c) < 0x80; }
+
+bool is_dash(char c) { return c == '-' || c == '+'; }
+
+/// How much of the front of a text stands for itself, also behind other text; a dash does behind
+/// what is none.
+std::size_t size_of_plain_front(std::string_view text) {
+    std::size_t size = 0;
+    while (size < text.size() && (stands_for_itself[static_cast<unsigned char>(text[size])] ||
+                                  (size > 0 && is_dash(text[size]) && !is_dash(text[size - 1])))) {
+        ++size;
+    }
+    return size;
+}
 
 /// The code of a letter, with those of its accents; empty where it has none.
 std::string letter_code(char32_t letter) {
@@ -51,11 +64,9 @@ Unit first_unit(std::string_view text) {
         unit.size += mark.size;
         single = 0;
     }
-    unit.code.insert(0, std::string(accents.rbegin(), accents.rend()));
+    if (!accents.empty()) unit.code.insert(0, std::string(accents.rbegin(), accents.rend()));
     return unit;
 }
-
-bool is_dash(char c) { return c == '-' || c == '+'; }
 
 /// Whether a code that begins with a dash or a plus would be read with what stands before it.
 bool would_join(std::string_view result, std::string_view code) {
@@ -108,11 +119,7 @@ std::string CifTextRichTextGenerator::mark_up_text(const RichTextData& data) con
 
 void CifTextRichTextGenerator::write_text(std::string& result, std::string_view text) const {
     while (!text.empty()) {
-        std::size_t plain = 0;
-        while (plain < text.size() && bars_ == 0 &&
-               stands_for_itself[static_cast<unsigned char>(text[plain])]) {
-            ++plain;
-        }
+        std::size_t plain = bars_ == 0 ? size_of_plain_front(text) : 0;
         const bool may_carry_accent = plain > 0 && plain < text.size() && !is_ascii(text[plain]);
         if (may_carry_accent) --plain;
         if (plain > 0 && !goes_on_code(result, text)) {
@@ -131,7 +138,6 @@ std::size_t CifTextRichTextGenerator::write_character(std::string& result,
     const std::string_view characters = text.substr(0, unit.size);
     const Utf8Character first = first_character(text);
     const bool is_ascii = unit.size == 1 && first.code < 0x80;
-    const std::string_view behind = text.substr(unit.size, longest_code);
     if (is_ascii && (begins_something(text) || would_join(result, characters))) {
         append_entity(result, first.code);
     } else if (is_ascii || unit.code.empty()) {
@@ -141,7 +147,8 @@ std::size_t CifTextRichTextGenerator::write_character(std::string& result,
             result += characters;
         }
     } else {
-        const CifCode* const code = first_cif_code(unit.code + std::string(behind));
+        const CifCode* const code =
+            first_cif_code(std::string(unit.code).append(text.substr(unit.size, longest_rest)));
         const bool goes_on = code && unit.code.size() < code->code.size();
         if (goes_on || would_join(result, unit.code)) {
             result += characters;

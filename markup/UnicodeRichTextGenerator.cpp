@@ -102,8 +102,10 @@ UnicodeRichTextGenerator::~UnicodeRichTextGenerator() = default;
 // The lines can be broken only when it is known how the scripts are written.
 std::string UnicodeRichTextGenerator::mark_up_text(const RichTextData& data) const {
     line_length_ = data.line_length();
-    return TwoPassRichTextGenerator::mark_up_text(RichTextData(
-        data.text(), 0, data.styles(), data.invisible(), data.greek(), data.replacement_text()));
+    if (line_length_ == 0) return TwoPassRichTextGenerator::mark_up_text(data);
+    return TwoPassRichTextGenerator::mark_up_text(RichTextData(data.characters(), 0, data.styles(),
+                                                               data.invisible(), data.greek(),
+                                                               data.replacement_text()));
 }
 
 void UnicodeRichTextGenerator::write_text(std::string& result, std::string_view text) const {
@@ -123,6 +125,7 @@ std::string UnicodeRichTextGenerator::compose(std::string_view text,
 std::string UnicodeRichTextGenerator::compose_text(std::string_view text,
                                                    const std::vector<Tag>& tags,
                                                    std::vector<Tag>& left_out) const {
+    if (tags.empty() && line_length_ == 0) return std::string(text);
     const std::vector<Script> scripts = scripts_with_forms(text, tags);
     std::string result;
     result.reserve(text.size() + 8 * tags.size());

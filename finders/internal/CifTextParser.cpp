@@ -20,6 +20,12 @@ constexpr auto is_special = [] {
     return special;
 }();
 
+/// One past the bytes from `at` on that begin nothing.
+std::size_t end_of_plain(std::string_view text, std::size_t at) {
+    while (at < text.size() && !is_special[static_cast<unsigned char>(text[at])]) ++at;
+    return at;
+}
+
 /// The size of a backslash that ends a line, with the blanks and the line end behind it, or 0.
 std::size_t size_of_fold(std::string_view text) {
     if (!text.starts_with('\\')) return 0;
@@ -41,12 +47,9 @@ void CifTextParser::parse() {
     const std::size_t fold = size_of_fold(text_);
     folded_ = fold > 0;
     hide(fold);
-    while (at_ < text_.size()) {
-        if (is_special[static_cast<unsigned char>(text_[at_])]) {
-            take_special(text_.substr(at_));
-        } else {
-            ++at_;
-        }
+    for (;; take_special(text_.substr(at_))) {
+        at_ = end_of_plain(text_, at_);
+        if (at_ == text_.size()) break;
     }
     while (!open_.empty()) drop_innermost();
     merge_doubts();
@@ -126,14 +129,16 @@ void CifTextParser::take_accents(std::string_view rest, std::size_t accents) {
 }
 
 void CifTextParser::take_sign(std::string_view rest) {
-    const std::size_t dashes = size_of_run(rest, '-');
     const CifCode* const code = first_cif_code(rest);
+    if (!code) {
+        ++at_;
+        return;
+    }
+    const std::size_t dashes = size_of_run(rest, '-');
     if (dashes > longest_dash) {
         at_ += dashes;  // a line that is drawn
-    } else if (code) {
-        take_code(*code);
     } else {
-        ++at_;
+        take_code(*code);
     }
 }
 

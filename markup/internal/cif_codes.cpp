@@ -98,6 +98,14 @@ constexpr CodesBySecond codes_by_second = [] {
     return result;
 }();
 
+/// As starts_with(), for what mostly differs in its first characters.
+bool begins_with(std::string_view text, std::string_view code) {
+    if (text.size() < code.size()) return false;
+    std::size_t i = 0;
+    while (i < code.size() && text[i] == code[i]) ++i;
+    return i == code.size();
+}
+
 constexpr std::size_t longest_entity = 12;
 
 char32_t greek_character(std::string_view name) {
@@ -140,7 +148,7 @@ const CifCode* first_cif_code(std::string_view text) {
     for (std::size_t i = codes_by_second.begins[second]; i < codes_by_second.begins[second + 1U];
          ++i) {
         const CifCode& code = codes_by_second.rows[i];
-        if (text.starts_with(code.code)) return &code;
+        if (begins_with(text, code.code)) return &code;
     }
     return nullptr;
 }
@@ -191,7 +199,7 @@ CifEntity first_cif_entity(std::string_view text) {
 const CifMark* first_cif_mark(std::string_view text) {
     const auto* const mark =
         std::find_if(std::begin(cif_marks), std::end(cif_marks),
-                     [text](const CifMark& known) { return text.starts_with(known.text); });
+                     [text](const CifMark& known) { return begins_with(text, known.text); });
     return mark == std::end(cif_marks) ? nullptr : mark;
 }
 

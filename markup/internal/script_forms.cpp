@@ -63,9 +63,9 @@ const ScriptForms* script_forms_of(char32_t base) {
 }
 
 ScriptCharacter script_character(char32_t form) {
+    if (form < 0x80) return {0, 0};  // as most are
     const auto* const row = std::lower_bound(
         forms.begin(), forms.end(), form,
         [](const Form& candidate, char32_t code) { return candidate.form < code; });
-    return row != forms.end() && row->form == form && form != 0 ? row->character
-                                                                : ScriptCharacter{0, 0};
+    return row != forms.end() && row->form == form ? row->character : ScriptCharacter{0, 0};
 }
