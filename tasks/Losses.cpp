@@ -31,18 +31,21 @@ constexpr Row rows[] = {
 
 constexpr unsigned long flag_of(Kind kind) { return 1UL << static_cast<unsigned int>(kind); }
 
-/// Sees of which kinds the styles of an item are, those that cover something.
+/// Sees of which kinds the styles of an item are, those that cover something, and leaves it to a
+/// generator to write it: a second snapshot of the item would cost as much as a short text does.
 class KindCollector : public RichTextGenerator {
 public:
     KindCollector() : RichTextGenerator({}, {}) {}
 
     std::string mark_up_text(const RichTextData& data) const override {
+        flags = 0;
         for (const THandle<TextItemStyle>& style : data.styles()) {
             if (!style->slice().empty()) flags |= flag_of(style->kind());
         }
-        return {};
+        return writer ? writer->mark_up_text(data) : std::string();
     }
 
+    RichTextGenerator* writer = nullptr;
     mutable unsigned long flags = 0;
 };
 
@@ -62,13 +65,22 @@ Losses::Losses(const RichTextTarget& target) : target_(target) {
     for (std::size_t i = 0; i < kinds; ++i) is_lost_[i] = !shows_style(*generator, rows[i].create);
 }
 
-void Losses::note_styles(const TextItem& item, std::vector<Problem>& problems) {
-    if (std::none_of(is_lost_.begin(), is_lost_.end(), [](bool lost) { return lost; })) return;
+std::string Losses::mark_up(const TextItem& item, RichTextGenerator* generator) {
     thread_local KindCollector collector;  // kept, as making one costs more than what it does
-    collector.flags = 0;
-    item.mark_up_text(collector);
+    collector.writer = generator;
+    std::string result = item.mark_up_text(collector);
+    seen_ = collector.flags;
+    return result;
+}
+
+void Losses::note_styles(const TextItem& item, std::vector<Problem>& problems) {
+    mark_up(item, nullptr);
+    note_seen_styles(problems);
+}
+
+void Losses::note_seen_styles(std::vector<Problem>& problems) {
     for (std::size_t i = 0; i < kinds; ++i) {
-        if (!is_lost_[i] || (collector.flags & flag_of(rows[i].kind)) == 0) continue;
+        if (!is_lost_[i] || (seen_ & flag_of(rows[i].kind)) == 0) continue;
         is_lost_[i] = false;
         Problem& note = problems.emplace_back();
         note.level = Problem::Level::note;

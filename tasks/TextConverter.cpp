@@ -13,9 +13,9 @@ TextConverter::TextConverter(const Source& from, const RichTextTarget& to, unsig
 std::string TextConverter::convert(const std::string& text, std::vector<Problem>& problems) {
     item_.set_text(text);
     item_.set_line_length(line_length_);
-    std::string result = item_.mark_up_text(*generator_);
+    std::string result = losses_.mark_up(item_, generator_.get());
     if (from_.note_doubts) from_.note_doubts(*finder_, problems);
-    losses_.note_styles(item_, problems);
+    losses_.note_seen_styles(problems);
     if (ascii_) return ascii_->in_ascii(result);
     losses_.note_characters(result, problems);
     return result;

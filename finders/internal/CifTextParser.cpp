@@ -20,9 +20,19 @@ constexpr auto is_special = [] {
     return special;
 }();
 
+bool is_sign(char c) { return c == '-' || c == '+'; }
+
+/// A hyphen or a plus begins a code only before another.
+bool is_lone_sign(std::string_view text, std::size_t at) {
+    return is_sign(text[at]) && (at + 1 == text.size() || !is_sign(text[at + 1]));
+}
+
 /// One past the bytes from `at` on that begin nothing.
 std::size_t end_of_plain(std::string_view text, std::size_t at) {
-    while (at < text.size() && !is_special[static_cast<unsigned char>(text[at])]) ++at;
+    while (at < text.size() &&
+           (!is_special[static_cast<unsigned char>(text[at])] || is_lone_sign(text, at))) {
+        ++at;
+    }
     return at;
 }
 

@@ -102,6 +102,11 @@ private:
     std::vector<std::size_t> depth_;  // of each open style in open_, by its index
 };
 
+bool is_in_character(std::string_view text, unsigned int position) {
+    return position < text.size() && is_continuation_byte(text[position]) &&
+           start_of_character(text, position) != position;
+}
+
 }  // namespace
 
 NestedStyles::NestedStyles(const RichTextData::Styles& styles, std::string_view text) {
@@ -132,20 +137,20 @@ bool NestedStyles::are_nested(const RichTextData::Styles& styles, std::string_vi
     for (const auto& style : styles) {
         const unsigned int from = style->from();
         const unsigned int to = style->to();
-        if (to > length_of(text) || start_of_character(text, from) != from ||
-            start_of_character(text, to) != to) {
+        if (to > length_of(text) || is_in_character(text, from) || is_in_character(text, to)) {
             return false;
         }
         if (from < to) begins.push_back(std::uint64_t{from} << 32 | (no_position - to));
     }
     sort_runs(begins);
-    std::vector<unsigned int> open_ends;
+    // The ends of those that stand open take the place of those that were gone through.
+    std::size_t open = 0;
     for (const std::uint64_t begin : begins) {
         const auto from = static_cast<unsigned int>(begin >> 32);
         const unsigned int to = no_position - static_cast<unsigned int>(begin);
-        while (!open_ends.empty() && open_ends.back() <= from) open_ends.pop_back();
-        if (!open_ends.empty() && open_ends.back() < to) return false;
-        open_ends.push_back(to);
+        while (open > 0 && begins[open - 1] <= from) --open;
+        if (open > 0 && begins[open - 1] < to) return false;
+        begins[open++] = to;
     }
     return true;
 }

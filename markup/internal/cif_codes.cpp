@@ -76,6 +76,16 @@ constexpr auto codes_by_character = [] {
     return rows;
 }();
 
+/// The rows of these by the characters that most are, each number one more; 0: none has a code.
+constexpr auto rows_of_letters = [] {
+    std::array<unsigned char, 0x400> rows{};
+    for (std::size_t i = codes_by_character.size(); i-- > 0;) {
+        const char32_t character = codes_by_character[i].character;
+        if (character < rows.size()) rows[character] = static_cast<unsigned char>(i + 1);
+    }
+    return rows;
+}();
+
 /// Codes by their second character, those with the same one from the longest to the shortest, so
 /// that of few the first that fits is it.
 struct CodesBySecond {
@@ -154,6 +164,10 @@ const CifCode* first_cif_code(std::string_view text) {
 }
 
 const CifCode* cif_code_of(char32_t character) {
+    if (character < rows_of_letters.size()) {
+        const std::size_t number = rows_of_letters[character];
+        return number > 0 ? &codes_by_character[number - 1] : nullptr;
+    }
     const auto* const row =
         std::lower_bound(codes_by_character.begin(), codes_by_character.end(), character,
                          [](const CifCode& code, char32_t c) { return code.character < c; });

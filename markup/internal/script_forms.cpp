@@ -53,6 +53,15 @@ constexpr auto forms = [] {
     return rows;
 }();
 
+/// For the pages of 64 characters whether there are forms in them; behind these are none.
+constexpr auto has_forms = [] {
+    std::array<bool, forms.back().form / 64 + 1> pages{};
+    for (const Form& row : forms) {
+        if (row.form != 0) pages[row.form / 64] = true;
+    }
+    return pages;
+}();
+
 }  // namespace
 
 const ScriptForms* script_forms_of(char32_t base) {
@@ -63,7 +72,7 @@ const ScriptForms* script_forms_of(char32_t base) {
 }
 
 ScriptCharacter script_character(char32_t form) {
-    if (form < 0x80) return {0, 0};  // as most are
+    if (form / 64 >= has_forms.size() || !has_forms[form / 64]) return {0, 0};  // as most are
     const auto* const row = std::lower_bound(
         forms.begin(), forms.end(), form,
         [](const Form& candidate, char32_t code) { return candidate.form < code; });
