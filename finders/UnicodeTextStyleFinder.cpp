@@ -6,6 +6,7 @@
 #include "markup/Utf8.h"
 #include "markup/internal/cif_codes.h"
 #include "markup/internal/script_forms.h"
+#include "markup/internal/size_of_run.h"
 #include "text/Position.h"
 
 namespace {
@@ -68,14 +69,14 @@ private:
         bool could_be_raised = true, could_be_lowered = true;
     };
 
-    /// Passes over plain characters of ASCII, but not over the last before another one, which may
-    /// be a mark that stands on it. Returns whether the text ends there.
+    /// Passes over plain characters of ASCII, but not over the last one where a mark stands on it.
+    /// Returns whether the text ends there.
     bool skip_plain() {
-        std::size_t end = at_;
-        while (end < text_.size() && is_plain[static_cast<unsigned char>(text_[end])]) ++end;
+        const std::size_t end = at_ + size_of_run(text_.substr(at_), is_plain);
         if (end == text_.size()) return true;
-        if (end > at_ + 1) {
-            at_ = end - 1;
+        const bool has_mark = combines(first_character(text_.substr(end)).code);
+        if (end > at_ + (has_mark ? 1 : 0)) {
+            at_ = end - (has_mark ? 1 : 0);
             unit_ = at_ - 1;
         }
         return false;

@@ -6,6 +6,7 @@
 #include "markup/internal/cif_codes.h"
 #include "markup/internal/compositions.h"
 #include "markup/internal/controls.h"
+#include "markup/internal/size_of_run.h"
 
 namespace {
 
@@ -23,10 +24,10 @@ bool is_dash(char c) { return c == '-' || c == '+'; }
 /// what is none.
 std::size_t size_of_plain_front(std::string_view text) {
     std::size_t size = 0;
-    while (size < text.size() && (stands_for_itself[static_cast<unsigned char>(text[size])] ||
-                                  (size > 0 && is_dash(text[size]) && !is_dash(text[size - 1])))) {
-        ++size;
-    }
+    do {
+        size += size_of_run(text.substr(size), stands_for_itself);
+    } while (size > 0 && size < text.size() && is_dash(text[size]) && !is_dash(text[size - 1]) &&
+             ++size < text.size());
     return size;
 }
 
@@ -49,9 +50,9 @@ struct Unit {
     std::size_t size;
 };
 
-Unit first_unit(std::string_view text) {
+/// The one at the front of a text, which `first` begins.
+Unit first_unit(std::string_view text, const Utf8Character& first) {
     if (is_ascii(text[0]) && (text.size() == 1 || is_ascii(text[1]))) return {"", 1};  // as most
-    const Utf8Character first = first_character(text);
     Unit unit{first.valid ? letter_code(first.code) : "", first.size};
     if (unit.code.empty() || !is_letter_of_text(first.code)) return unit;
     std::string accents;  // backwards: the outermost comes first
@@ -134,9 +135,9 @@ void CifTextRichTextGenerator::write_text(std::string& result, std::string_view 
 /// Appends the character at the front of `text`, with its marks; returns its size.
 std::size_t CifTextRichTextGenerator::write_character(std::string& result,
                                                       std::string_view text) const {
-    const Unit unit = first_unit(text);
-    const std::string_view characters = text.substr(0, unit.size);
     const Utf8Character first = first_character(text);
+    Unit unit = first_unit(text, first);
+    const std::string_view characters = text.substr(0, unit.size);
     const bool is_ascii = unit.size == 1 && first.code < 0x80;
     if (is_ascii && (begins_something(text) || would_join(result, characters))) {
         append_entity(result, first.code);
@@ -147,13 +148,14 @@ std::size_t CifTextRichTextGenerator::write_character(std::string& result,
             result += characters;
         }
     } else {
+        const std::size_t size = unit.code.size();
         const CifCode* const code =
-            first_cif_code(std::string(unit.code).append(text.substr(unit.size, longest_rest)));
-        const bool goes_on = code && unit.code.size() < code->code.size();
+            first_cif_code(unit.code.append(text.substr(unit.size, longest_rest)));
+        const bool goes_on = code && size < code->code.size();
         if (goes_on || would_join(result, unit.code)) {
             result += characters;
         } else {
-            result += unit.code;
+            result.append(unit.code, 0, size);
             if (code && takes_blank(*code)) result += ' ';
         }
     }

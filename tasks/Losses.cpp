@@ -79,6 +79,7 @@ void Losses::note_styles(const TextItem& item, std::vector<Problem>& problems) {
 }
 
 void Losses::note_seen_styles(std::vector<Problem>& problems) {
+    if (seen_ == 0) return;
     for (std::size_t i = 0; i < kinds; ++i) {
         if (!is_lost_[i] || (seen_ & flag_of(rows[i].kind)) == 0) continue;
         is_lost_[i] = false;

@@ -5,19 +5,20 @@
 
 #include "markup/Utf8.h"
 #include "markup/internal/compositions.h"
+#include "markup/internal/size_of_run.h"
 #include "text/Position.h"
 #include "text/internal/ascii.h"
 
 namespace {
 
-/// For each byte whether something may begin with it.
-constexpr auto is_special = [] {
-    std::array<bool, 256> special{};
+/// For each byte whether nothing begins with it.
+constexpr auto is_plain = [] {
+    std::array<bool, 256> plain{};
+    for (std::size_t byte = 0; byte < 0x80; ++byte) plain[byte] = true;
     for (const char c : {'\\', '~', '^', '&', '<', '-', '+'}) {
-        special[static_cast<unsigned char>(c)] = true;
+        plain[static_cast<unsigned char>(c)] = false;
     }
-    for (std::size_t byte = 0x80; byte < special.size(); ++byte) special[byte] = true;
-    return special;
+    return plain;
 }();
 
 bool is_sign(char c) { return c == '-' || c == '+'; }
@@ -29,10 +30,9 @@ bool is_lone_sign(std::string_view text, std::size_t at) {
 
 /// One past the bytes from `at` on that begin nothing.
 std::size_t end_of_plain(std::string_view text, std::size_t at) {
-    while (at < text.size() &&
-           (!is_special[static_cast<unsigned char>(text[at])] || is_lone_sign(text, at))) {
-        ++at;
-    }
+    do {
+        at += size_of_run(text.substr(at), is_plain);
+    } while (at < text.size() && is_lone_sign(text, at) && ++at < text.size());
     return at;
 }
 
@@ -41,10 +41,6 @@ std::size_t size_of_fold(std::string_view text) {
     if (!text.starts_with('\\')) return 0;
     const std::size_t end = text.find_first_not_of(" \t\r", 1);
     return end != std::string_view::npos && text[end] == '\n' ? end + 1 : 0;
-}
-
-std::size_t size_of_run(std::string_view text, char c) {
-    return std::min(text.find_first_not_of(c), text.size());
 }
 
 StringSlice slice(std::size_t from, std::size_t to) { return {to_position(from), to_position(to)}; }
@@ -144,7 +140,7 @@ void CifTextParser::take_sign(std::string_view rest) {
         ++at_;
         return;
     }
-    const std::size_t dashes = size_of_run(rest, '-');
+    const std::size_t dashes = std::min(rest.find_first_not_of('-'), rest.size());
     if (dashes > longest_dash) {
         at_ += dashes;  // a line that is drawn
     } else {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "markup/Utf8.h"
+#include "markup/internal/size_of_run.h"
 
 // Characters that act where they are shown instead of being seen: control characters, which
 // terminals may take for commands (U+0000 to U+001F, U+007F to U+009F), and those that turn the
@@ -50,11 +51,9 @@ inline bool begins_with_harmless_pair(std::string_view text) {
 inline std::size_t size_of_plain(std::string_view text,
                                  const std::array<bool, 256>& stands_for_itself) {
     std::size_t size = 0;
-    while (size < text.size()) {
-        const auto byte = static_cast<unsigned char>(text[size]);
-        if (stands_for_itself[byte]) {
-            ++size;
-        } else if (byte < 0x80) {
+    while (true) {
+        size += size_of_run(text.substr(size), stands_for_itself);
+        if (size == text.size() || static_cast<unsigned char>(text[size]) < 0x80) {
             break;
         } else if (begins_with_harmless_pair(text.substr(size))) {
             size += 2;

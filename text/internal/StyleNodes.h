@@ -43,7 +43,7 @@ private:
     };
     using Block = std::vector<Node>;  // one node a position, ascending
 
-    static constexpr std::size_t most_few = 8;
+    static constexpr std::size_t most_few = 16;
 
     bool crosses_few(const StringSlice& slice) const {
         return std::any_of(few_.begin(), few_.end(), [&slice](const StringSlice& style) {
