@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "comparison/folding.h"
 #include "comparison/journal_names.h"
 #include "entries/PersonName.h"
 #include "entries/read_whole.h"
@@ -227,7 +228,8 @@ std::unique_ptr<Term> make_term(const std::string& written, const TermSettings& 
     const std::string_view name = before_colon(written);
     const TermKind* const kind = name.empty() ? nullptr : row_named(term_kinds(), name);
     const std::string value = kind ? written.substr(name.size() + 1) : written;
-    if (value.find_first_not_of(" \t\r\n") == std::string::npos) {
+    // Other blanks, and what nobody sees, are folded away.
+    if (folded(value, settings.folding).find_first_not_of(" \t\r\n") == std::string::npos) {
         throw BadTerm("'" + written + "' is no term: nothing is asked for");
     }
     if (!kind) return std::make_unique<PlainTerm>(written, written, settings);

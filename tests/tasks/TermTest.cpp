@@ -127,8 +127,8 @@ TEST(Term, IsFoldedWholeAndCombinedAsAskedFor) {
 
 TEST(Term, RefusesWhatIsNone) {
     for (const char* const text :
-         {"", " ", "year:", "year:now", "volume:2-1", "cell:1,2", "cell:1,2,3~x", "cell:0,1,2",
-          "group:Q5", "group:231", "formula:3"}) {
+         {"", " ", "\u00A0\u200B", "\u00AD", "year:", "year:now", "volume:2-1", "cell:1,2",
+          "cell:1,2,3~x", "cell:0,1,2", "group:Q5", "group:231", "formula:3"}) {
         EXPECT_THROW(make_term(text, {}), BadTerm) << text;
     }
     EXPECT_EQ(nearest_term_kind("autor:Smith"), "author");
