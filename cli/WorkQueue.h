@@ -14,12 +14,12 @@ template <class Result>
 class WorkQueue {
 public:
     /// `jobs` threads, 1 or more; with 1 each piece is done when its result is taken.
-    explicit WorkQueue(unsigned int jobs) : most_(jobs > 1 ? 2 * jobs : 1), workers_(jobs) {}
+    explicit WorkQueue(unsigned int jobs) : most_(jobs > 1 ? jobs + 2 : 1), workers_(jobs) {}
 
     bool empty() const { return results_.empty(); }
 
-    /// Whether enough has begun: for each thread a piece that it does and one that it finds when it
-    /// is done, while the one who takes the results is busy with another.
+    /// Whether enough has begun: a piece for each thread, and two that the next ones find when they
+    /// are done while the one who takes the results is busy with another.
     bool is_full() const { return results_.size() >= most_; }
 
     void begin(std::function<Result()> work) {
