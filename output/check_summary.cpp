@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cstring>
-#include <nlohmann/json.hpp>
 
 #include "output/CheckLayout.h"
+#include "output/JsonWriter.h"
 
 namespace {
 
@@ -48,15 +48,24 @@ std::string summary_as_text(const CheckSummary& summary) {
 }
 
 std::string summary_as_json(const CheckSummary& summary) {
-    using Json = nlohmann::ordered_json;
-    Json json{{"files", summary.files()}, {"codes", Json::array()}};
+    const auto add_count = [](JsonWriter& json, const char* name, unsigned long count) {
+        json.add_integer(name, static_cast<std::int64_t>(count));
+    };
+    JsonWriter json;
+    json.begin_object();
+    add_count(json, "files", summary.files());
+    json.begin_array("codes");
     for (const CheckSummary::Counts& counts : summary.counts()) {
         if (counts.findings == 0) continue;
-        json["codes"].push_back({{"code", counts.code->code},
-                                 {"level", name_of(counts.code->level)},
-                                 {"findings", counts.findings},
-                                 {"repairs", counts.repairs},
-                                 {"files", counts.files}});
+        json.begin_object();
+        json.add_text("code", counts.code->code);
+        json.add_text("level", name_of(counts.code->level));
+        add_count(json, "findings", counts.findings);
+        add_count(json, "repairs", counts.repairs);
+        add_count(json, "files", counts.files);
+        json.end_object();
     }
-    return json.dump(1) + '\n';
+    json.end_array();
+    json.end_object();
+    return json.take() + '\n';
 }

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cstring>
-#include <nlohmann/json.hpp>
+
+#include "output/JsonWriter.h"
 
 namespace {
 
 using Counts = ComparisonSummary::Counts;
-using Json = nlohmann::ordered_json;
 
 constexpr std::size_t column_width = 12;
 constexpr char all_entries[] = "Entries";
@@ -24,10 +24,10 @@ void append_row(std::string& table, std::size_t width, std::string label, const 
     table.append(label).append("\n");
 }
 
-Json json_of(const Counts& counts) {
-    Json json;
-    for (std::size_t i = 0; i < counts.size(); ++i) json[name_of_column(i)] = counts[i];
-    return json;
+void write(JsonWriter& json, const Counts& counts) {
+    for (std::size_t i = 0; i < counts.size(); ++i) {
+        json.add_integer(name_of_column(i), static_cast<std::int64_t>(counts[i]));
+    }
 }
 
 }  // namespace
@@ -54,12 +54,21 @@ std::string summary_as_text(const ComparisonSummary& summary, std::span<const Fi
 }
 
 std::string summary_as_json(const ComparisonSummary& summary, std::span<const Field> compared) {
-    Json json{{"entries", json_of(summary.entries)}, {"fields", Json::array()}};
+    JsonWriter json;
+    json.begin_object();
+    json.begin_object("entries");
+    write(json, summary.entries);
+    json.end_object();
+    json.begin_array("fields");
     for (std::size_t i = 0; i < summary.fields.size(); ++i) {
         if (!has_any(summary.fields[i])) continue;
-        Json field{{"label", compared[i].label}, {"group", compared[i].group}};
-        field.update(json_of(summary.fields[i]));
-        json["fields"].push_back(std::move(field));
+        json.begin_object();
+        json.add_text("label", compared[i].label);
+        json.add_text("group", compared[i].group);
+        write(json, summary.fields[i]);
+        json.end_object();
     }
-    return json.dump(1) + '\n';
+    json.end_array();
+    json.end_object();
+    return json.take() + '\n';
 }
