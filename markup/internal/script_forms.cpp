@@ -34,6 +34,16 @@ constexpr bool is_ascending() {
 }
 static_assert(is_ascending());
 
+/// The rows of the characters of ASCII, each number one more; 0: it has no forms.
+constexpr auto rows_of_ascii = [] {
+    std::array<unsigned char, 0x80> rows{};
+    for (std::size_t i = 0; i < std::size(script_forms); ++i) {
+        const char32_t base = script_forms[i].base;
+        if (base < rows.size()) rows[base] = static_cast<unsigned char>(i + 1);
+    }
+    return rows;
+}();
+
 struct Form {
     char32_t form;
     ScriptCharacter character;
@@ -65,6 +75,10 @@ constexpr auto has_forms = [] {
 }  // namespace
 
 const ScriptForms* script_forms_of(char32_t base) {
+    if (base < rows_of_ascii.size()) {
+        const std::size_t number = rows_of_ascii[base];
+        return number > 0 ? &script_forms[number - 1] : nullptr;
+    }
     const auto* const row = std::lower_bound(
         std::begin(script_forms), std::end(script_forms), base,
         [](const ScriptForms& forms_of_one, char32_t code) { return forms_of_one.base < code; });

@@ -47,7 +47,10 @@ private:
 
     bool crosses_few(const StringSlice& slice) const {
         return std::any_of(few_.begin(), few_.end(), [&slice](const StringSlice& style) {
-            return style.partial_intersection(slice);
+            return style.from() < slice.from()
+                       ? slice.from() < style.to() && style.to() < slice.to()
+                       : slice.from() < style.from() && style.from() < slice.to() &&
+                             slice.to() < style.to();
         });
     }
     bool crosses_hull(const StringSlice& slice) const;

@@ -8,9 +8,9 @@
 /// in r runs.
 template <class T>
 void sort_runs(std::vector<T>& list) {
-    constexpr std::size_t few = 16;
+    constexpr std::size_t few = 64;
     if (list.size() <= few) {
-        std::sort(list.begin(), list.end());  // moves so few in place
+        std::sort(list.begin(), list.end());  // in place, which is quicker for so few
         return;
     }
     std::vector<std::ptrdiff_t> ends{0};
