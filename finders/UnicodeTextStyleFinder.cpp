@@ -1,6 +1,5 @@
 #include "finders/UnicodeTextStyleFinder.h"
 
-#include <array>
 #include <string_view>
 
 #include "markup/Utf8.h"
@@ -13,13 +12,7 @@ namespace {
 
 constexpr char32_t overline = U'\u0305';
 
-/// For each byte whether it is a character of ASCII that begins nothing.
-constexpr auto is_plain = [] {
-    std::array<bool, 256> plain{};
-    for (std::size_t byte = 0; byte < 0x80; ++byte) plain[byte] = true;
-    for (const char c : {'_', '^', '{', '}'}) plain[static_cast<unsigned char>(c)] = false;
-    return plain;
-}();
+constexpr auto is_plain = all_ascii_but("_^{}");  // nothing begins with it
 
 /// As they are typed in place of the Greek letters.
 TextItem::GreekSymbol symbol_of(char32_t code) {

@@ -23,22 +23,6 @@ constexpr int debug_level = 3;
 
 unsigned int due_at(std::uint64_t pending) { return static_cast<unsigned int>(pending >> 32); }
 
-/// Sorts styles that begin at one position, those that end at one too in their order.
-void put_outermost_first(std::vector<const TextItemStyle*>& styles) {
-    const auto ends_later = [](const TextItemStyle* a, const TextItemStyle* b) {
-        return a->to() > b->to();
-    };
-    constexpr std::size_t few = 8;
-    if (styles.size() > few) {
-        std::stable_sort(styles.begin(), styles.end(), ends_later);
-        return;
-    }
-    // Without the memory that std::stable_sort() takes first: mostly there are one or two.
-    for (auto style = styles.begin(); style != styles.end(); ++style) {
-        std::rotate(std::upper_bound(styles.begin(), style, *style, ends_later), style, style + 1);
-    }
-}
-
 template <class Style>
 bool find_start(unsigned int position, std::span<const THandle<Style>> styles,
                 THandle<Style>& found) {
@@ -82,7 +66,8 @@ void RichTextGenerator::append_closing_tags(std::string& result, unsigned int po
 }
 
 void RichTextGenerator::open(std::string& result) const {
-    put_outermost_first(beginning_);
+    sort_few(beginning_,
+             [](const TextItemStyle* a, const TextItemStyle* b) { return a->to() > b->to(); });
     for (const TextItemStyle* style : beginning_) {
         const std::string start_tag = style->start_tag(*tag_factory_);
         EndTag end{style->end_tag(*tag_factory_), style->kind()};

@@ -11,15 +11,7 @@
 
 namespace {
 
-/// For each byte whether nothing begins with it.
-constexpr auto is_plain = [] {
-    std::array<bool, 256> plain{};
-    for (std::size_t byte = 0; byte < 0x80; ++byte) plain[byte] = true;
-    for (const char c : {'\\', '~', '^', '&', '<', '-', '+'}) {
-        plain[static_cast<unsigned char>(c)] = false;
-    }
-    return plain;
-}();
+constexpr auto is_plain = all_ascii_but("\\~^&<-+");  // nothing begins with it
 
 bool is_sign(char c) { return c == '-' || c == '+'; }
 

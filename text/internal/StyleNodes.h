@@ -23,7 +23,7 @@ public:
     /// Whether `slice` and some style have a partial intersection. Like add(), for slices within
     /// the text only.
     bool crosses(const StringSlice& slice) const {
-        return slice.length() > 1 && (crosses_few(slice) || crosses_hull(slice));
+        return slice.length() > 1 && (crosses_few(slice) || (!empty_ && crosses_hull(slice)));
     }
 
     /// Adds the nodes of one style; leaves everything as it was when memory runs out.

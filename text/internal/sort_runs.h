@@ -26,3 +26,18 @@ void sort_runs(std::vector<T>& list) {
         }
     }
 }
+
+/// What std::stable_sort() does, without the memory that it takes first, for lists that mostly have
+/// one or two elements.
+template <class T, class Less>
+void sort_few(std::vector<T>& list, Less less) {
+    if (list.size() < 2) return;
+    constexpr std::size_t few = 8;
+    if (list.size() > few) {
+        std::stable_sort(list.begin(), list.end(), less);
+        return;
+    }
+    for (auto next = list.begin() + 1; next != list.end(); ++next) {
+        std::rotate(std::upper_bound(list.begin(), next, *next, less), next, next + 1);
+    }
+}
