@@ -2,6 +2,7 @@
 
 #include "markup/Utf8.h"
 #include "markup/internal/controls.h"
+#include "markup/internal/size_of_run.h"
 #include "output/harmless_json.h"
 
 namespace {
@@ -26,7 +27,12 @@ bool is_plain(std::string_view text) {
 }  // namespace
 
 void JsonWriter::add_text(const char* name, std::string_view text) {
+    static constexpr std::array<bool, 256> never_escaped = ascii_but("\"\\<");
     begin_value(name);
+    if (size_of_run(text, never_escaped) == text.size()) {  // as most
+        json_.append(1, '"').append(text) += '"';
+        return;
+    }
     if (!is_plain(text)) {
         json_ += harmless_json(text, false);
         return;
@@ -61,8 +67,15 @@ void JsonWriter::end(char bracket) {
 void JsonWriter::begin_value(const char* name) {
     if (!is_first_) json_ += ',';
     if (depth_ > 0) begin_line();
-    if (name) json_.append(1, '"').append(name).append("\": ");
+    if (name) json_.append(1, '"').append(name).append("\": ", 3);
     is_first_ = false;
+}
+
+/// A line end and the indent, which few lines have more of than is written at once.
+void JsonWriter::begin_line() {
+    constexpr std::string_view line = "\n                ";
+    json_ += line.substr(0, depth_ + 1);
+    if (depth_ + 1 > line.size()) json_.append(depth_ + 1 - line.size(), ' ');
 }
 
 void JsonWriter::add_word(const char* name, std::string_view word) {
