@@ -67,9 +67,9 @@ private:
     bool skip_plain() {
         const std::size_t end = at_ + size_of_run(text_.substr(at_), is_plain);
         if (end == text_.size()) return true;
-        const bool has_mark = combines(first_character(text_.substr(end)).code);
-        if (end > at_ + (has_mark ? 1 : 0)) {
-            at_ = end - (has_mark ? 1 : 0);
+        const std::size_t kept = combines(first_character(text_.substr(end)).code) ? 1 : 0;
+        if (end > at_ + kept) {
+            at_ = end - kept;
             unit_ = at_ - 1;
         }
         return false;
