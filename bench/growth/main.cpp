@@ -1,5 +1,6 @@
-// growth [PART [STEP]]: runs every case, or those with that part in their names and of them every
-// STEP-th, at one, two and four times its size, and has callgrind count the instructions of each.
+// growth [PART [STEP [FIRST]]]: runs every case, or those with that part in their names and of them
+// every STEP-th from FIRST on, counted from 0, at one, two and four times its size, and has
+// callgrind count the instructions of each.
 #include <malloc.h>
 #include <valgrind/callgrind.h>
 
@@ -35,11 +36,12 @@ int main(int argc, char** argv) {
     }
     const std::string part = argc > 1 ? argv[1] : "";
     const unsigned long step = argc > 2 ? std::strtoul(argv[2], nullptr, 10) : 1;
+    const unsigned long first = argc > 3 ? std::strtoul(argv[3], nullptr, 10) : 0;
     unsigned long number = 0;
     for (const auto cases : {style_cases, text_cases, comparison_cases, task_cases, edit_cases,
                              check_cases, output_cases}) {
         for (const Case& c : cases()) {
-            if (c.name.find(part) != std::string::npos && number++ % step == 0) run(c);
+            if (c.name.find(part) != std::string::npos && number++ % step == first) run(c);
         }
     }
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Counts the instructions of each case of the growth suite and fails where twice the input takes
-# more than 2.5 times as many: run.sh SUITE [PART OF THEIR NAMES [STEP]].
+# more than 2.5 times as many: run.sh SUITE [PART OF THEIR NAMES [STEP [FIRST]]].
 set -euo pipefail
 
 suite=$(realpath "$1")
@@ -9,7 +9,7 @@ trap 'rm -rf "$folder"' EXIT
 
 cd "$folder"
 valgrind --tool=callgrind --collect-atstart=no --callgrind-out-file=counts \
-    "$suite" "${2-}" "${3-1}" >log 2>&1 || {
+    "$suite" "${2-}" "${3-1}" "${4-0}" >log 2>&1 || {
     cat log >&2
     exit 1
 }
