@@ -53,17 +53,15 @@ inline std::size_t size_of_plain(std::string_view text,
     std::size_t size = 0;
     while (true) {
         size += size_of_run(text.substr(size), stands_for_itself);
-        if (size == text.size() || static_cast<unsigned char>(text[size]) < 0x80) {
-            break;
-        } else if (begins_with_harmless_pair(text.substr(size))) {
+        if (size == text.size() || static_cast<unsigned char>(text[size]) < 0x80) return size;
+        if (begins_with_harmless_pair(text.substr(size))) {
             size += 2;
-        } else {
-            const Utf8Character character = first_character(text.substr(size));
-            if (!is_harmless(character)) break;
-            size += character.size;
+            continue;
         }
+        const Utf8Character character = first_character(text.substr(size));
+        if (!is_harmless(character)) return size;
+        size += character.size;
     }
-    return size;
 }
 
 /// Appends `text`: what is plain as it is, and the others each by `append_other`, which is given
