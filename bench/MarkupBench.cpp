@@ -6,6 +6,7 @@
 #include "finders/CifChemicalNameStyleFinder.h"
 #include "finders/TevoChemicalNameStyleFinder.h"
 #include "markup/HtmlRichTextGenerator.h"
+#include "text/TextAtom.h"
 #include "text/TextItem.h"
 
 namespace {
@@ -31,6 +32,23 @@ BENCHMARK_CAPTURE(large_text, cif_names, make_handle<CifChemicalNameStyleFinder>
     ->Arg(1 << 20)
     ->Arg(1 << 21)
     ->Unit(benchmark::kMillisecond);
+
+/// Runs of one look each, of two or three characters.
+void atomise_dense(benchmark::State& state) {
+    const TextItem item(make_handle<CifChemicalNameStyleFinder>(),
+                        repeated("iron~2~oxo~3~--", static_cast<std::size_t>(state.range(0))));
+    std::size_t runs = 0;
+    for (auto _ : state) {
+        const std::vector<TextAtom> atoms = item.atomize();
+        runs = atoms.size();
+        benchmark::DoNotOptimize(atoms.data());
+    }
+    state.counters["runs"] = static_cast<double>(runs);
+    state.counters["a_run"] = benchmark::Counter(
+        static_cast<double>(runs),
+        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(atomise_dense)->Arg(10000)->Arg(20000);
 
 /// A text with as many styles as characters / 21, by one creator call each, in a shape.
 template <class Shape>
