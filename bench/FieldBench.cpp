@@ -63,16 +63,15 @@ void measure(benchmark::State& state, const Fields& fields, RichTextGenerator& g
         item.set_text(text);
         output.push_back(item.mark_up_text(generator));
     }
-    const double limit = limit_of(output);
     for (std::size_t i = 0; i < round_size; ++i) process(i);
     const unsigned long before = allocations();
     for (std::size_t i = 0; i < round_size; ++i) process(i);
     const auto made = static_cast<double>(allocations() - before);
-    const double time = timed(state, [&] {
+    const PairedTime time = timed_beside_limit(state, output, [&] {
         for (std::size_t i = 0; i < round_size; ++i) process(i);
     });
-    state.counters["ns_a_text"] = time / round_size * 1e9;
-    state.counters["limits"] = time / limit;
+    state.counters["ns_a_text"] = time.seconds / round_size * 1e9;
+    state.counters["limits"] = time.limits;
     state.counters["allocs"] = made / round_size;
 }
 

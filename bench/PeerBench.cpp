@@ -33,8 +33,11 @@ std::string name_of(const benchmark::State& state) {
 template <class Process>
 void measure(benchmark::State& state, const std::string& output, Process process) {
     const std::vector<std::string> copies(output.size() < 1000 ? 1000 : 1, output);
-    const double limit = limit_of(copies) / static_cast<double>(copies.size());
-    state.counters["limits"] = timed(state, process) / limit;
+    const PairedTime time = timed_beside_limit(state, copies, [&] {
+        for (std::size_t i = 0; i < copies.size(); ++i) process();
+    });
+    state.counters["ns_a_text"] = time.seconds / static_cast<double>(copies.size()) * 1e9;
+    state.counters["limits"] = time.limits;
 }
 
 template <class Generator>

@@ -1,12 +1,36 @@
 #include "bench/texts.h"
 
+#include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
+#include <new>
 #include <stdexcept>
 
 #include "finders/TevoChemicalNameStyleFinder.h"
 #include "text/TextItem.h"
+
+namespace {
+
+double seconds_of(const std::function<void()>& process) {
+    const auto begin = std::chrono::steady_clock::now();
+    process();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+void copy_each(const std::vector<std::string>& texts) {
+    for (const std::string& text : texts) {
+        void* const copy = std::malloc(text.size());
+        if (!copy) throw std::bad_alloc();
+        std::memcpy(copy, text.data(), text.size());
+        benchmark::DoNotOptimize(copy);
+        benchmark::ClobberMemory();
+        std::free(copy);
+    }
+}
+
+}  // namespace
 
 std::vector<std::string> lines_of(const std::string& file) {
     std::ifstream stream(DATA_FOLDER "/" + file);
@@ -26,25 +50,24 @@ std::vector<std::string> names_by(const THandle<RichTextGenerator>& generator) {
     return names;
 }
 
-double limit_of(const std::vector<std::string>& texts) {
-    using Clock = std::chrono::steady_clock;
-    const auto begin = Clock::now();
-    const auto seconds = [&] {
-        return std::chrono::duration<double>(Clock::now() - begin).count();
-    };
-    int rounds = 0;
-    do {
-        for (const std::string& text : texts) {
-            void* const copy = std::malloc(text.size());
-            if (!copy) throw std::bad_alloc();
-            std::memcpy(copy, text.data(), text.size());
-            benchmark::DoNotOptimize(copy);
-            benchmark::ClobberMemory();
-            std::free(copy);
-        }
-        ++rounds;
-    } while (seconds() < 0.05);
-    return seconds() / rounds;
+double median(std::vector<double>& values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+PairedTime timed_beside_limit(benchmark::State& state, const std::vector<std::string>& texts,
+                              const std::function<void()>& process) {
+    std::vector<double> times, limits;
+    for (auto _ : state) {
+        times.push_back(seconds_of(process));
+        state.PauseTiming();
+        copy_each(texts);  // brings them back into the caches
+        limits.push_back(seconds_of([&] { copy_each(texts); }));
+        state.ResumeTiming();
+    }
+    const double seconds = median(times);
+    return {seconds, seconds / median(limits)};
 }
 
 std::string repeated(const std::string& unit, std::size_t length) {

@@ -2,7 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <chrono>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,17 +15,19 @@ std::vector<std::string> lines_of(const std::string& file);
 /// The names with Greek letters or scripts, as the generator writes them.
 std::vector<std::string> names_by(const THandle<RichTextGenerator>& generator);
 
-/// Runs `process` as often as the benchmark wants; returns the seconds that one run takes.
-template <class Process>
-double timed(benchmark::State& state, Process process) {
-    const auto begin = std::chrono::steady_clock::now();
-    for (auto _ : state) process();
-    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
-    return time.count() / static_cast<double>(state.iterations());
-}
+/// The value in the middle of one or more, which it puts into another order.
+double median(std::vector<double>& values);
 
-/// The time in seconds for one allocation of each text, a copy of it and its deallocation: what no
-/// operation that returns these texts can fall below.
-double limit_of(const std::vector<std::string>& texts);
+/// What a piece of work takes, as the median of many times.
+struct PairedTime {
+    double seconds;
+    double limits;  ///< As a multiple of the limit.
+};
+
+/// Runs `process` as often as the benchmark wants. Its limit is one allocation of each text, a copy
+/// of it and its deallocation, what nothing that returns these texts can fall below. It is measured
+/// in turns with it, as a machine that others use changes its pace.
+PairedTime timed_beside_limit(benchmark::State& state, const std::vector<std::string>& texts,
+                              const std::function<void()>& process);
 
 std::string repeated(const std::string& unit, std::size_t length);
