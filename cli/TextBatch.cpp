@@ -1,8 +1,10 @@
 #include "cli/TextBatch.h"
 
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <optional>
+#include <thread>
 #include <utility>
 
 #include "cli/Progress.h"
@@ -12,6 +14,13 @@
 #include "cli/report.h"
 
 namespace {
+
+/// As many of the jobs as there are processors for: more would only take the memory of their
+/// blocks out of each other's caches. Nothing of a text is waited for, as files are.
+unsigned int useful_threads(unsigned int jobs) {
+    const unsigned int processors = std::thread::hardware_concurrency();
+    return processors == 0 ? jobs : std::min(jobs, processors);
+}
 
 /// Takes the files in turn and keeps as many blocks in work as there are jobs.
 class Batch {
@@ -114,7 +123,7 @@ private:
     BatchOutcome outcome_;
     unsigned int file_number_ = 0;  // of the file that is read, from 1
     unsigned int given_up_ = 0;     // the number of the file of which no more is written
-    WorkQueue<Done> in_work_{batch_.jobs};
+    WorkQueue<Done> in_work_{useful_threads(batch_.jobs)};
 };
 
 }  // namespace

@@ -12,7 +12,7 @@ struct BatchOutcome {
 struct TextBatch {
     Places places{};        // none: standard input
     char separator = '\n';  // ends each text, read or written
-    unsigned int jobs = 1;  // threads that work on them, 1 or more
+    unsigned int jobs = 1;  // threads, 1 or more, of which as many work as there are processors
     bool shows_progress = true;
 
     /// Hands block after block of the texts to a process of its own and writes what they return to

@@ -50,7 +50,7 @@ std::string help_text(const ChoiceOption& option) {
 void add_jobs_option(CLI::App& command, unsigned int& jobs, const std::string& what) {
     command
         .add_option("-j,--jobs", jobs,
-                    "Work in that many threads; the order of the " + what + " stays")
+                    "Work in up to that many threads; the order of the " + what + " stays")
         ->check(CLI::Range(1U, most_jobs));
 }
 
