@@ -14,10 +14,13 @@ constexpr DisplayedText::Unit units[] = {DisplayedText::bytes, DisplayedText::ch
 
 }  // namespace
 
-DisplayedText::DisplayedText(const TextItem& item) : runs_{{0, {0, 0, 0}, false}} {
+DisplayedText::DisplayedText(const TextItem& item) : DisplayedText(item, item.atomize()) {}
+
+DisplayedText::DisplayedText(const TextItem& item, const std::vector<TextAtom>& atoms)
+    : runs_{{0, {0, 0, 0}, false}} {
     const TextItemToUnicodeGreek letters;
     if (item.characters().empty()) return;  // of which there is an atom, with a NUL
-    for (const TextAtom& atom : item.atomize()) {
+    for (const TextAtom& atom : atoms) {
         const std::string covered = atom.text();
         if (atom.invisible()) {
             add_covered(length_of(covered), "");

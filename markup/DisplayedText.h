@@ -6,6 +6,7 @@
 
 #include "text/StringSlice.h"
 
+class TextAtom;
 class TextItem;
 
 /// The text that a reader of an item sees: Greek letters and replacement texts in place of what
@@ -19,6 +20,8 @@ public:
 
     /// O(n + m log m) for n characters and m styles.
     explicit DisplayedText(const TextItem& item);
+    /// The same, by one who has the runs of the item already, as it gives them.
+    DisplayedText(const TextItem& item, const std::vector<TextAtom>& atoms);
 
     /// In UTF-8 where the item is.
     const std::string& text() const { return text_; }

@@ -39,14 +39,15 @@ void write(JsonWriter& json, const StringSlice& range) {
 }
 
 /// The runs of uniform style, with their positions where there is a teller.
-void write_atoms(JsonWriter& json, const TextItem& item, const PositionTeller* teller) {
+void write_atoms(JsonWriter& json, const std::vector<TextAtom>& atoms,
+                 const PositionTeller* teller) {
     json.begin_array("atoms");
     unsigned int from = 0;
-    for (const TextAtom& atom : item.atomize()) {
+    for (const TextAtom& atom : atoms) {
         const unsigned int to = from + length_of(atom.text());
         json.begin_object();
         write(json, atom);
-        if (teller && !item.characters().empty()) write(json, teller->told({from, to}));
+        if (teller) write(json, teller->told({from, to}));
         json.end_object();
         from = to;
     }
@@ -58,20 +59,22 @@ class Text {
 public:
     Text(const TextItem& item, const std::optional<TextPositions>& positions)
         : item_(item),
-          displayed_(item),
+          atoms_(item.atomize()),
+          displayed_(item, atoms_),
           teller_(item, displayed_, positions.value_or(TextPositions())),
-          tells_(positions) {}
+          tells_(positions && !item.characters().empty()) {}
 
     void write_to(JsonWriter& json, Html5RichTextGenerator& generator) const {
         json.add_text("text", item_.characters());
         json.add_text("displayed", displayed_.text());
         json.add_text("markup", item_.mark_up_text(generator));
-        write_atoms(json, item_, tells_ ? &teller_ : nullptr);
+        write_atoms(json, atoms_, tells_ ? &teller_ : nullptr);
     }
     StringSlice told(const StringSlice& range) const { return teller_.told(range); }
 
 private:
     const TextItem& item_;
+    std::vector<TextAtom> atoms_;
     DisplayedText displayed_;
     PositionTeller teller_;
     bool tells_;  // of runs; of what differs always

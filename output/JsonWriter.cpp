@@ -30,7 +30,9 @@ void JsonWriter::add_text(const char* name, std::string_view text) {
     static constexpr std::array<bool, 256> never_escaped = ascii_but("\"\\<");
     begin_value(name);
     if (size_of_run(text, never_escaped) == text.size()) {  // as most
-        json_.append(1, '"').append(text) += '"';
+        json_ += '"';
+        json_ += text;
+        json_ += '"';
         return;
     }
     if (!is_plain(text)) {
@@ -59,23 +61,32 @@ void JsonWriter::begin(const char* name, char bracket) {
 
 void JsonWriter::end(char bracket) {
     --depth_;
-    if (!is_first_) begin_line();
+    if (!is_first_) begin_line(false);
     json_ += bracket;
     is_first_ = false;
 }
 
 void JsonWriter::begin_value(const char* name) {
-    if (!is_first_) json_ += ',';
-    if (depth_ > 0) begin_line();
-    if (name) json_.append(1, '"').append(name).append("\": ", 3);
+    if (depth_ > 0) {
+        begin_line(!is_first_);
+    } else if (!is_first_) {
+        json_ += ',';
+    }
+    if (name) {
+        json_ += '"';
+        json_ += name;
+        json_.append("\": ", 3);
+    }
     is_first_ = false;
 }
 
 /// A line end and the indent, which few lines have more of than is written at once.
-void JsonWriter::begin_line() {
-    constexpr std::string_view line = "\n                ";
-    json_ += line.substr(0, depth_ + 1);
-    if (depth_ + 1 > line.size()) json_.append(depth_ + 1 - line.size(), ' ');
+void JsonWriter::begin_line(bool after_comma) {
+    constexpr std::string_view line = ",\n                ";
+    const std::size_t size = depth_ + 2;
+    const std::size_t from = after_comma ? 0 : 1;
+    json_ += line.substr(from, size - from);
+    if (size > line.size()) json_.append(size - line.size(), ' ');
 }
 
 void JsonWriter::add_word(const char* name, std::string_view word) {

@@ -33,7 +33,7 @@ private:
     void begin(const char* name, char bracket);
     void end(char bracket);
     void begin_value(const char* name);
-    void begin_line();
+    void begin_line(bool after_comma);
     void add_word(const char* name, std::string_view word);
 
     std::string json_;

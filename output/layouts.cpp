@@ -14,25 +14,25 @@
 
 namespace {
 
-using Labels = std::vector<std::string>;
-
 /// A form of entries that is no target's.
 struct OwnForm {
     const char* name;
     const char* help;
-    std::unique_ptr<EntryLayout> (*make)(const Labels& labels,
+    std::unique_ptr<EntryLayout> (*make)(std::span<const Field> fields,
                                          std::optional<TextPositions> positions);
 };
 
 template <TableLayout::Form form>
-std::unique_ptr<EntryLayout> make_table(const Labels& labels,
+std::unique_ptr<EntryLayout> make_table(std::span<const Field> fields,
                                         std::optional<TextPositions> /*positions*/) {
+    std::vector<std::string> labels;
+    for (const Field& field : fields) labels.emplace_back(field.label);
     return std::make_unique<TableLayout>(form, labels);
 }
 
 constexpr OwnForm own_forms[] = {
     {"json", "labels, groups, texts, mark-up and runs of uniform style of each entry (.json)",
-     [](const Labels& /*labels*/, std::optional<TextPositions> positions)
+     [](std::span<const Field> /*fields*/, std::optional<TextPositions> positions)
          -> std::unique_ptr<EntryLayout> { return std::make_unique<JsonLayout>(positions); }},
     {"csv",
      "a row an entry and a column a field, for spreadsheets; what they would take for a formula "
@@ -68,9 +68,7 @@ std::unique_ptr<EntryLayout> make_entry_layout(const Output& output, bool own_fi
                                                std::span<const Field> wanted,
                                                std::optional<TextPositions> positions) {
     if (!output.target) {
-        Labels labels;
-        for (const Field& field : wanted) labels.emplace_back(field.label);
-        return row_named(std::span<const OwnForm>(own_forms), output.name)->make(labels, positions);
+        return row_named(std::span<const OwnForm>(own_forms), output.name)->make(wanted, positions);
     }
     if (own_file && output.target->use == RichTextTarget::Use::page) {
         return std::make_unique<EntryPage>();
