@@ -6,7 +6,6 @@
 #include "default_host/internal/RegexMatch.h"
 
 void RegexResults::Match::prepare(unsigned int numbers) {
-    size = 0;
     if (capacity >= numbers) return;
     auto* const larger = pcre2_match_data_create(numbers, nullptr);
     if (!larger) throw std::bad_alloc();

@@ -20,6 +20,6 @@ struct RegexResults::Match {
     const std::string* text = nullptr;
     unsigned int size = 0;
 
-    /// Empties the match and sees to it that it has room for `numbers` numbers.
+    /// Sees to it that there is room for `numbers` numbers.
     void prepare(unsigned int numbers);
 };

@@ -36,6 +36,25 @@ TEST(Regex, SearchesFromAPositionAndTellsTheGroups) {
     EXPECT_EQ(results.size(), 0U);
 }
 
+TEST(Regex, FindsWhatBeginsWithOneByteAsWhatMayBeginWithSeveral) {
+    const struct {
+        const char* pattern;
+        std::string text;
+        unsigned int position, start;
+    } rows[] = {{"~b", "~b~b", 1, 2},        {"(?i)a~", "xA~", 0, 1}, {"(?<=a)~", "~a~", 0, 2},
+                {"a\\K~", "~a~", 0, 2},      {"~?b", "ab", 0, 1},     {"(?i)~a", "~A", 0, 0},
+                {"\\x00", {"a\0", 2}, 0, 1}, {"\xE4", "a\xE4", 0, 1}};
+    for (const auto& [pattern, text, position, start] : rows) {
+        const Regex regex(pattern);
+        RegexResults results;
+        ASSERT_TRUE(regex.search_from_position(text, position, results)) << pattern;
+        EXPECT_EQ(results.start(), start) << pattern;
+        const std::string without = "b";
+        if (regex.search_from_position(without, 1, results)) ADD_FAILURE() << pattern;
+        EXPECT_EQ(results.size(), 0U) << pattern;
+    }
+}
+
 TEST(Regex, FreeSpacingIgnoresWhiteSpaceAndComments) {
     RegexResults results;
     const std::string text = "abd";
