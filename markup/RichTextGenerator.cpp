@@ -23,6 +23,11 @@ constexpr int debug_level = 3;
 
 unsigned int due_at(std::uint64_t pending) { return static_cast<unsigned int>(pending >> 32); }
 
+bool has_styles(const RichTextData& data) {
+    return !data.styles().empty() || !data.invisible().empty() || !data.greek().empty() ||
+           !data.replacement_text().empty();
+}
+
 template <class Style>
 bool find_start(unsigned int position, std::span<const THandle<Style>> styles,
                 THandle<Style>& found) {
@@ -82,8 +87,8 @@ void RichTextGenerator::open(std::string& result) const {
 
 /// One call of mark_up_text(): the text, and how much of it is written.
 struct RichTextGenerator::Pass {
-    Pass(const RichTextGenerator& writer, const RichTextData& rich_text)
-        : generator(writer), data(rich_text) {
+    Pass(const RichTextGenerator& writer, const RichTextData& rich_text, std::string& written)
+        : generator(writer), data(rich_text), result(written) {
         generator.starts_.clear();
         note_starts(data.styles(), tag_list);
         note_starts(data.invisible(), invisible_list);
@@ -149,8 +154,8 @@ struct RichTextGenerator::Pass {
 
     const RichTextGenerator& generator;
     const RichTextData& data;
+    std::string& result;
     const std::uint64_t* start = nullptr;  // of the next style that begins
-    std::string result;
     unsigned int column = 0;
     unsigned int covered_until = 0;
 };
@@ -166,19 +171,25 @@ std::string RichTextGenerator::mark_up_text(const RichTextData& data) const {
     current_invisible_ = {};
     current_greek_ = {};
     current_replacement_text_ = {};
-    Pass pass(*this, data);
     const std::string_view text = data.characters();
     const unsigned int n = length_of(text);
-    pass.result.reserve(n + 16 * (data.styles().size() + 1) + 8 * data.greek().size());
+    std::string result;
+    result.reserve(n + 16 * (data.styles().size() + 1) + 8 * data.greek().size());
+    if (!has_styles(data)) {  // as most texts
+        unsigned int column = 0;
+        add_text_block(result, text, column, data.line_length());
+        return result;
+    }
+    Pass pass(*this, data, result);
     // Each turn stands where something begins or ends and goes on to the next such position.
     for (unsigned int i = 0;;) {
-        append_closing_tags(pass.result, i);
+        append_closing_tags(result, i);
         pass.append_opening_tags(i);
-        if (i == n) return std::move(pass.result);
+        if (i == n) return result;
         const unsigned int plain_from = pass.write_cover(i);
         i = pass.next_turn(n);
         if (plain_from < i) {
-            add_text_block(pass.result, text.substr(plain_from, i - plain_from), pass.column,
+            add_text_block(result, text.substr(plain_from, i - plain_from), pass.column,
                            data.line_length());
         }
     }
